@@ -1,0 +1,15 @@
+# zel_add_test(<name>) builds tests/tst_<name>.cpp against the static library and registers it with ctest.
+
+if(ZEL_QT_MAJOR EQUAL 5)
+    find_package(Qt5 REQUIRED COMPONENTS Test)
+else()
+    find_package(Qt6 REQUIRED COMPONENTS Test)
+endif()
+
+function(zel_add_test name)
+    add_executable(tst_${name} tst_${name}.cpp ${ARGN})
+    target_include_directories(tst_${name} PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}")
+    target_link_libraries(tst_${name} PRIVATE zelutilityi18n_static Qt::Test zel_warnings)
+    add_test(NAME ${name} COMMAND tst_${name})
+    set_tests_properties(${name} PROPERTIES TIMEOUT 300)
+endfunction()

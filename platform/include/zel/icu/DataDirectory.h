@@ -1,0 +1,27 @@
+#ifndef ZEL_ICU_DATADIRECTORY_H
+#define ZEL_ICU_DATADIRECTORY_H
+
+/**
+ * Where ICU finds the relative-date phrases.
+ *
+ * The library behind this header, libzelicudata, points ICU to the directory with the phrase tables when it is loaded:
+ * to share/zel/icu beside its own lib directory. It leaves ICU alone when ICU_DATA or the application has named a
+ * directory by then, and when that directory has no data for the version of ICU in use. An application that wants data
+ * of its own calls u_setDataDirectory() in main(), before its first use of ICU.
+ *
+ * The functions may be called from any thread.
+ */
+namespace zel::icudata {
+
+/** The directory with phrase tables beside this library, absolute, or "" where there is none. */
+__attribute__((visibility("default"))) const char* dataDirectory() noexcept;
+
+/** Whether ICU looks into dataDirectory(). False where somebody else named a directory, and where there is none. */
+__attribute__((visibility("default"))) bool isDataDirectoryInUse() noexcept;
+
+/** Whether the data that ICU opens by default has phrase tables, wherever it comes from. */
+__attribute__((visibility("default"))) bool hasPhraseTables() noexcept;
+
+} // namespace zel::icudata
+
+#endif

@@ -1,0 +1,209 @@
+#include "PpsCodec.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <QtCore/QList>
+#include <zel/PpsObject.h>
+
+namespace zel {
+
+namespace {
+
+// Why something cannot be decoded; null where it can.
+using Reason = const char*;
+
+Reason decodeText(const QByteArray& line, QString& text)
+{
+    if (line.contains('\0')) {
+        return "NUL character";
+    }
+    text = QString::fromUtf8(line);
+    // Whatever Qt replaces or drops on the way in does not come out again.
+    return text.toUtf8() == line ? nullptr : "not valid UTF-8";
+}
+
+bool hasControlCharacter(const QString& name)
+{
+    return std::any_of(name.begin(), name.end(), [](QChar c) { return c.category() == QChar::Other_Control; });
+}
+
+Reason decodeName(const QByteArray& line, QString& name)
+{
+    if (const Reason reason = decodeText(line, name)) {
+        return reason;
+    }
+    if (name.size() < 2 || !name.startsWith(QLatin1Char('@'))) {
+        return "expected '@' and the name of the object";
+    }
+    return hasControlCharacter(name) ? "control character in the name" : nullptr;
+}
+
+Reason unescape(const QString& escaped, QVariant& value)
+{
+    QString text;
+    text.reserve(escaped.size());
+    for (auto c = escaped.begin(); c != escaped.end(); ++c) {
+        if (*c != QLatin1Char('\\')) {
+            text += *c;
+        } else if (++c != escaped.end() && *c == QLatin1Char('n')) {
+            text += QLatin1Char('\n');
+        } else if (c != escaped.end() && *c == QLatin1Char('\\')) {
+            text += QLatin1Char('\\');
+        } else {
+            return "unknown escape";
+        }
+    }
+    value = text;
+    return nullptr;
+}
+
+// Reads the whole text as a number, always in the C locale.
+template <typename Number>
+bool parse(const QByteArray& text, Number& number)
+{
+    const auto [end, error] = std::from_chars(text.begin(), text.end(), number);
+    return error == std::errc() && end == text.end();
+}
+
+Reason decodeNumber(const QString& text, QVariant& value)
+{
+    const QByteArray digits = text.toLatin1();
+    int small = 0;
+    qlonglong large = 0;
+    double real = 0;
+    if (parse(digits, small)) {
+        value = small;
+    } else if (parse(digits, large)) {
+        value = large;
+    } else if (parse(digits, real) && std::isfinite(real)) {
+        value = real;
+    } else {
+        return "not a number";
+    }
+    return nullptr;
+}
+
+Reason decodeBool(const QString& text, QVariant& value)
+{
+    value = text == QLatin1String("true");
+    return value.toBool() || text == QLatin1String("false") ? nullptr : "neither true nor false";
+}
+
+Reason decodeValue(const QString& encoding, const QString& text, QVariant& value)
+{
+    if (encoding.isEmpty()) {
+        return unescape(text, value);
+    }
+    if (encoding == QLatin1String("n")) {
+        return decodeNumber(text, value);
+    }
+    return encoding == QLatin1String("b") ? decodeBool(text, value) : "unknown encoding";
+}
+
+Reason decodeAttribute(const QByteArray& line, QVariantMap& attributes)
+{
+    QString text;
+    if (const Reason reason = decodeText(line, text)) {
+        return reason;
+    }
+    const auto nameEnd = text.indexOf(QLatin1Char(':'));
+    const auto encodingEnd = text.indexOf(QLatin1Char(':'), nameEnd + 1);
+    if (nameEnd < 0 || encodingEnd < 0) {
+        return "expected attribute:encoding:value";
+    }
+    const QString name = text.left(nameEnd);
+    if (name.isEmpty()) {
+        return "empty attribute name";
+    }
+    if (hasControlCharacter(name)) {
+        return "control character in the attribute name";
+    }
+    if (attributes.contains(name)) {
+        return "attribute appears twice";
+    }
+    return decodeValue(text.mid(nameEnd + 1, encodingEnd - nameEnd - 1), text.mid(encodingEnd + 1), attributes[name]);
+}
+
+QByteArray encodeReal(double real)
+{
+    std::array<char, 32> text{};
+    const auto [end, error] = std::to_chars(text.begin(), text.end(), real);
+    QByteArray digits(text.data(), static_cast<int>(end - text.begin()));
+    // A whole number would come back as an integer.
+    const bool whole = std::all_of(digits.begin(), digits.end(), [](char c) { return c == '-' || (c >= '0' && c <= '9'); });
+    return whole ? digits + ".0" : digits;
+}
+
+// The encoding and the value with their colons; empty for a type that an object cannot hold.
+QByteArray encodeValue(const QVariant& value)
+{
+    switch (value.userType()) {
+    case QMetaType::QString:
+        return "::" + value.toString()
+                          .replace(QLatin1Char('\\'), QLatin1String("\\\\"))
+                          .replace(QLatin1Char('\n'), QLatin1String("\\n"))
+                          .toUtf8();
+    case QMetaType::Bool:
+        return value.toBool() ? ":b:true" : ":b:false";
+    case QMetaType::Int:
+    case QMetaType::LongLong:
+        return ":n:" + QByteArray::number(value.toLongLong());
+    case QMetaType::Double:
+        return ":n:" + encodeReal(value.toDouble());
+    default:
+        return {};
+    }
+}
+
+} // namespace
+
+QVariantMap PpsCodec::decode(const QByteArray& contents, QString& error)
+{
+    error.clear();
+    if (contents.size() > PpsObject::maximumSize) {
+        error = QStringLiteral("larger than %1 bytes").arg(PpsObject::maximumSize);
+        return {};
+    }
+    QList<QByteArray> lines = contents.split('\n');
+    const bool complete = lines.takeLast().isEmpty() && !lines.isEmpty();
+    QString name;
+    QVariantMap attributes;
+    int number = 0;
+    for (const QByteArray& line : lines) {
+        ++number;
+        if (const Reason reason = number == 1 ? decodeName(line, name) : decodeAttribute(line, attributes)) {
+            error = QStringLiteral("line %1: %2").arg(number).arg(QLatin1String(reason));
+            return {};
+        }
+    }
+    if (!complete) {
+        error = QStringLiteral("line %1: no newline at the end").arg(number + 1);
+        return {};
+    }
+    return {{name, attributes}};
+}
+
+QByteArray PpsCodec::encode(const QVariantMap& record, QString& error)
+{
+    error.clear();
+    if (record.size() != 1) {
+        error = QStringLiteral("not exactly one object");
+        return {};
+    }
+    QByteArray contents = record.firstKey().toUtf8() + '\n';
+    const QVariantMap attributes = record.first().toMap();
+    for (auto attribute = attributes.begin(); attribute != attributes.end(); ++attribute) {
+        contents += attribute.key().toUtf8() + encodeValue(attribute.value()) + '\n';
+    }
+    // Decoding knows every rule; what does not come back as it went in cannot be held.
+    const bool same = decode(contents, error) == record;
+    if (!same && error.isEmpty()) {
+        error = QStringLiteral("holds what an object cannot");
+    }
+    return same ? contents : QByteArray();
+}
+
+} // namespace zel

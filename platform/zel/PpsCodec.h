@@ -1,0 +1,22 @@
+#ifndef ZEL_PPSCODEC_H
+#define ZEL_PPSCODEC_H
+
+#include <QtCore/QByteArray>
+#include <QtCore/QString>
+#include <QtCore/QVariantMap>
+
+namespace zel {
+
+/** The text form of a settings object. An empty error means that it worked. */
+class PpsCodec
+{
+public:
+    PpsCodec() = delete;
+
+    static QVariantMap decode(const QByteArray& contents, QString& error);
+    static QByteArray encode(const QVariantMap& record, QString& error);
+};
+
+} // namespace zel
+
+#endif

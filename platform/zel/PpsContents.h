@@ -1,0 +1,24 @@
+#ifndef ZEL_PPSCONTENTS_H
+#define ZEL_PPSCONTENTS_H
+
+#include <QtCore/QByteArray>
+#include <QtCore/QString>
+
+namespace zel {
+
+/** What a look at an object's file finds: its bytes, or why there are none. */
+struct PpsContents
+{
+    QByteArray bytes;
+    QString error;         ///< empty where the file could be read
+    bool hopeless = false; ///< no write of the object can mend the error
+
+    static PpsContents read(const QString& file);
+
+    bool operator==(const PpsContents& other) const { return bytes == other.bytes && error == other.error; }
+    bool operator!=(const PpsContents& other) const { return !(*this == other); }
+};
+
+} // namespace zel
+
+#endif

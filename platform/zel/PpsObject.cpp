@@ -1,0 +1,156 @@
+#include <zel/PpsObject.h>
+
+#include "PpsCodec.h"
+#include "PpsContents.h"
+#include "PpsWatcher.h"
+#include <cstdlib>
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+#include <QtCore/QPointer>
+#include <QtCore/QSaveFile>
+#include <utility>
+
+namespace zel {
+
+class PpsObject::Private
+{
+public:
+    explicit Private(const QString& objectPath) : path(objectPath), file(filePath(objectPath)) {}
+
+    const QString path;
+    const QString file;
+    QFlags<PpsOpenMode::Type> mode;
+    PpsContents seen;       // what was last read or announced
+    bool announced = false; // readyRead() is being emitted for what was seen
+    std::unique_ptr<PpsWatcher> watcher;
+    QString error;
+};
+
+PpsObject::PpsObject(const QString& path, QObject* parent) : QObject(parent), d(std::make_unique<Private>(path)) {}
+
+PpsObject::~PpsObject() = default;
+
+bool PpsObject::open(QFlags<PpsOpenMode::Type> mode)
+{
+    setReadyReadEnabled(false);
+    d->mode = {};
+    const QFlags<PpsOpenMode::Type> known = PpsOpenMode::Publish | PpsOpenMode::Subscribe;
+    if (!mode || (mode & known) != mode) {
+        return fail(QStringLiteral("unknown open mode"));
+    }
+    if (!d->path.startsWith(QLatin1Char('/'))) {
+        return fail(QStringLiteral("not an absolute path"));
+    }
+    d->seen = PpsContents::read(d->file);
+    if (d->seen.hopeless) {
+        return fail(d->seen.error);
+    }
+    d->mode = mode;
+    setReadyReadEnabled(true);
+    return true;
+}
+
+void PpsObject::setReadyReadEnabled(bool enabled)
+{
+    if (!enabled) {
+        d->watcher.reset();
+    } else if (!d->watcher && d->mode.testFlag(PpsOpenMode::Subscribe)) {
+        d->watcher = std::make_unique<PpsWatcher>(d->file, this);
+        connect(d->watcher.get(), SIGNAL(settled()), this, SLOT(onSettled()));
+    }
+}
+
+void PpsObject::onSettled()
+{
+    if (d->watcher->contents() == d->seen) {
+        return;
+    }
+    d->seen = d->watcher->contents();
+    d->announced = true;
+    const QPointer<PpsObject> alive(this);
+    Q_EMIT readyRead();
+    if (alive) {
+        d->announced = false;
+    }
+}
+
+QByteArray PpsObject::read(bool* ok)
+{
+    bool done = false;
+    if (!d->mode.testFlag(PpsOpenMode::Subscribe)) {
+        fail(QStringLiteral("not open for reading"));
+    } else {
+        if (!std::exchange(d->announced, false)) {
+            d->seen = PpsContents::read(d->file);
+        }
+        done = d->seen.error.isEmpty() || fail(d->seen.error);
+    }
+    if (ok != nullptr) {
+        *ok = done;
+    }
+    return done ? d->seen.bytes : QByteArray();
+}
+
+bool PpsObject::write(const QByteArray& contents)
+{
+    if (!d->mode.testFlag(PpsOpenMode::Publish)) {
+        return fail(QStringLiteral("not open for writing"));
+    }
+    QString error;
+    PpsCodec::decode(contents, error);
+    if (!error.isEmpty()) {
+        return fail(error);
+    }
+    d->announced = false;
+    QDir().mkpath(QFileInfo(d->file).path());
+    QSaveFile file(d->file);
+    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size() || !file.commit()) {
+        return fail(file.errorString());
+    }
+    return true;
+}
+
+QString PpsObject::errorString() const { return d->error; }
+
+bool PpsObject::fail(const QString& reason)
+{
+    d->error = d->file + QLatin1String(": ") + reason;
+    return false;
+}
+
+QVariantMap PpsObject::decode(const QByteArray& contents, bool* ok, QString* error)
+{
+    QString reason;
+    const QVariantMap record = PpsCodec::decode(contents, reason);
+    if (ok != nullptr) {
+        *ok = reason.isEmpty();
+    }
+    if (error != nullptr) {
+        *error = reason;
+    }
+    return record;
+}
+
+QByteArray PpsObject::encode(const QVariantMap& record, bool* ok, QString* error)
+{
+    QString reason;
+    const QByteArray contents = PpsCodec::encode(record, reason);
+    if (ok != nullptr) {
+        *ok = reason.isEmpty();
+    }
+    if (error != nullptr) {
+        *error = reason;
+    }
+    return contents;
+}
+
+const char* PpsObject::root()
+{
+    const char* const root = ::secure_getenv("ZEL_PPS_ROOT");
+    return root == nullptr ? "" : root;
+}
+
+QString PpsObject::filePath(const QString& path) { return QFile::decodeName(root()) + path; }
+
+} // namespace zel

@@ -1,0 +1,40 @@
+#ifndef ZEL_ICUDATA_RESOURCEBUNDLECHECKER_H
+#define ZEL_ICUDATA_RESOURCEBUNDLECHECKER_H
+
+#include "ResourceBundleReader.h"
+
+#include <string>
+#include <unordered_set>
+#include <vector>
+
+namespace zel::icudata {
+
+/** Decides whether a bundle is one that ResourceBundleReader knows and can read without leaving its bytes. */
+class ResourceBundleChecker
+{
+public:
+    /** What must hold before a reader may look at the index. */
+    static bool checkFormat(const BundleData& data, std::string& error);
+
+    explicit ResourceBundleChecker(const ResourceBundleReader& bundle) : m_bundle(bundle) {}
+
+    /** What must hold before a reader may be used. */
+    bool check(std::string& error);
+
+private:
+    std::string problemOfIndex() const;
+    std::string problemOfPool() const;
+    std::string problemOfResources();
+    std::string problemOfResource(Resource resource);
+    std::string problemOfContainer(Resource container);
+    bool hasItemsOf(Resource resource, std::size_t itemSize) const;
+
+    const ResourceBundleReader& m_bundle;
+    std::vector<Resource> m_pending;
+    std::unordered_set<Resource> m_seen;
+    std::size_t m_items = 0;
+};
+
+} // namespace zel::icudata
+
+#endif

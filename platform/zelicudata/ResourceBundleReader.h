@@ -1,0 +1,130 @@
+#ifndef ZEL_ICUDATA_RESOURCEBUNDLEREADER_H
+#define ZEL_ICUDATA_RESOURCEBUNDLEREADER_H
+
+#include "BundleData.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace zel::icudata {
+
+/** A resource as a bundle refers to it: its type in the upper 4 bits, in the lower 28 where it is or a small value. */
+using Resource = std::uint32_t;
+
+enum class ResourceType : std::uint8_t {
+    String = 0,
+    Binary = 1,
+    Table = 2,
+    Alias = 3,
+    Table32 = 4,
+    Table16 = 5,
+    String16 = 6,
+    Int = 7,
+    Array = 8,
+    Array16 = 9,
+    IntVector = 14
+};
+
+/** The words of a bundle's index, counted from the start of its body. */
+enum class IndexWord : std::uint8_t {
+    Root = 0,
+    Length = 1,
+    KeysTop = 2,
+    ResourcesTop = 3,
+    BundleTop = 4,
+    LongestTable = 5,
+    Attributes = 6,
+    Units16Top = 7,
+    PoolChecksum = 8
+};
+
+/**
+ * Reads one compiled ICU resource bundle of format version 2 or 3.
+ *
+ * open() checks all of the bundle once, every table, key and text of it, so that a bundle that opens can be read
+ * without further errors. A bundle that shares keys and texts needs the pool bundle that it shares them with, which
+ * must outlive it, like the bytes of both.
+ */
+class ResourceBundleReader
+{
+public:
+    struct Entry
+    {
+        std::uint32_t keyWord; ///< the key as a table with 32-bit keys refers to it; the top bit says "in the pool"
+        std::string_view key;
+        Resource value;
+    };
+
+    /** Opens a bundle; where it is damaged or of an unknown format, says in \a error what is wrong with it. */
+    static std::optional<ResourceBundleReader> open(const BundleData& data, const ResourceBundleReader* pool,
+                                                    std::string& error);
+
+    const BundleData& data() const { return m_data; }
+    std::uint32_t index(IndexWord position) const { return word(static_cast<std::size_t>(position) * wordSize); }
+    Resource root() const { return index(IndexWord::Root); }
+    bool hasNoFallback() const;
+
+    static ResourceType type(Resource resource) { return static_cast<ResourceType>(resource >> 28U); }
+    static bool isTable(Resource resource);
+
+    /** The number of items of a table or an array. */
+    std::size_t size(Resource container) const;
+    /** The item at \a position of a table; of an array, with an empty key. */
+    std::optional<Entry> entry(Resource container, std::size_t position) const;
+    /** The item with a key of a table. */
+    std::optional<Resource> find(Resource table, std::string_view key) const;
+    /** The text of a string or an alias; none for any other type. */
+    std::optional<std::u16string> text(Resource resource) const;
+
+private:
+    friend class ResourceBundleChecker;
+
+    static constexpr std::size_t wordSize = sizeof(std::uint32_t);
+    static constexpr std::size_t unitSize = sizeof(char16_t);
+
+    /** Where the keys and the items of a table or an array are, in bytes of the body. */
+    struct Container
+    {
+        std::size_t size = 0;
+        std::size_t keys = 0;
+        std::size_t items = 0;
+        std::size_t keySize = 0;
+        std::size_t itemSize = 0;
+    };
+
+    ResourceBundleReader(const BundleData& data, const ResourceBundleReader* pool);
+
+    static std::size_t wordOffset(Resource resource) { return std::size_t{resource & 0x0fffffffU} * wordSize; }
+
+    std::uint32_t word(std::size_t offset) const;
+    char16_t unit(std::size_t offset) const;
+    bool hasItems(std::size_t offset, std::size_t count, std::size_t itemSize) const;
+    std::size_t units16Count() const;
+
+    std::optional<Container> container(Resource resource) const;
+    std::optional<Container> container16(Resource resource) const;
+    std::optional<Container> container32(Resource resource) const;
+    std::uint32_t keyWord(char16_t key) const;
+    std::optional<std::string_view> key(std::uint32_t keyWord) const;
+    std::optional<std::string_view> keyAt(std::size_t offset) const;
+    Resource string16(char16_t item) const;
+    std::optional<std::u16string> text32(Resource resource) const;
+    std::optional<std::u16string> text16(Resource resource) const;
+    std::optional<std::u16string> text16At(std::size_t position) const;
+    std::u16string units(std::size_t offset, std::size_t count) const;
+
+    BundleData m_data;
+    const ResourceBundleReader* m_pool = nullptr;
+    std::size_t m_keys = 0;                  ///< where the bundle's first key is
+    std::size_t m_keyLimit = 0;              ///< 16-bit keys from here on are in the pool
+    std::size_t m_units16 = 0;               ///< where the 16-bit units start
+    std::uint32_t m_poolStringLimit = 0;     ///< 16-bit strings below are in the pool
+    std::uint32_t m_poolStringItemLimit = 0; ///< the same for the 16-bit items of tables and arrays
+};
+
+} // namespace zel::icudata
+
+#endif

@@ -1,0 +1,46 @@
+#ifndef ZEL_SYSTEM_REGIONCACHE_H
+#define ZEL_SYSTEM_REGIONCACHE_H
+
+#include "FileStamp.h"
+#include <mutex>
+#include <QtCore/QByteArray>
+#include <QtCore/QLocale>
+#include <QtCore/QString>
+
+namespace zel::system {
+
+/**
+ * The region and what it was made from. The settings object is parsed again only when its file's status or the
+ * environment has changed, and each bad content of it is reported once. Any thread may ask.
+ */
+class RegionCache
+{
+public:
+    /** The cache of this process. */
+    static RegionCache& instance();
+
+    QLocale locale();
+
+private:
+    struct Answer
+    {
+        QLocale locale;
+        QString complaint;
+    };
+
+    Answer answer();
+    QString update();
+
+    std::mutex m_mutex;
+    QByteArray m_root;
+    QByteArray m_file;
+    QByteArray m_posix;
+    FileStamp m_stamp;
+    bool m_racy = false; // the stamp was taken too soon after a change to show a further one
+    QLocale m_locale = QLocale::c();
+    QByteArray m_reported; // the fault that was reported last, with the content that has it
+};
+
+} // namespace zel::system
+
+#endif
