@@ -1,0 +1,24 @@
+#ifndef ZEL_UTILITY_I18N_BRIDGE_DATETIME_H
+#define ZEL_UTILITY_I18N_BRIDGE_DATETIME_H
+
+#include <QtCore/QDateTime>
+#include <unicode/utypes.h>
+
+namespace zel::utility::i18n {
+
+/** Moments on their way from Qt to ICU. All functions are reentrant. */
+class DateTime
+{
+public:
+    DateTime() = delete;
+
+    /** The instant that a moment denotes. */
+    static UDate toICU(const QDateTime& dateTime);
+
+    /** The date and time that a moment shows, whatever its time specification, as if it stood in GMT. */
+    static UDate wallClock(QDateTime dateTime);
+};
+
+} // namespace zel::utility::i18n
+
+#endif

@@ -1,0 +1,47 @@
+#ifndef ZEL_UTILITY_I18N_BRIDGE_DIAGNOSTIC_H
+#define ZEL_UTILITY_I18N_BRIDGE_DIAGNOSTIC_H
+
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+#include <QtCore/QtGlobal>
+
+class QDateTime;
+
+namespace zel::utility::i18n {
+
+/**
+ * The one way to write a message.
+ *
+ * A message is its items in order, each followed by one space. A QString stands between double quotes with nothing
+ * escaped, a QStringList reads ("a", "b"); literals, integers and ICU names are bare. Qt's own debug stream is not
+ * used because its text differs between Qt versions.
+ *
+ * @code
+ * Diagnostic::write(QtWarningMsg, "failed to access resource key", key, "in locale", locale.getName());
+ * @endcode
+ */
+class Diagnostic
+{
+public:
+    Diagnostic() = delete;
+
+    template <typename... Items>
+    static void write(QtMsgType type, const Items&... items)
+    {
+        QString text;
+        (append(text, items), ...);
+        hand(type, text);
+    }
+
+private:
+    static void append(QString& text, const char* item);
+    static void append(QString& text, int item);
+    static void append(QString& text, const QString& item);
+    static void append(QString& text, const QStringList& item);
+    static void append(QString& text, const QDateTime& item);
+    static void hand(QtMsgType type, const QString& text);
+};
+
+} // namespace zel::utility::i18n
+
+#endif

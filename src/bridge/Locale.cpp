@@ -1,0 +1,53 @@
+#include "bridge/Locale.h"
+
+#include "bridge/Diagnostic.h"
+#include <QtCore/QByteArray>
+#include <unicode/errorcode.h>
+
+namespace zel::utility::i18n {
+
+icu::Locale Locale::toICU(const QLocale& locale)
+{
+    icu::Locale icuLocale = icu::Locale::createFromName(locale.bcp47Name().toUtf8().constData());
+    icu::ErrorCode status;
+    icuLocale.setKeywordValue("calendar", "gregorian", status);
+    if (status.isFailure()) {
+        Diagnostic::write(QtWarningMsg, "Error in calling",
+                          "icu::Locale::setKeywordValue( const char *, const char *, UErrorCode & )", ":",
+                          status.errorName());
+        Diagnostic::write(QtWarningMsg, "static icu::Locale zel::utility::i18n::Locale::toICU(const QLocale&)",
+                          "could not set gregorian calendar on", icuLocale.getName(), "locale");
+    }
+    return icuLocale;
+}
+
+icu::Locale Locale::fallback(const icu::Locale& locale)
+{
+    static constexpr const char* signature =
+        "static icu::Locale zel::utility::i18n::Locale::fallback(const icu::Locale&)";
+    if (locale.isBogus()) {
+        Diagnostic::write(QtCriticalMsg, signature, "called with bogus locale (crashing to avoid infinite recursion)");
+        qFatal("%s", signature);
+    }
+    if (locale == icu::Locale::getRoot()) {
+        icu::Locale end = icu::Locale::getRoot();
+        end.setToBogus();
+        return end;
+    }
+    icu::Locale base(locale.getBaseName());
+    if (locale != base) {
+        return base;
+    }
+    icu::Locale language(locale.getLanguage());
+    if (locale != language) {
+        return language;
+    }
+    return icu::Locale::getRoot();
+}
+
+icu::Locale Locale::regionForICU()
+{
+    return toICU(region());
+}
+
+} // namespace zel::utility::i18n

@@ -1,0 +1,15 @@
+// The region locale, asked of the device platform.
+
+#include "bridge/Locale.h"
+
+#include <zel/system/LocaleHandler.h>
+
+namespace zel::utility::i18n {
+
+QLocale Locale::region()
+{
+    const zel::system::LocaleHandler handler(static_cast<zel::system::LocaleType::Type>(2), nullptr);
+    return handler.locale();
+}
+
+} // namespace zel::utility::i18n

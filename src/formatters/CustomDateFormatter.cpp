@@ -1,0 +1,187 @@
+#include <zel/utility/i18n/CustomDateFormatter.h>
+
+#include "bridge/DateTime.h"
+#include "bridge/Diagnostic.h"
+#include "bridge/Locale.h"
+#include "bridge/String.h"
+#include "formatters/CustomDateFormatter_p.h"
+#include "settings/ClockSetting.h"
+#include "settings/TimeZoneSetting.h"
+#include <QtCore/QLatin1Char>
+#include <unicode/dtptngen.h>
+#include <unicode/errorcode.h>
+#include <unicode/fmtable.h>
+#include <unicode/timezone.h>
+
+namespace zel::utility::i18n {
+
+namespace {
+
+/** Reports a failed ICU call and what could not be done for it. */
+void reportFailure(const char* call, const icu::ErrorCode& status, const char* signature, const char* consequence)
+{
+    Diagnostic::write(QtWarningMsg, "Error in calling", call, ":", status.errorName());
+    Diagnostic::write(QtWarningMsg, signature, consequence);
+}
+
+} // namespace
+
+CustomDateFormatterPrivate::CustomDateFormatterPrivate(CustomDateFormatter* owner, const QString& text)
+    : q(owner),
+      skeleton(text),
+      locale(Locale::region())
+{
+    updateFormatter();
+}
+
+CustomDateFormatterPrivate::~CustomDateFormatterPrivate() = default;
+
+bool CustomDateFormatterPrivate::hasHours() const
+{
+    return skeleton.contains(QLatin1Char('h'), Qt::CaseInsensitive) ||
+           skeleton.contains(QLatin1Char('k'), Qt::CaseInsensitive);
+}
+
+bool CustomDateFormatterPrivate::hasTimeZone() const
+{
+    return skeleton.contains(QLatin1Char('z'), Qt::CaseInsensitive) ||
+           skeleton.contains(QLatin1Char('v'), Qt::CaseInsensitive);
+}
+
+icu::UnicodeString CustomDateFormatterPrivate::icuSkeleton() const
+{
+    icu::UnicodeString text = String::toICU(skeleton);
+    switch (ClockSetting::clockFormat()) {
+    case ClockFormat::ApplyUserFormat:
+    case ClockFormat::ApplyLocaleFormat:
+        return text;
+    case ClockFormat::Use12hourClock:
+        return text.findAndReplace(u"H", u"h");
+    case ClockFormat::Use24hourClock:
+        return text.findAndReplace(u"h", u"H");
+    }
+    Diagnostic::write(QtWarningMsg,
+                      "icu::UnicodeString zel::utility::i18n::CustomDateFormatterPrivate::icuSkeleton() const",
+                      "called with unknown ClockFormat::Type");
+    return text;
+}
+
+void CustomDateFormatterPrivate::installClockFormatIfNeeded(bool install) const
+{
+    if (!install || !hasHours()) {
+        clockSetting.reset();
+        return;
+    }
+    if (clockSetting) {
+        return;
+    }
+    clockSetting = std::make_unique<ClockSetting>(nullptr);
+    if (!connect(clockSetting.get(), SIGNAL(changed()), this, SLOT(onClockFormatChange()))) {
+        Diagnostic::write(QtCriticalMsg,
+                          "void zel::utility::i18n::CustomDateFormatterPrivate::installClockFormatIfNeeded(bool) const",
+                          "failed to connect to zel::utility::i18n::ClockSetting::changed() signal");
+    }
+}
+
+void CustomDateFormatterPrivate::updateFormatter() const
+{
+    constexpr const char* signature = "void zel::utility::i18n::CustomDateFormatterPrivate::updateFormatter() const";
+    const icu::Locale icuLocale = Locale::toICU(locale);
+    icu::ErrorCode status;
+    const std::unique_ptr<icu::DateTimePatternGenerator> generator(
+        icu::DateTimePatternGenerator::createInstance(icuLocale, status));
+    if (status.isFailure() || !generator) {
+        reportFailure("icu::DateTimePatternGenerator::createInstance( const icu::Locale &, UErrorCode & )", status,
+                      signature, "could not instantiate  the pattern generator");
+        return;
+    }
+    // Before the clock is read, so that no change between the two is missed.
+    installClockFormatIfNeeded(true);
+    const icu::UnicodeString pattern = generator->getBestPattern(icuSkeleton(), status);
+    if (status.isFailure()) {
+        reportFailure("icu::DateTimePatternGenerator::getBestPattern( const icu::UnicodeString &, UErrorCode & )",
+                      status, signature, "could not parse the skeleton");
+        return;
+    }
+    auto created = std::make_unique<icu::SimpleDateFormat>(pattern, icuLocale, status);
+    if (status.isFailure() || !created) {
+        reportFailure("icu::SimpleDateFormat::SimpleDateFormat( const icu::UnicodeString &, const icu::Locale &, "
+                      "UErrorCode & )",
+                      status, signature, "could not instantiate the date format");
+        return;
+    }
+    formatter = std::move(created);
+}
+
+void CustomDateFormatterPrivate::updateRegionLocale() const
+{
+    const QLocale region = Locale::region();
+    if (region != locale) {
+        locale = region;
+        updateFormatter();
+    }
+}
+
+UDate CustomDateFormatterPrivate::adoptTimeZone(const QDateTime& dateTime) const
+{
+    if (hasTimeZone()) {
+        formatter->adoptTimeZone(icu::TimeZone::createTimeZone(String::toICU(TimeZoneSetting::timeZone())));
+        return DateTime::toICU(dateTime);
+    }
+    formatter->adoptTimeZone(icu::TimeZone::getGMT()->clone());
+    return DateTime::wallClock(dateTime);
+}
+
+// NOLINTNEXTLINE(readability-make-member-function-const): it changes what the formatter shows
+void CustomDateFormatterPrivate::onClockFormatChange()
+{
+    updateFormatter();
+}
+
+CustomDateFormatter::CustomDateFormatter(const QString& skeleton, QObject* parent)
+    : QObject(parent),
+      d(std::make_unique<CustomDateFormatterPrivate>(this, skeleton))
+{
+}
+
+CustomDateFormatter::~CustomDateFormatter() = default;
+
+bool CustomDateFormatter::isValid() const
+{
+    return d->formatter != nullptr;
+}
+
+QString CustomDateFormatter::skeleton() const
+{
+    return d->skeleton;
+}
+
+void CustomDateFormatter::setSkeleton(const QString& skeleton)
+{
+    if (skeleton != d->skeleton) {
+        d->skeleton = skeleton;
+        d->updateFormatter();
+    }
+}
+
+QString CustomDateFormatter::format(const QDateTime& dateTime) const
+{
+    constexpr const char* signature = "QString zel::utility::i18n::CustomDateFormatter::format(const QDateTime&) const";
+    if (!isValid()) {
+        Diagnostic::write(QtCriticalMsg, signature, "called on invalid formatter");
+        return {};
+    }
+    d->updateRegionLocale();
+    const UDate date = d->adoptTimeZone(dateTime);
+    icu::ErrorCode status;
+    icu::UnicodeString text;
+    d->formatter->format(icu::Formattable(date), text, status);
+    if (status.isFailure()) {
+        reportFailure("icu::SimpleDateFormat::format( UDate, icu::UnicodeString &, UErrorCode & )", status, signature,
+                      "failed to format date/time");
+        return {};
+    }
+    return String::toQt(text);
+}
+
+} // namespace zel::utility::i18n

@@ -1,0 +1,50 @@
+#ifndef ZEL_UTILITY_I18N_FORMATTERS_RELATIVEDATEFORMATTER_P_H
+#define ZEL_UTILITY_I18N_FORMATTERS_RELATIVEDATEFORMATTER_P_H
+
+#include <cstddef>
+#include <memory>
+#include <QtCore/QDateTime>
+#include <QtCore/QLocale>
+#include <QtCore/QObject>
+#include <QtCore/QString>
+#include <vector>
+#include <zel/utility/i18n/ClockFormat.h>
+#include <zel/utility/i18n/RelativeDateFormat.h>
+
+namespace zel::utility::i18n {
+
+class DateOffsetRange;
+class RelativeDateFormatter;
+class RelativeDatePattern;
+
+/** The ladder of a RelativeDateFormatter: ranges in the order in which they are tried, each with its pattern. */
+class RelativeDateFormatterPrivate : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(RelativeDateFormatterPrivate)
+
+public:
+    RelativeDateFormatterPrivate(RelativeDateFormatter* owner, RelativeDateFormat::Type table);
+    ~RelativeDateFormatterPrivate() override;
+
+    /** The setters answer whether the value changed. */
+    bool setAnchorTime(const QDateTime& anchorTime);
+    bool setLocale(const QLocale& locale);
+    bool setClockFormat(zel::utility::i18n::ClockFormat::Type clockFormat);
+
+    /** The text for a moment; a null string, with a message, on failure. */
+    QString format(const QDateTime& dateTime) const;
+
+    RelativeDateFormatter* q;
+    RelativeDateFormat::Type type;
+    QDateTime anchorTime;
+    QLocale locale;
+    ClockFormat::Type clockFormat = ClockFormat::ApplyUserFormat;
+    std::size_t count = 0;
+    std::vector<std::unique_ptr<DateOffsetRange>> ranges;
+    std::vector<std::unique_ptr<RelativeDatePattern>> patterns;
+};
+
+} // namespace zel::utility::i18n
+
+#endif

@@ -1,0 +1,28 @@
+#ifndef ZEL_UTILITY_I18N_PATTERNS_DATEPATTERN_H
+#define ZEL_UTILITY_I18N_PATTERNS_DATEPATTERN_H
+
+#include <QtCore/QDateTime>
+#include <QtCore/QLocale>
+#include <QtCore/QString>
+
+namespace zel::utility::i18n {
+
+/** ICU skeletons and patterns for Qt values. Nothing is kept between calls; all functions are reentrant. */
+class DatePattern
+{
+public:
+    DatePattern() = delete;
+
+    /** The best pattern of a locale for a skeleton, in ICU syntax; a null string, with messages, on failure. */
+    static QString patternFromSkeleton(const QString& skeleton, const QLocale& locale);
+
+    /**
+     * A moment written with an ICU pattern; a null string, with messages, on failure. The date and time are shown as
+     * the moment holds them, whatever its time specification; a zone field shows GMT.
+     */
+    static QString formatFromPattern(const QString& pattern, const QDateTime& dateTime, const QLocale& locale);
+};
+
+} // namespace zel::utility::i18n
+
+#endif

@@ -1,0 +1,47 @@
+#ifndef ZEL_UTILITY_I18N_RELATIVE_DATEOFFSETRANGE_H
+#define ZEL_UTILITY_I18N_RELATIVE_DATEOFFSETRANGE_H
+
+#include "relative/RelativeDateElement.h"
+#include <QtCore/QDateTime>
+#include <QtCore/QObject>
+
+namespace zel::utility::i18n {
+
+/**
+ * The moments that lie at least so many units before or after an anchor time.
+ *
+ * @code
+ * const DateOffsetRange range(anchor, RelativeDateElement::NamedDays, 1, true, true, nullptr);
+ * range.contains(anchor.addDays(-1)); // true
+ * @endcode
+ */
+class DateOffsetRange : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(DateOffsetRange)
+
+public:
+    /**
+     * @param minimum the smallest count that belongs to the range, whichever its sign
+     * @param absolute whether to count calendar positions or time gone by
+     * @param past whether the range holds counts of 0 and below, or those above 0
+     */
+    DateOffsetRange(const QDateTime& anchorTime, RelativeDateElement::Type element, unsigned int minimum, bool absolute,
+                    bool past, QObject* parent);
+    ~DateOffsetRange() override = default;
+
+    void setAnchorTime(const QDateTime& anchorTime);
+
+    bool contains(const QDateTime& dateTime) const;
+
+private:
+    RelativeDateElement::Type m_element;
+    unsigned int m_minimum;
+    bool m_absolute;
+    bool m_past;
+    QDateTime m_anchorTime;
+};
+
+} // namespace zel::utility::i18n
+
+#endif

@@ -1,0 +1,15 @@
+#ifndef ZEL_UTILITY_I18N_RELATIVE_RELATIVEDATEELEMENT_H
+#define ZEL_UTILITY_I18N_RELATIVE_RELATIVEDATEELEMENT_H
+
+namespace zel::utility::i18n {
+
+/** The units in which relative dates count. */
+namespace RelativeDateElement {
+
+/** One bit a unit; any other value is invalid. */
+enum Type { Minutes = 0x10, Hours = 0x20, NamedDays = 0x80, Years = 0x800 };
+
+} // namespace RelativeDateElement
+} // namespace zel::utility::i18n
+
+#endif

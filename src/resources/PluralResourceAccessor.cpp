@@ -1,0 +1,141 @@
+#include "resources/PluralResourceAccessor.h"
+
+#include "bridge/Diagnostic.h"
+#include "bridge/Locale.h"
+#include "bridge/String.h"
+#include <string>
+#include <unicode/errorcode.h>
+#include <unicode/unistr.h>
+
+namespace zel::utility::i18n {
+
+namespace {
+
+const icu::UnicodeString replacePattern(u"{0}");
+
+constexpr const char* constructorSignature = "zel::utility::i18n::PluralResourceAccessor::PluralResourceAccessor(const "
+                                             "QLocale&, const QStringList&, QObject*)";
+constexpr const char* formatSignature = "virtual QString zel::utility::i18n::PluralResourceAccessor::format(int) const";
+constexpr const char* forLocale = "icu::PluralRules::forLocale( const icu::Locale &, UErrorCode & )";
+constexpr const char* createInstance = "icu::NumberFormat::createInstance( const icu::Locale &, UErrorCode & )";
+
+/** Takes what an ICU factory returned, reports a failure, and leaves the status ready for the next factory. */
+template <typename T>
+std::unique_ptr<T> adopt(T* created, icu::ErrorCode& status, const char* factory, const char* consequence)
+{
+    std::unique_ptr<T> object(created);
+    if (status.isFailure()) {
+        Diagnostic::write(QtCriticalMsg, "Error in calling", factory, ":", status.errorName());
+        Diagnostic::write(QtCriticalMsg, constructorSignature, consequence);
+        status.reset();
+        object.reset();
+    } else if (!object) {
+        Diagnostic::write(QtWarningMsg, factory, "returned a NULL pointer without setting an error code!");
+        Diagnostic::write(QtWarningMsg, constructorSignature, consequence);
+    }
+    return object;
+}
+
+std::string toUtf8(const icu::UnicodeString& text)
+{
+    std::string utf8;
+    return text.toUTF8String(utf8);
+}
+
+/** Whether a look-up worked; reports the error and the items that follow where it did not. */
+template <typename... Items>
+bool succeeded(UErrorCode status, const Items&... items)
+{
+    if (U_SUCCESS(status)) {
+        return true;
+    }
+    Diagnostic::write(QtWarningMsg, "Error in calling icu::ResourceBundle::getStringEx( const char *, UErrorCode & ):",
+                      u_errorName(status));
+    Diagnostic::write(QtWarningMsg, formatSignature, items...);
+    return false;
+}
+
+} // namespace
+
+PluralResourceAccessor::PluralResourceAccessor(const QLocale& locale, const QStringList& keys, QObject* parent)
+    : ResourceAccessor(parent)
+{
+    const icu::Locale requested = Locale::toICU(locale);
+    initRules(requested);
+    initTable(locale, requested, keys);
+}
+
+void PluralResourceAccessor::initRules(const icu::Locale& locale)
+{
+    icu::ErrorCode status;
+    m_pluralRules =
+        adopt(icu::PluralRules::forLocale(locale, status), status, forLocale, "failed to instantiate plural rules");
+    m_rootNumberFormat = adopt(icu::NumberFormat::createInstance(icu::Locale::getRoot(), status), status,
+                               createInstance, "failed to instantiate root number formatting");
+    m_numberFormat = adopt(icu::NumberFormat::createInstance(locale, status), status, createInstance,
+                           "failed to instantiate number formatting");
+}
+
+void PluralResourceAccessor::initTable(const QLocale& locale, const icu::Locale& requested, const QStringList& keys)
+{
+    for (icu::Locale current = requested; !current.isBogus(); current = Locale::fallback(current)) {
+        std::unique_ptr<icu::ResourceBundle> bundle(initResource(current, keys));
+        if (!bundle) {
+            continue;
+        }
+        if (bundle->getType() == URES_TABLE) {
+            m_resource = std::move(bundle);
+        } else {
+            Diagnostic::write(QtCriticalMsg, constructorSignature, "did not reach a resource table using supplied keys",
+                              keys);
+        }
+        return;
+    }
+    Diagnostic::write(QtCriticalMsg, constructorSignature, "exhausted all possible locale fallbacks for",
+                      locale.bcp47Name());
+    Diagnostic::write(QtCriticalMsg, constructorSignature, "failed to open resource path:", keys);
+}
+
+bool PluralResourceAccessor::isValid() const
+{
+    return m_pluralRules && m_rootNumberFormat && m_numberFormat && m_resource;
+}
+
+QString PluralResourceAccessor::format(int count) const
+{
+    if (!isValid()) {
+        Diagnostic::write(QtCriticalMsg, formatSignature, "called on an invalid resource");
+        return {};
+    }
+    icu::UnicodeString phrase;
+    if (!findPhrase(count, phrase)) {
+        return {};
+    }
+    icu::UnicodeString number;
+    m_numberFormat->format(static_cast<int32_t>(count), number);
+    return String::toQt(phrase.findAndReplace(replacePattern, number));
+}
+
+bool PluralResourceAccessor::findPhrase(int count, icu::UnicodeString& phrase) const
+{
+    const icu::UnicodeString keyword = m_pluralRules->select(static_cast<int32_t>(count));
+    UErrorCode status = lookUp(toUtf8(keyword), phrase);
+    if (status != U_MISSING_RESOURCE_ERROR) {
+        return succeeded(status, "failed to access resource table", String::toQt(keyword));
+    }
+    icu::UnicodeString number;
+    status = lookUp(toUtf8(m_rootNumberFormat->format(static_cast<int32_t>(count), number)), phrase);
+    if (status != U_MISSING_RESOURCE_ERROR) {
+        return succeeded(status, "failed to access fall-back resource table", String::toQt(keyword));
+    }
+    return succeeded(lookUp("other", phrase), "failed to access final fall-back resource table \"other\"");
+}
+
+UErrorCode PluralResourceAccessor::lookUp(const std::string& key, icu::UnicodeString& phrase) const
+{
+    icu::ErrorCode status;
+    phrase = m_resource->getStringEx(key.c_str(), status);
+    return status.get();
+}
+
+} // namespace zel::utility::i18n

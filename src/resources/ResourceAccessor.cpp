@@ -1,0 +1,49 @@
+#include "resources/ResourceAccessor.h"
+
+#include "bridge/Diagnostic.h"
+#include <unicode/errorcode.h>
+
+namespace zel::utility::i18n {
+
+namespace {
+
+constexpr const char* signature =
+    "static icu::ResourceBundle* zel::utility::i18n::ResourceAccessor::initResource(const "
+    "icu::Locale&, const QStringList&)";
+
+} // namespace
+
+ResourceAccessor::ResourceAccessor(QObject* parent) : QObject(parent) {}
+
+bool ResourceAccessor::isValid() const
+{
+    return false;
+}
+
+icu::ResourceBundle* ResourceAccessor::initResource(const icu::Locale& locale, const QStringList& keys)
+{
+    icu::ErrorCode status;
+    icu::ResourceBundle current(nullptr, locale, status);
+    if (status.isFailure()) {
+        Diagnostic::write(QtCriticalMsg, signature,
+                          "icu::ResourceBundle::ResourceBundle( const char *, const icu::Locale &, UErrorCode & )");
+        Diagnostic::write(QtCriticalMsg, signature, "failed to open resource bundle for locale", locale.getName());
+        return nullptr;
+    }
+    for (const QString& key : keys) {
+        current = current.get(key.toUtf8().constData(), status);
+        if (status.get() == U_MISSING_RESOURCE_ERROR) {
+            return nullptr;
+        }
+        if (status.isFailure()) {
+            Diagnostic::write(QtWarningMsg, "Error in calling",
+                              "icu::ResourceBundle::get( const char *, UErrorCode & )", ":", status.errorName());
+            Diagnostic::write(QtWarningMsg, signature, "failed to access resource key", key, "in locale",
+                              locale.getName());
+            return nullptr;
+        }
+    }
+    return current.clone();
+}
+
+} // namespace zel::utility::i18n

@@ -1,0 +1,23 @@
+#include "settings/PpsManager.h"
+
+namespace zel::utility::i18n {
+
+QVariant PpsManager::value() const
+{
+    const std::lock_guard lock(m_valueMutex);
+    return m_value;
+}
+
+void PpsManager::setValue(const QVariant& value)
+{
+    {
+        const std::lock_guard lock(m_valueMutex);
+        if (value == m_value) {
+            return;
+        }
+        m_value = value;
+    }
+    Q_EMIT changed();
+}
+
+} // namespace zel::utility::i18n

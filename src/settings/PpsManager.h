@@ -1,0 +1,67 @@
+#ifndef ZEL_UTILITY_I18N_SETTINGS_PPSMANAGER_H
+#define ZEL_UTILITY_I18N_SETTINGS_PPSMANAGER_H
+
+#include <memory>
+#include <mutex>
+#include <QtCore/QObject>
+#include <QtCore/QVariant>
+#include <zel/utility/i18n/Global.h>
+
+namespace zel {
+class PpsObject;
+}
+
+namespace zel::utility::i18n {
+
+/**
+ * Follows one attribute of one settings object.
+ *
+ * It belongs to the thread that created it and hears of changes through that thread's event loop; value() may be asked
+ * on any thread. An object that cannot be opened leaves the value invalid for good; one that cannot be read or decoded
+ * leaves it as it was.
+ *
+ * @code
+ * PpsManager manager("/pps/system/settings", "@settings", "hourFormat", nullptr);
+ * manager.value().toInt(); // 24
+ * @endcode
+ */
+class PpsManager : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(PpsManager)
+
+public:
+    /**
+     * Opens the object and reads the attribute. The three strings are not copied.
+     *
+     * @param path the path of the object
+     * @param map the name of the object with a leading "@"
+     * @param key the name of the attribute
+     */
+    PpsManager(const char* path, const char* map, const char* key, QObject* parent);
+    ~PpsManager() override;
+
+    /** The attribute's last value; invalid where it is not set. */
+    QVariant value() const;
+
+    ZEL_UTILITY_I18N_SIGNALS
+    /** The value has been replaced by a different one. */
+    Q_SIGNAL void changed();
+
+private Q_SLOTS:
+    void onPpsUpdate();
+
+private:
+    void setValue(const QVariant& value);
+
+    std::unique_ptr<zel::PpsObject> m_ppsObject;
+    const char* m_path;
+    const char* m_map;
+    const char* m_key;
+    mutable std::mutex m_valueMutex;
+    QVariant m_value;
+};
+
+} // namespace zel::utility::i18n
+
+#endif

@@ -1,0 +1,66 @@
+#ifndef ZEL_TESTS_MESSAGELOG_H
+#define ZEL_TESTS_MESSAGELOG_H
+
+#include <QtCore/QMutex>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+#include <QtCore/QtGlobal>
+
+/**
+ * Records what reaches the Qt message handler while it lives, each message as its type and text:
+ * "warning: text". Any thread may write; one log at a time.
+ */
+class MessageLog
+{
+public:
+    MessageLog() : m_previous(qInstallMessageHandler(&MessageLog::handle)) { s_current = this; }
+    ~MessageLog()
+    {
+        qInstallMessageHandler(m_previous);
+        s_current = nullptr;
+    }
+    Q_DISABLE_COPY(MessageLog)
+
+    /** What was recorded since the last call. */
+    QStringList take()
+    {
+        const QMutexLocker locker(&m_mutex);
+        QStringList taken;
+        taken.swap(m_messages);
+        return taken;
+    }
+
+private:
+    static void handle(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text)
+    {
+        if (s_current == nullptr) {
+            return;
+        }
+        const QMutexLocker locker(&s_current->m_mutex);
+        s_current->m_messages.append(name(type) + QStringLiteral(": ") + text);
+    }
+
+    static QString name(QtMsgType type)
+    {
+        switch (type) {
+        case QtDebugMsg:
+            return QStringLiteral("debug");
+        case QtInfoMsg:
+            return QStringLiteral("info");
+        case QtWarningMsg:
+            return QStringLiteral("warning");
+        case QtCriticalMsg:
+            return QStringLiteral("critical");
+        case QtFatalMsg:
+            return QStringLiteral("fatal");
+        }
+        return QStringLiteral("unknown");
+    }
+
+    inline static MessageLog* s_current = nullptr;
+    QtMessageHandler m_previous;
+    QMutex m_mutex;
+    QStringList m_messages;
+};
+
+#endif

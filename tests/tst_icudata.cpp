@@ -1,0 +1,696 @@
+#include "PhraseTables.h"
+#include "ResourceBundleReader.h"
+#include "ResourceBundleWriter.h"
+
+#include <zel/icu/DataDirectory.h>
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QDir>
+#include <QtCore/QMap>
+#include <QtCore/QProcess>
+#include <QtCore/QRandomGenerator>
+#include <QtCore/QRegularExpression>
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QtTest>
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <dlfcn.h>
+#include <memory>
+#include <unicode/dtptngen.h>
+#include <unicode/plurrule.h>
+#include <unicode/putil.h>
+#include <unicode/reldatefmt.h>
+#include <unicode/resbund.h>
+#include <unicode/smpdtfmt.h>
+
+using namespace zel::icudata;
+
+namespace {
+
+/** Lengths, attributes and shared texts of a bundle: the words of its index that a copy leaves alone. */
+constexpr std::array<int, 5> keptIndexWords{1, 2, 6, 7, 8};
+
+/** Leaves ICU with the data it was built with for a while; nothing but udata_open() may be used meanwhile. */
+class StockData
+{
+public:
+    StockData() : m_directory(u_getDataDirectory()) { u_setDataDirectory(""); }
+    ~StockData() { u_setDataDirectory(m_directory.constData()); }
+    Q_DISABLE_COPY(StockData)
+
+private:
+    QByteArray m_directory;
+};
+
+template <typename Item>
+QByteArray bytesOf(const Item* items, std::size_t count)
+{
+    return {reinterpret_cast<const char*>(items), static_cast<int>(count * sizeof(Item))};
+}
+
+/** All that a compiled bundle holds, by path; a reader of its own, for bundles that are known to be sound. */
+class Dump
+{
+public:
+    Dump(const void* body, const void* pool)
+        : m_words(static_cast<const quint32*>(body)),
+          m_pool(static_cast<const quint32*>(pool))
+    {
+        walk(m_words[0], QByteArray());
+    }
+
+    QMap<QByteArray, QByteArray> items;
+    bool isSorted = true;
+
+private:
+    static const char* keysOf(const quint32* pool)
+    {
+        return reinterpret_cast<const char*>(pool + 1 + (pool[1] & 0xff));
+    }
+    static const quint16* unitsOf(const quint32* bundle)
+    {
+        return reinterpret_cast<const quint16*>(bundle + bundle[2]);
+    }
+
+    QByteArray keyAt(quint32 offset) const { return reinterpret_cast<const char*>(m_words) + offset; }
+    QByteArray key32(quint32 key) const
+    {
+        return key >> 31U ? QByteArray(keysOf(m_pool) + (key & 0x7fffffff)) : keyAt(key);
+    }
+    QByteArray key16(quint32 key) const
+    {
+        const quint32 limit = m_words[2] > 1 + (m_words[1] & 0xff) ? m_words[2] * 4 : 0;
+        return key < limit ? keyAt(key) : QByteArray(keysOf(m_pool) + (key - limit));
+    }
+    quint32 poolStrings() const { return m_words[1] >> 8U; }
+    quint32 item16(quint32 item) const
+    {
+        const quint32 limit = m_words[6] >> 16U;
+        return 0x60000000U | (item < limit ? item : item - limit + poolStrings());
+    }
+
+    QByteArray text16(quint32 position) const
+    {
+        const quint16* text =
+            position < poolStrings() ? unitsOf(m_pool) + position : unitsOf(m_words) + position - poolStrings();
+        if ((*text & 0xfc00) != 0xdc00) {
+            return bytesOf(text, std::char_traits<char16_t>::length(reinterpret_cast<const char16_t*>(text)));
+        }
+        return *text < 0xdfef ? bytesOf(text + 1, *text & 0x3ffU)
+                              : bytesOf(text + 2, (*text - 0xdfefU) << 16U | text[1]);
+    }
+
+    quint32 sizeAt(quint32 offset) const { return offset != 0 ? m_words[offset] : 0; }
+
+    void walk(quint32 resource, const QByteArray& path)
+    {
+        const quint32 offset = resource & 0x0fffffff;
+        const quint32* words = m_words + offset;
+        const auto* units = reinterpret_cast<const quint16*>(words);
+        switch (resource >> 28U) {
+        case 0:
+            items[path] = "string " + bytesOf(units + 2, sizeAt(offset));
+            break;
+        case 1:
+            items[path] = "binary " + bytesOf(reinterpret_cast<const char*>(words + 1), sizeAt(offset));
+            break;
+        case 2:
+            table(
+                path, offset != 0 ? *units : 0, [=](quint32 i) { return key16(units[1 + i]); },
+                [=](quint32 i) { return words[(*units + 2U) / 2 + i]; });
+            break;
+        case 3:
+            items[path] = "alias " + bytesOf(units + 2, sizeAt(offset));
+            break;
+        case 4:
+            table(
+                path, sizeAt(offset), [=](quint32 i) { return key32(words[1 + i]); },
+                [=](quint32 i) { return words[1 + words[0] + i]; });
+            break;
+        case 5:
+            units = unitsOf(m_words) + offset;
+            table(
+                path, *units, [=](quint32 i) { return key16(units[1 + i]); },
+                [=](quint32 i) { return item16(units[1U + *units + i]); });
+            break;
+        case 6:
+            items[path] = "string " + text16(offset);
+            break;
+        case 7:
+            items[path] = "integer " + QByteArray::number(offset);
+            break;
+        case 8:
+            array(path, sizeAt(offset), [=](quint32 i) { return words[1 + i]; });
+            break;
+        case 9:
+            units = unitsOf(m_words) + offset;
+            array(path, *units, [=](quint32 i) { return item16(units[1 + i]); });
+            break;
+        case 14:
+            items[path] = "integers " + bytesOf(words + 1, sizeAt(offset));
+            break;
+        default:
+            qFatal("%s: unknown type %u", path.constData(), resource >> 28U);
+        }
+    }
+
+    template <typename Key, typename Item>
+    void table(const QByteArray& path, quint32 size, Key key, Item item)
+    {
+        items[path] = "table";
+        for (quint32 i = 0; i < size; ++i) {
+            isSorted = isSorted && (i == 0 || key(i - 1) < key(i));
+            walk(item(i), path + '/' + key(i));
+        }
+    }
+
+    template <typename Item>
+    void array(const QByteArray& path, quint32 size, Item item)
+    {
+        items[path] = "array " + QByteArray::number(size);
+        for (quint32 i = 0; i < size; ++i) {
+            walk(item(i), path + '/' + QByteArray::number(i));
+        }
+    }
+
+    const quint32* m_words;
+    const quint32* m_pool;
+};
+
+using Memory = std::unique_ptr<UDataMemory, decltype(&udata_close)>;
+
+Memory stock(const std::string& name)
+{
+    UErrorCode status = U_ZERO_ERROR;
+    return {udata_open(nullptr, "res", name.c_str(), &status), &udata_close};
+}
+
+QByteArray copyOf(const std::string& name)
+{
+    QFile file(QFile::decodeName((std::string(dataDirectory()) + "/" U_ICUDATA_NAME "/" + name + ".res").c_str()));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+std::string_view view(const QByteArray& bytes)
+{
+    return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
+}
+
+QByteArray utf8(const icu::UnicodeString& text)
+{
+    std::string bytes;
+    return QByteArray::fromStdString(text.toUTF8String(bytes));
+}
+
+/** The phrases of a locale as anybody reads them through ICU from the tables that were added. */
+class Phrases
+{
+public:
+    Phrases(icu::Locale locale, UErrorCode& status)
+        : m_locale(std::move(locale)),
+          m_rules(icu::PluralRules::forLocale(m_locale, status)),
+          m_numbers(icu::NumberFormat::createInstance(m_locale, status))
+    {
+    }
+
+    /** The phrase for a count, that of "other" where the count's category has none; an error's name where it fails. */
+    QByteArray counted(const char* table, int count) const
+    {
+        UErrorCode status = U_ZERO_ERROR;
+        icu::UnicodeString text = read({"units", table}, utf8(m_rules->select(count)).constData(), status);
+        if (status == U_MISSING_RESOURCE_ERROR) {
+            status = U_ZERO_ERROR;
+            text = read({"units", table}, "other", status);
+        }
+        icu::UnicodeString number;
+        text.findAndReplace(u"{0}", m_numbers->format(count, number));
+        return U_SUCCESS(status) ? utf8(text) : QByteArray(u_errorName(status));
+    }
+
+    /** The pattern of a plural category. */
+    QByteArray pattern(const char* table, const char* category) const { return plain({"units", table}, category); }
+    QByteArray ofDay(const char* key) const
+    {
+        return plain({"calendar", "gregorian", "fields", "day", "relative"}, key);
+    }
+
+private:
+    QByteArray plain(std::initializer_list<const char*> path, const char* key) const
+    {
+        UErrorCode status = U_ZERO_ERROR;
+        const icu::UnicodeString text = read(path, key, status);
+        return U_SUCCESS(status) ? utf8(text) : QByteArray(u_errorName(status));
+    }
+
+    icu::UnicodeString read(std::initializer_list<const char*> path, const char* key, UErrorCode& status) const
+    {
+        icu::ResourceBundle bundle(nullptr, m_locale, status);
+        for (const char* part : path) {
+            bundle = bundle.get(part, status);
+        }
+        return bundle.getStringEx(key, status);
+    }
+
+    icu::Locale m_locale;
+    std::unique_ptr<icu::PluralRules> m_rules;
+    std::unique_ptr<icu::NumberFormat> m_numbers;
+};
+
+struct PhraseTable
+{
+    const char* name;
+    UDateRelativeUnit unit;
+    UDateDirection direction;
+};
+
+constexpr std::array<PhraseTable, 6> phraseTables{{{"minute-past", UDAT_RELATIVE_MINUTES, UDAT_DIRECTION_LAST},
+                                                   {"minute-future", UDAT_RELATIVE_MINUTES, UDAT_DIRECTION_NEXT},
+                                                   {"hour-past", UDAT_RELATIVE_HOURS, UDAT_DIRECTION_LAST},
+                                                   {"hour-future", UDAT_RELATIVE_HOURS, UDAT_DIRECTION_NEXT},
+                                                   {"year-past", UDAT_RELATIVE_YEARS, UDAT_DIRECTION_LAST},
+                                                   {"year-future", UDAT_RELATIVE_YEARS, UDAT_DIRECTION_NEXT}}};
+
+constexpr std::array<std::pair<const char*, UDateDirection>, 3> dayPhrases{
+    {{"-1", UDAT_DIRECTION_LAST}, {"0", UDAT_DIRECTION_THIS}, {"1", UDAT_DIRECTION_NEXT}}};
+
+/** What ICU makes of the data that the copies add to: dates in three calendars, the week, and where they came from. */
+QByteArray describe(const char* name)
+{
+    QByteArray text(name);
+    for (const char* calendar : {"gregorian", "buddhist", "japanese"}) {
+        UErrorCode status = U_ZERO_ERROR;
+        icu::Locale locale(name);
+        locale.setKeywordValue("calendar", calendar, status);
+        const std::unique_ptr<icu::DateFormat> format(
+            icu::DateFormat::createDateTimeInstance(icu::DateFormat::kFull, icu::DateFormat::kFull, locale));
+        format->setTimeZone(*icu::TimeZone::getGMT());
+        icu::UnicodeString date;
+        format->format(1e12, date);
+        const std::unique_ptr<icu::DateTimePatternGenerator> patterns(
+            icu::DateTimePatternGenerator::createInstance(locale, status));
+        text += '|' + utf8(date) + '|' + utf8(patterns->getBestPattern(u"yMMMEdjm", status));
+        text += '|' + QByteArray::number(format->getCalendar()->getFirstDayOfWeek(status));
+        text += '|' + QByteArray(format->getLocaleID(ULOC_ACTUAL_LOCALE, status)) + '|' + u_errorName(status);
+    }
+    return text;
+}
+
+/** This program in another mode, with ICU_DATA as given; its lines. */
+QList<QByteArray> runSelf(const QString& mode, const QString& icuData)
+{
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.remove(QStringLiteral("ICU_DATA"));
+    if (!icuData.isNull()) {
+        environment.insert(QStringLiteral("ICU_DATA"), icuData);
+    }
+    process.setProcessEnvironment(environment);
+    process.start(QCoreApplication::applicationFilePath(), {mode});
+    process.waitForFinished(120000);
+    return process.readAllStandardOutput().trimmed().split('\n');
+}
+
+int printDescriptions()
+{
+    for (const std::string& name : StockBundles::names()) {
+        std::puts(describe(name.c_str()).constData());
+    }
+    return 0;
+}
+
+int printDataDirectory()
+{
+    std::printf("%s %d %d\n", u_getDataDirectory(), isDataDirectoryInUse(), hasPhraseTables());
+    return 0;
+}
+
+void addLocales()
+{
+    QTest::addColumn<QByteArray>("locale");
+    for (const std::string& name : StockBundles::names()) {
+        QTest::newRow(name.c_str()) << QByteArray::fromStdString(name);
+    }
+}
+
+} // namespace
+
+class TestIcuData : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void copiesKeepEverything();
+    void icuSeesNoDifference();
+    void phrasesAreThoseOfIcu_data() { addLocales(); }
+    void phrasesAreThoseOfIcu();
+    void phrasesAreInherited_data();
+    void phrasesAreInherited();
+    void aliasesAreFollowed_data();
+    void aliasesAreFollowed();
+    void additionsReplaceNothing();
+    void additionsMustFit();
+    void damageIsReported_data();
+    void damageIsReported();
+    void noDamageIsReadThrough();
+    void directoryBesideLibrary_data();
+    void directoryBesideLibrary();
+    void environmentComesFirst_data();
+    void environmentComesFirst();
+
+private:
+    QByteArray differenceOfCopy(const std::string& name) const;
+
+    Memory m_pool{nullptr, &udata_close};
+    std::optional<ResourceBundleReader> m_poolReader;
+};
+
+void TestIcuData::initTestCase()
+{
+    QVERIFY2(isDataDirectoryInUse(), "run without ICU_DATA");
+    QVERIFY(hasPhraseTables());
+    const StockData stockData;
+    std::string error;
+    m_pool = stock("pool");
+    m_poolReader = ResourceBundleReader::open(BundleData::fromIcu(m_pool.get()), nullptr, error);
+    QVERIFY2(m_poolReader, error.c_str());
+}
+
+void TestIcuData::copiesKeepEverything()
+{
+    const StockData stockData;
+    for (const std::string& name : StockBundles::names()) {
+        QCOMPARE(differenceOfCopy(name), QByteArray());
+    }
+}
+
+// By path and content, so that it does not matter where in a bundle things are.
+QByteArray TestIcuData::differenceOfCopy(const std::string& name) const
+{
+    static const QRegularExpression added(QRegularExpression::anchoredPattern(
+        QStringLiteral("/units(/(minute|hour|year)-(past|future)(/(zero|one|two|few|many|other))?)?"
+                       "|/calendar(/gregorian(/fields(/day(/relative(/(-1|0|1))?)?)?)?)?")));
+    const Memory original = stock(name);
+    const QByteArray copy = copyOf(name);
+    const auto* words = static_cast<const quint32*>(udata_getMemory(original.get()));
+    const auto* copyWords = reinterpret_cast<const quint32*>(copy.constData() + 32);
+    const bool sameFlags = !copy.isEmpty() && std::all_of(keptIndexWords.begin(), keptIndexWords.end(),
+                                                          [=](int word) { return words[word] == copyWords[word]; });
+    if (!sameFlags) {
+        return QByteArray::fromStdString(name) + ": no copy, or one with other flags";
+    }
+    const Dump before(words, udata_getMemory(m_pool.get()));
+    Dump after(copyWords, udata_getMemory(m_pool.get()));
+    QList<QByteArray> wrong(after.isSorted ? QList<QByteArray>() : QList<QByteArray>{"keys out of order"});
+    for (auto item = before.items.begin(); item != before.items.end(); ++item) {
+        if (after.items.take(item.key()) != item.value()) {
+            wrong.append("lost: " + item.key());
+        }
+    }
+    for (auto item = after.items.begin(); item != after.items.end(); ++item) {
+        if (!added.match(QString::fromUtf8(item.key())).hasMatch()) {
+            wrong.append("added: " + item.key());
+        }
+    }
+    return wrong.isEmpty() ? QByteArray() : QByteArray::fromStdString(name) + ": " + wrong.join(", ");
+}
+
+// A locale that had no calendar of its own has one now: ICU must still find its parent's formats through it.
+void TestIcuData::icuSeesNoDifference()
+{
+    const QTemporaryDir empty;
+    const QList<QByteArray> expected = runSelf(QStringLiteral("--describe"), empty.path());
+    const std::vector<std::string> names = StockBundles::names();
+    QCOMPARE(static_cast<std::size_t>(expected.size()), names.size());
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        QCOMPARE(describe(names[i].c_str()), expected[static_cast<int>(i)]);
+    }
+}
+
+void TestIcuData::phrasesAreThoseOfIcu()
+{
+    QFETCH(const QByteArray, locale);
+    const icu::Locale icuLocale(locale.constData());
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::RelativeDateTimeFormatter formatter(icuLocale, status);
+    const Phrases phrases(icuLocale, status);
+    QVERIFY(U_SUCCESS(status));
+    for (const auto& [table, unit, direction] : phraseTables) {
+        for (const int count : {0, 1, 2, 3, 5, 11, 21, 100, 1000000}) {
+            icu::UnicodeString expected;
+            formatter.format(count, direction, unit, expected, status);
+            QCOMPARE(phrases.counted(table, count), utf8(expected));
+        }
+    }
+    for (const auto& [key, direction] : dayPhrases) {
+        icu::UnicodeString expected;
+        formatter.format(direction, UDAT_ABSOLUTE_DAY, expected, status);
+        QCOMPARE(phrases.ofDay(key), utf8(expected));
+    }
+    QVERIFY(U_SUCCESS(status));
+}
+
+void TestIcuData::phrasesAreInherited_data()
+{
+    QTest::addColumn<QByteArray>("locale");
+    QTest::addColumn<QByteArray>("table");
+    QTest::addColumn<QByteArray>("key");
+    QTest::addColumn<QByteArray>("expected");
+    const auto row = [](const char* locale, const char* table, const char* key, const char* expected) {
+        QTest::addRow("%s %s %s", locale, table, key)
+            << QByteArray(locale) << QByteArray(table) << QByteArray(key) << QByteArray(expected);
+    };
+    row("en_AU", "minute-past", "one", "{0} minute ago");
+    row("es_MX", "hour-past", "other", "hace {0} horas");
+    row("es_SV", "day", "1", "mañana");
+    row("se_FI", "day", "-1", "ikte");
+    row("se_FI", "minute-past", "two", "{0} minuhta áigi");
+    row("sr_Latn", "hour-future", "few", "za {0} sata");
+    row("nn", "minute-past", "other", "for {0} minutt sidan");
+    row("nn", "year-future", "other", "om {0} år");
+    row("pa_Arab", "minute-past", "other", "-{0} min");
+    row("sd_Deva", "day", "0", "अॼु");
+    row("sd_Deva", "year-past", "other", "-{0} y");
+}
+
+// By name, for readers of a failure: the kinds of inheritance that there are.
+void TestIcuData::phrasesAreInherited()
+{
+    QFETCH(const QByteArray, locale);
+    QFETCH(const QByteArray, table);
+    QFETCH(const QByteArray, key);
+    QFETCH(const QByteArray, expected);
+    UErrorCode status = U_ZERO_ERROR;
+    const Phrases phrases(icu::Locale(locale.constData()), status);
+    QCOMPARE(table == "day" ? phrases.ofDay(key) : phrases.pattern(table, key), expected);
+}
+
+void TestIcuData::aliasesAreFollowed_data()
+{
+    QTest::addColumn<QByteArray>("locale");
+    for (const char* name : {"root", "en", "en_AU", "de", "fr_CA", "ja", "pl", "se_FI", "sr_Latn", "sd_Deva"}) {
+        QTest::newRow(name) << QByteArray(name);
+    }
+}
+
+// The wide phrases meet no alias, the narrow ones do: where a locale has none, they are its short ones.
+void TestIcuData::aliasesAreFollowed()
+{
+    QFETCH(const QByteArray, locale);
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::RelativeDateTimeFormatter formatter(icu::Locale(locale.constData()), nullptr, UDAT_STYLE_NARROW,
+                                                   UDISPCTX_CAPITALIZATION_NONE, status);
+    icu::UnicodeString expected;
+    formatter.format(UDAT_DIRECTION_LAST, UDAT_ABSOLUTE_YEAR, expected, status);
+    QVERIFY(U_SUCCESS(status));
+
+    const StockData stockData;
+    StockBundles bundles;
+    std::string error;
+    const auto text =
+        PhraseTables(bundles).text(locale.toStdString(), {"fields", "year-narrow", "relative", "-1"}, error);
+    QVERIFY2(error.empty(), error.c_str());
+    QCOMPARE(text.has_value(), !expected.isEmpty());
+    QCOMPARE(utf8(icu::UnicodeString(text.value_or(u"").c_str())), utf8(expected));
+}
+
+void TestIcuData::additionsReplaceNothing()
+{
+    std::string error;
+    const QByteArray file = copyOf("de");
+    const auto bundle = ResourceBundleReader::open(*BundleData::fromFile(view(file), error), &*m_poolReader, error);
+    QVERIFY2(bundle, error.c_str());
+
+    ResourceTree additions;
+    ResourceTree& units = additions.children["units"];
+    units.children["minute-past"].children["other"].text = u"changed";
+    units.children["minute-past"].children["many"].text = u"new";
+    const auto written = ResourceBundleWriter::write(*bundle, additions, error);
+    QVERIFY2(written, error.c_str());
+    const Dump before(file.constData() + 32, udata_getMemory(m_pool.get()));
+    Dump after(written->data() + 32, udata_getMemory(m_pool.get()));
+    QCOMPARE(after.items.take("/units/minute-past/many"), "string " + bytesOf(u"new", 3));
+    QVERIFY(after.items == before.items);
+}
+
+void TestIcuData::additionsMustFit()
+{
+    std::string error;
+    const QByteArray file = copyOf("de");
+    const auto bundle = ResourceBundleReader::open(*BundleData::fromFile(view(file), error), &*m_poolReader, error);
+    ResourceTree additions;
+    additions.children["units"].children["minute-past"] = {u"a text where a table is", {}};
+    QVERIFY(!ResourceBundleWriter::write(*bundle, additions, error));
+    QCOMPARE(error, std::string("/units/minute-past is there already, as something else"));
+}
+
+void TestIcuData::damageIsReported_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<QByteArray>("expected");
+    const QByteArray sound = copyOf("de");
+    const auto wordAt = [&sound](int word) {
+        quint32 value = 0;
+        std::memcpy(&value, sound.mid(32 + 4 * word, 4).constData(), 4);
+        return static_cast<int>(value & 0x0fffffff);
+    };
+    const auto withByte = [&sound](int offset, char value) { return QByteArray(sound).replace(offset, 1, &value, 1); };
+    const auto withWord = [&sound](int word, quint32 value) {
+        return QByteArray(sound).replace(32 + 4 * word, 4, bytesOf(&value, 1));
+    };
+    const int root = wordAt(0);
+    const int lastItem = root + 2 * wordAt(root);
+
+    QTest::newRow("empty") << QByteArray() << QByteArray("the file ends inside its header");
+    QTest::newRow("half a header") << sound.left(20) << QByteArray("the file ends inside its header");
+    QTest::newRow("magic") << withByte(2, 0) << QByteArray("not an ICU data file");
+    QTest::newRow("header size") << withByte(0, 8) << QByteArray("the header's size is out of range");
+    QTest::newRow("byte order") << withByte(8, 1) << QByteArray("made for machines with the other byte order");
+    QTest::newRow("charset") << withByte(9, 1) << QByteArray("made for another kind of machine");
+    QTest::newRow("other data") << withByte(12, 'C') << QByteArray("not a resource bundle");
+    QTest::newRow("version 1") << withByte(16, 1) << QByteArray("unknown format version 1.0");
+    QTest::newRow("version 4") << withByte(16, 4) << QByteArray("unknown format version 4.0");
+    QTest::newRow("no index") << sound.left(32 + 12) << QByteArray("too short for its index");
+    QTest::newRow("index length") << withByte(32 + 4, 9) << QByteArray("an index of unknown length 9");
+    QTest::newRow("attributes") << withByte(32 + 24, 0x14) << QByteArray("unknown attributes");
+    QTest::newRow("truncated") << sound.left(1000) << QByteArray("an index with tops out of range");
+    QTest::newRow("tops") << withWord(2, 0x00ffffff) << QByteArray("an index with tops out of range");
+    QTest::newRow("pool") << withWord(8, 1) << QByteArray("made with another pool bundle");
+    QTest::newRow("no table") << withWord(0, 0x70000001) << QByteArray("the root is not a table");
+    QTest::newRow("root") << withWord(0, 0x4fffffff) << QByteArray("a table or an array out of range");
+    QTest::newRow("table size") << withWord(root, 0x7fffffff) << QByteArray("a table or an array out of range");
+    QTest::newRow("key") << withWord(root + 1, 0x7ffffff0) << QByteArray("a key out of range");
+    QTest::newRow("pool key") << withWord(root + 1, 0xfffffff0) << QByteArray("a key out of range");
+    QTest::newRow("key order") << withWord(root + 1, 0x80000000 + quint32(wordAt(root + 2)))
+                               << QByteArray("a table with keys out of order");
+    QTest::newRow("unknown type") << withWord(lastItem, 0xa0000000) << QByteArray("a resource of unknown type 10");
+    for (const quint32 type : {0x0U, 0x1U, 0x3U, 0x6U, 0xeU}) {
+        QTest::addRow("resource of type %u", type)
+            << withWord(lastItem, type << 28U | 0x0ffffff0) << QByteArray("a resource out of range");
+    }
+    for (const quint32 type : {0x2U, 0x5U, 0x8U, 0x9U}) {
+        QTest::addRow("resource of type %u", type)
+            << withWord(lastItem, type << 28U | 0x0ffffff0) << QByteArray("a table or an array out of range");
+    }
+}
+
+void TestIcuData::damageIsReported()
+{
+    QFETCH(const QByteArray, file);
+    QFETCH(const QByteArray, expected);
+    std::string error;
+    const auto data = BundleData::fromFile(view(file), error);
+    QVERIFY(!data || !ResourceBundleReader::open(*data, &*m_poolReader, error));
+    QCOMPARE(QByteArray::fromStdString(error), expected);
+}
+
+// Whatever a bundle has been through: it is refused, or a copy of it can be made and opens again.
+void TestIcuData::noDamageIsReadThrough()
+{
+    QRandomGenerator random(20121);
+    const QByteArray sound = copyOf("en_AU");
+    ResourceTree additions;
+    additions.children["units"].children["minute-past"].children["some"].text = u"{0}";
+    int opened = 0;
+    for (int round = 0; round < 5000; ++round) {
+        QByteArray file = sound;
+        for (int i = 0; i <= round % 3; ++i) {
+            file[random.bounded(32, file.size())] = static_cast<char>(random.generate());
+        }
+        std::string error;
+        const auto bundle = ResourceBundleReader::open(*BundleData::fromFile(view(file), error), &*m_poolReader, error);
+        QCOMPARE(error.empty(), bundle.has_value());
+        const auto copy = bundle ? ResourceBundleWriter::write(*bundle, additions, error) : std::nullopt;
+        if (copy) {
+            ++opened;
+            QVERIFY(ResourceBundleReader::open(*BundleData::fromFile(*copy, error), &*m_poolReader, error));
+        }
+    }
+    QVERIFY(opened > 100 && opened < 4900);
+}
+
+void TestIcuData::directoryBesideLibrary_data()
+{
+    QTest::addColumn<QString>("data");
+    QTest::addColumn<QByteArray>("named");
+    QTest::addColumn<bool>("taken");
+    const QString current = QStringLiteral(U_ICUDATA_NAME);
+    QTest::newRow("nobody named one") << current << QByteArray() << true;
+    QTest::newRow("the application named one") << current << QByteArray("/elsewhere") << false;
+    QTest::newRow("data of another ICU") << QStringLiteral("icudt1l") << QByteArray() << false;
+}
+
+// Loads a copy of the library from an installed tree of its own.
+void TestIcuData::directoryBesideLibrary()
+{
+    QFETCH(const QString, data);
+    QFETCH(const QByteArray, named);
+    QFETCH(const bool, taken);
+    const QTemporaryDir tree;
+    const QString library = tree.filePath(QStringLiteral("lib/libzelicudata.so.1"));
+    QVERIFY(QDir(tree.path()).mkpath(QStringLiteral("lib")));
+    QVERIFY(QDir(tree.path()).mkpath(QStringLiteral("share/zel/icu/") + data));
+    QVERIFY(
+        QFile::copy(QFile::decodeName(dataDirectory()) + QStringLiteral("/../../../lib/libzelicudata.so.1"), library));
+
+    const StockData stockData;
+    u_setDataDirectory(named.constData());
+    QVERIFY2(dlopen(QFile::encodeName(library).constData(), RTLD_NOW | RTLD_LOCAL) != nullptr, dlerror());
+    QCOMPARE(QByteArray(u_getDataDirectory()),
+             taken ? QFile::encodeName(tree.filePath(QStringLiteral("share/zel/icu"))) : named);
+}
+
+void TestIcuData::environmentComesFirst_data()
+{
+    QTest::addColumn<QString>("icuData");
+    QTest::addColumn<QByteArray>("expected");
+    const QByteArray ours = QByteArray(dataDirectory()) + " 1 1";
+    QTest::newRow("unset") << QString() << ours;
+    QTest::newRow("empty") << QStringLiteral("") << ours;
+    QTest::newRow("set") << QStringLiteral("/elsewhere") << QByteArray("/elsewhere 0 0");
+}
+
+void TestIcuData::environmentComesFirst()
+{
+    QFETCH(const QString, icuData);
+    QFETCH(const QByteArray, expected);
+    QCOMPARE(runSelf(QStringLiteral("--data-directory"), icuData).first(), expected);
+}
+
+int main(int argc, char** argv)
+{
+    const QByteArray mode(argc > 1 ? argv[1] : "");
+    if (mode == "--describe") {
+        return printDescriptions();
+    }
+    if (mode == "--data-directory") {
+        return printDataDirectory();
+    }
+    const QCoreApplication application(argc, argv);
+    TestIcuData test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_icudata.moc"

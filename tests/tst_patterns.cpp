@@ -1,0 +1,298 @@
+// Patterns: ICU's in Qt syntax, under the clock of the device, and made of skeletons. Expectations hold for ICU 72.
+
+#include "patterns/ClockPattern.h"
+#include "patterns/DatePattern.h"
+#include "patterns/FormattingPrivate.h"
+#include "settings/ClockSetting.h"
+#include "support/MessageLog.h"
+#include "support/SettingsRoot.h"
+#include <QtTest/QTest>
+#include <zel/utility/i18n/Formatting.h>
+
+using namespace zel::utility::i18n;
+
+class PatternsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void translates_data();
+    void translates();
+    void dateFormats_data();
+    void dateFormats();
+    void percentages_data();
+    void percentages();
+    void timesFollowTheClock_data();
+    void timesFollowTheClock();
+    void regionIsTheDefault();
+    void clockRewritesSkeletons_data();
+    void clockRewritesSkeletons();
+    void skeletonsGiveTexts_data();
+    void skeletonsGiveTexts();
+
+private:
+    bool setClock(int hours);
+
+    SettingsRoot m_root;
+};
+
+void PatternsTest::initTestCase()
+{
+    QVERIFY(m_root.setRegion("de_DE"));
+    QVERIFY(m_root.setClock("12"));
+}
+
+bool PatternsTest::setClock(int hours)
+{
+    return m_root.setClock(QByteArray::number(hours)) &&
+           QTest::qWaitFor([hours] { return ClockSetting::clockFormat() == hours; }, 2000);
+}
+
+void PatternsTest::translates_data()
+{
+    QTest::addColumn<QString>("icu");
+    QTest::addColumn<QString>("qt");
+    const auto row = [](const char* icu, const char* qt) {
+        QTest::newRow(*icu == '\0' ? "empty" : icu) << QString::fromUtf8(icu) << QString::fromUtf8(qt);
+    };
+    row("", nullptr);
+    row("y yy yyy yyyyy", "yyyy yy yyyy yyyy");
+    row("M MM MMM MMMM MMMMM", "M MM MMM MMMM MMMM");
+    row("L LL LLL LLLL LLLLL", "M MM MMM MMMM MMMM");
+    row("d dd ddd", "d dd dd");
+    row("E EE EEE EEEE EEEEEE", "ddd ddd ddd dddd dddd");
+    row("ccc cccc ccccc", "ddd dddd dddd");
+    row("c", nullptr);
+    row("cc", nullptr);
+    row("eee", "ddd");
+    row("e", nullptr);
+    row("eeee", nullptr);
+    row("H HH h hh HHH", "h hh h hh hh");
+    row("m mm s ss", "m mm s ss");
+    row("s.S ss.SS ss.SSS", "s.z ss.zzz ss.zzz");
+    row("h:mm aaaa", "h:mm AP");
+    row("z zzzz Z v vvvv V", "t t t t t t");
+    row("d 'de' MMMM 'de' y", "d 'de' MMMM 'de' yyyy");
+    row("''h", "''h");
+    row("h 'o''clock' a", "h 'o''clock' AP");
+    row("'abc", "'abc'");
+    row("y年M月d日[x]_9", "yyyy年M月d日[x]_9");
+    row("G y", nullptr);
+    row("h:mm K", nullptr);
+    for (const char letter : {'Y', 'u', 'Q', 'q', 'w', 'W', 'D', 'F', 'g', 'A', 'k', 'K'}) {
+        QTest::addRow("no Qt form for %c", letter) << QString(QLatin1Char(letter)) << QString();
+    }
+}
+
+void PatternsTest::translates()
+{
+    QFETCH(QString, icu);
+    const QString translated = getQtDateTimePatternFromICU(icu);
+    QTEST(translated, "qt");
+    QFETCH(QString, qt);
+    QCOMPARE(translated.isNull(), qt.isNull());
+}
+
+void PatternsTest::dateFormats_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QString>("pattern");
+    const auto row = [](const char* locale, int type, const QString& pattern) {
+        QTest::addRow("%s %d", locale, type) << QString::fromLatin1(locale) << type << pattern;
+    };
+    row("en_US", DateFormat::Short, QStringLiteral("M/d/yy"));
+    row("en_US", DateFormat::Medium, QStringLiteral("MMM d, yyyy"));
+    row("en_US", DateFormat::Long, QStringLiteral("MMMM d, yyyy"));
+    row("en_US", DateFormat::Full, QStringLiteral("dddd, MMMM d, yyyy"));
+    row("de_AT", DateFormat::Full, QStringLiteral("dddd, d. MMMM yyyy"));
+    row("es_ES", DateFormat::Long, QStringLiteral("d 'de' MMMM 'de' yyyy"));
+    row("ja_JP", DateFormat::Long, QString::fromUtf8("yyyy年M月d日"));
+    row("zh_TW", DateFormat::Full, QString::fromUtf8("yyyy年M月d日 dddd"));
+    row("en_US", 0, QStringLiteral("MMM d, yyyy"));
+    row("en_US", 5, QStringLiteral("MMM d, yyyy"));
+    row("en_US", -1, QStringLiteral("MMM d, yyyy"));
+    // Long Thai dates carry an era, which Qt cannot write.
+    const QLocale thai(QStringLiteral("th_TH"));
+    row("th_TH", DateFormat::Medium, QStringLiteral("d MMM yyyy"));
+    row("th_TH", DateFormat::Long, thai.dateFormat(QLocale::LongFormat));
+    row("th_TH", DateFormat::Full, thai.dateFormat(QLocale::LongFormat));
+}
+
+void PatternsTest::dateFormats()
+{
+    QFETCH(QString, locale);
+    QFETCH(int, type);
+    QTEST(dateFormat(QLocale(locale), static_cast<DateFormat::Type>(type)), "pattern");
+}
+
+void PatternsTest::percentages_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<double>("value");
+    QTest::addColumn<int>("maximum");
+    QTest::addColumn<int>("minimum");
+    QTest::addColumn<QString>("text");
+    const auto row = [](const char* locale, double value, int maximum, int minimum, const char* text) {
+        QTest::addRow("%s %s", locale, text)
+            << QString::fromLatin1(locale) << value << maximum << minimum << QString::fromUtf8(text);
+    };
+    row("en_US", 0.256, 1, 0, "25.6%");
+    row("en_US", 0.256, 0, 0, "26%");
+    row("en_US", 0.5, 2, 2, "50.00%");
+    row("en_US", 0.5, 0, 3, "50%");
+    row("en_US", 0.125, 0, 0, "12%");
+    row("en_US", -12.5, 0, 0, "-1,250%");
+    row("de_DE", 0.256, 1, 0, "25,6\u00A0%");
+    row("fr_FR", 12.345, 1, 0, "1\u202F234,5\u00A0%");
+    row("tr_TR", 0.5, 0, 0, "%50");
+    row("ar_EG", 0.256, 1, 0, "٢٥٫٦٪\u061C");
+}
+
+void PatternsTest::percentages()
+{
+    QFETCH(QString, locale);
+    QFETCH(double, value);
+    QFETCH(int, maximum);
+    QFETCH(int, minimum);
+    QTEST(toPercentageString(QLocale(locale), value, maximum, minimum), "text");
+}
+
+void PatternsTest::timesFollowTheClock_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<int>("type");
+    QTest::addColumn<bool>("withDate");
+    QTest::addColumn<QString>("twelve");
+    QTest::addColumn<QString>("twentyFour");
+    QTest::addColumn<bool>("unsupported");
+    const auto row = [](const char* locale, DateFormat::Type type, bool withDate, const char* twelve,
+                        const char* twentyFour, bool unsupported = false) {
+        QTest::addRow("%s %d%s", locale, type, withDate ? " with date" : "")
+            << QString::fromLatin1(locale) << static_cast<int>(type) << withDate << QString::fromUtf8(twelve)
+            << QString::fromUtf8(twentyFour) << unsupported;
+    };
+    row("en_US", DateFormat::Medium, false, "h:mm:ss AP", "hh:mm:ss");
+    row("en_US", DateFormat::Full, false, "h:mm:ss AP t", "hh:mm:ss t");
+    row("en_US", DateFormat::Short, true, "M/d/yy, h:mm AP", "M/d/yy, hh:mm");
+    row("en_GB", DateFormat::Short, false, "h:mm ap", "hh:mm");
+    row("de_DE", DateFormat::Medium, false, "h:mm:ss AP", "hh:mm:ss");
+    row("de_DE", DateFormat::Full, false, "h:mm:ss AP t", "hh:mm:ss t");
+    row("de_DE", DateFormat::Short, false, "h:mm AP", "hh:mm");
+    row("ja_JP", DateFormat::Medium, false, "APh:mm:ss", "h:mm:ss");
+    row("zh_CN", DateFormat::Medium, false, "h:mm:ss AP", "hh:mm:ss");
+    row("zh_TW", DateFormat::Medium, false, "APh:mm:ss", "hh:mm:ss");
+    row("ko_KR", DateFormat::Medium, false, "AP h:mm:ss", "hh:mm:ss");
+    row("sq_AL", DateFormat::Medium, false, "h:mm:ss ap", "hh:mm:ss", true);
+    row("fr_CA", DateFormat::Medium, false, "h 'h' mm 'min' ss ap 's'", "hh 'h' mm 'min' ss 's'");
+    row("fr_CA", DateFormat::Full, false, "h 'h' mm 'min' ss 's' ap t", "hh 'h' mm 'min' ss 's' t");
+}
+
+void PatternsTest::timesFollowTheClock()
+{
+    QFETCH(QString, locale);
+    QFETCH(int, type);
+    QFETCH(bool, withDate);
+    QString (*const formatOf)(const QLocale&, DateFormat::Type) =
+        withDate ? static_cast<QString (*)(const QLocale&, DateFormat::Type)>(&dateTimeFormat)
+                 : static_cast<QString (*)(const QLocale&, DateFormat::Type)>(&timeFormat);
+    MessageLog log;
+    QVERIFY(setClock(12));
+    QTEST(formatOf(QLocale(locale), static_cast<DateFormat::Type>(type)), "twelve");
+    QCOMPARE(log.take(), QStringList());
+    QVERIFY(setClock(24));
+    QTEST(formatOf(QLocale(locale), static_cast<DateFormat::Type>(type)), "twentyFour");
+    QFETCH(bool, unsupported);
+    const QStringList warning{QStringLiteral("warning: zel::utility::i18n::Formatting::replaceWithSystemClockFormat() "
+                                             "has encountered an unsupported time format! ")};
+    QCOMPARE(log.take(), unsupported ? warning : QStringList());
+}
+
+void PatternsTest::regionIsTheDefault()
+{
+    QVERIFY(setClock(24));
+    const QLocale german(QStringLiteral("de_DE"));
+    QCOMPARE(dateFormat(DateFormat::Long), dateFormat(german, DateFormat::Long));
+    QCOMPARE(timeFormat(DateFormat::Short), QStringLiteral("hh:mm"));
+    QCOMPARE(dateTimeFormat(DateFormat::Medium), dateTimeFormat(german, DateFormat::Medium));
+    QCOMPARE(toPercentageString(0.5, 0, 0), QString::fromUtf8("50\u00A0%"));
+}
+
+void PatternsTest::clockRewritesSkeletons_data()
+{
+    QTest::addColumn<QString>("skeleton");
+    QTest::addColumn<int>("format");
+    QTest::addColumn<QString>("rewritten");
+    const auto row = [](const char* skeleton, int format, const char* rewritten) {
+        QTest::addRow("%s %d", skeleton, format)
+            << QString::fromLatin1(skeleton) << format << QString::fromLatin1(rewritten);
+    };
+    row("jmm", ClockFormat::Use12hourClock, "hmm");
+    row("jmm", ClockFormat::Use24hourClock, "Hmm");
+    row("jmm", ClockFormat::ApplyLocaleFormat, "jmm");
+    row("jmm", ClockFormat::ApplyUserFormat, "Hmm");
+    row("jjmm", ClockFormat::Use12hourClock, "hhmm");
+    row("Jmm", ClockFormat::Use24hourClock, "Jmm");
+    row("yMMMd", 99, "yMMMd");
+    row("jmm", 99, nullptr);
+    row("Jmm", 0, nullptr);
+}
+
+void PatternsTest::clockRewritesSkeletons()
+{
+    QFETCH(QString, skeleton);
+    QFETCH(int, format);
+    QFETCH(QString, rewritten);
+    QVERIFY(setClock(24));
+    MessageLog log;
+    QCOMPARE(ClockPattern::apply(skeleton, static_cast<ClockFormat::Type>(format)), rewritten);
+    const QStringList complaint{QStringLiteral("critical: static QString zel::utility::i18n::ClockPattern::apply(const "
+                                               "QString&, zel::utility::i18n::ClockFormat::Type) called with invalid "
+                                               "clock format type %1 ")
+                                    .arg(format)};
+    QCOMPARE(log.take(), rewritten.isNull() ? complaint : QStringList());
+    QCOMPARE(ClockPattern::isNotApplicable(skeleton), skeleton == QLatin1String("yMMMd"));
+}
+
+void PatternsTest::skeletonsGiveTexts_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("skeleton");
+    QTest::addColumn<QString>("pattern");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("English date") << "en_US"
+                                  << "yMMMd"
+                                  << "MMM d, y"
+                                  << "May 1, 2012";
+    QTest::newRow("German time") << "de_DE"
+                                 << "Hmm"
+                                 << "HH:mm"
+                                 << "10:00";
+    QTest::newRow("German date") << "de_DE"
+                                 << "yMMMMd"
+                                 << "d. MMMM y"
+                                 << "1. Mai 2012";
+    QTest::newRow("zone is GMT") << "en_US"
+                                 << "Hmmz"
+                                 << "HH:mm z"
+                                 << "10:00 GMT";
+    QTest::newRow("Gregorian in Persian") << "fa_IR"
+                                          << "y"
+                                          << "y" << QString::fromUtf8("۲۰۱۲");
+}
+
+void PatternsTest::skeletonsGiveTexts()
+{
+    QFETCH(QString, locale);
+    QFETCH(QString, skeleton);
+    const QString pattern = DatePattern::patternFromSkeleton(skeleton, QLocale(locale));
+    QTEST(pattern, "pattern");
+    for (const Qt::TimeSpec spec : {Qt::LocalTime, Qt::UTC}) {
+        const QDateTime dateTime(QDate(2012, 5, 1), QTime(10, 0), spec);
+        QTEST(DatePattern::formatFromPattern(pattern, dateTime, QLocale(locale)), "text");
+    }
+}
+
+QTEST_GUILESS_MAIN(PatternsTest)
+#include "tst_patterns.moc"

@@ -1,0 +1,695 @@
+// The stand-ins of the device platform: settings objects and the locale service, on real files.
+
+#include "support/MessageLog.h"
+#include "support/SettingsRoot.h"
+#include <atomic>
+#include <limits>
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QTimer>
+#include <QtTest/QSignalSpy>
+#include <QtTest/QTest>
+#include <thread>
+#include <unistd.h>
+#include <vector>
+#include <zel/PpsObject.h>
+#include <zel/system/LocaleHandler.h>
+
+using zel::PpsObject;
+using zel::PpsOpenMode::Publish;
+using zel::PpsOpenMode::Subscribe;
+using zel::system::LocaleHandler;
+using zel::system::LocaleType::Region;
+
+// Something that is done to the object under the settings root.
+using Action = void (*)(const SettingsRoot& root);
+Q_DECLARE_METATYPE(Action)
+
+namespace {
+
+const QString path = QStringLiteral("/pps/system/locale");
+constexpr int longerThanQuiet = 70; // a watcher has said by then what it has to say
+
+QByteArray object(const char* region)
+{
+    return QByteArray("@locale\nregion::") + region + '\n';
+}
+
+QVariantMap record(const QVariant& value)
+{
+    return {{QStringLiteral("@o"), QVariantMap{{QStringLiteral("a"), value}}}};
+}
+
+void removeDirectory(const SettingsRoot& root, const char* directory)
+{
+    QDir(root.file(QString::fromLatin1(directory))).removeRecursively();
+}
+
+QLocale region()
+{
+    return LocaleHandler(Region).locale();
+}
+
+// A locale with its script, which QLocale::name() leaves out.
+QString fullName(const QLocale& locale)
+{
+    return locale.name() + QLatin1Char(' ') + QLocale::scriptToString(locale.script());
+}
+
+void setPosixLocale(const QByteArray& all, const QByteArray& time, const QByteArray& language)
+{
+    qputenv("LC_ALL", all);
+    qputenv("LC_TIME", time);
+    qputenv("LANG", language);
+}
+
+} // namespace
+
+class PlatformTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { setPosixLocale("", "", "nl_BE.UTF-8"); }
+
+    void decodes_data();
+    void decodes();
+    void refusesToDecode_data();
+    void refusesToDecode();
+    void refusesToEncode_data();
+    void refusesToEncode();
+    void writes();
+    void opens_data();
+    void opens();
+    void notifies_data();
+    void notifies();
+    void notifiesFinishedRewrite();
+    void notifiesDuringSteadyStream();
+    void notifiesAfterTornRead();
+    void readsWhatWasAnnounced();
+    void stopsNotifying();
+
+    void acceptsRegion_data();
+    void acceptsRegion();
+    void rejectsRegion_data();
+    void rejectsRegion();
+    void fallsBackToPosixLocale_data();
+    void fallsBackToPosixLocale();
+    void reportsEachBadContentOnce();
+    void seesChangeWithinOneTick();
+    void doesNotReadAgain();
+    void tellsChangedRegion();
+    void answersOnManyThreads();
+};
+
+void PlatformTest::decodes_data()
+{
+    QTest::addColumn<QByteArray>("value");
+    QTest::addColumn<QVariant>("expected");
+    QTest::newRow("text") << QByteArray(":de_DE") << QVariant(QStringLiteral("de_DE"));
+    QTest::newRow("empty text") << QByteArray(":") << QVariant(QString());
+    QTest::newRow("text with colons") << QByteArray(":a:b::c") << QVariant(QStringLiteral("a:b::c"));
+    QTest::newRow("escapes") << QByteArray(":\\\\n\\n\\\\") << QVariant(QStringLiteral("\\n\n\\"));
+    QTest::newRow("carriage return") << QByteArray(":a\r") << QVariant(QStringLiteral("a\r"));
+    QTest::newRow("beyond the BMP") << QByteArray(":\xF0\x9F\x95\x91")
+                                    << QVariant(QString::fromUtf8("\xF0\x9F\x95\x91"));
+    QTest::newRow("byte order mark") << QByteArray(":\xEF\xBB\xBFx") << QVariant(QChar(0xFEFF) + QLatin1String("x"));
+    QTest::newRow("integer") << QByteArray("n:24") << QVariant(24);
+    QTest::newRow("negative") << QByteArray("n:-7") << QVariant(-7);
+    QTest::newRow("smallest int") << QByteArray("n:-2147483648") << QVariant(std::numeric_limits<int>::min());
+    QTest::newRow("past int") << QByteArray("n:2147483648") << QVariant(Q_INT64_C(2147483648));
+    QTest::newRow("past long") << QByteArray("n:9223372036854775808") << QVariant(9223372036854775808.0);
+    QTest::newRow("real") << QByteArray("n:0.1") << QVariant(0.1);
+    QTest::newRow("whole real") << QByteArray("n:24.0") << QVariant(24.0);
+    QTest::newRow("exponent") << QByteArray("n:1e300") << QVariant(1e300);
+    QTest::newRow("true") << QByteArray("b:true") << QVariant(true);
+    QTest::newRow("false") << QByteArray("b:false") << QVariant(false);
+}
+
+void PlatformTest::decodes()
+{
+    QFETCH(QByteArray, value);
+    QFETCH(QVariant, expected);
+    bool ok = false;
+    const QVariantMap decoded = PpsObject::decode("@o\na:" + value + '\n', &ok);
+    QVERIFY(ok);
+    QCOMPARE(decoded, record(expected));
+    const QVariant held = decoded.first().toMap().first();
+    QCOMPARE(held.userType(), expected.userType());
+
+    const QByteArray encoded = PpsObject::encode(decoded, &ok);
+    QVERIFY(ok);
+    QCOMPARE(PpsObject::decode(encoded), decoded);
+    QCOMPARE(PpsObject::decode(encoded).first().toMap().first().userType(), held.userType());
+}
+
+void PlatformTest::refusesToDecode_data()
+{
+    QTest::addColumn<QByteArray>("contents");
+    QTest::addColumn<QString>("expected");
+    const auto row = [](const char* name, const QByteArray& contents, const char* error) {
+        QTest::newRow(name) << contents << QString::fromLatin1(error);
+    };
+    row("empty", "", "line 1: no newline at the end");
+    row("cut off", "@o\na::b\nc::d", "line 3: no newline at the end");
+    row("no name", "a::b\n", "line 1: expected '@' and the name of the object");
+    row("empty name", "@\n", "line 1: expected '@' and the name of the object");
+    row("Windows line end", "@o\r\n", "line 1: control character in the name");
+    row("byte order mark", "\xEF\xBB\xBF@o\n", "line 1: not valid UTF-8");
+    row("blank line", "@o\n\na::b\n", "line 2: expected attribute:encoding:value");
+    row("one colon", "@o\na:b\n", "line 2: expected attribute:encoding:value");
+    row("no attribute name", "@o\n::b\n", "line 2: empty attribute name");
+    row("tab in attribute name", "@o\na\t::b\n", "line 2: control character in the attribute name");
+    row("attribute twice", "@o\na::b\nc::d\na:n:1\n", "line 4: attribute appears twice");
+    row("unknown encoding", "@o\na:json:b\n", "line 2: unknown encoding");
+    row("unknown escape", "@o\na::b\\t\n", "line 2: unknown escape");
+    row("half an escape", "@o\na::b\\\n", "line 2: unknown escape");
+    row("NUL", QByteArray("@o\na::b\0\n", 9), "line 2: NUL character");
+    row("Latin-1", "@o\na::\xE4\n", "line 2: not valid UTF-8");
+    row("overlong", "@o\na::\xC0\xAF\n", "line 2: not valid UTF-8");
+    row("surrogate", "@o\na::\xED\xA0\x80\n", "line 2: not valid UTF-8");
+    for (const char* const number : {"", " 1", "1 ", "+1", "0x10", "1,5", "1.2.3", "inf", "nan", "1e999", "\xD9\xA1"}) {
+        row(qPrintable(QStringLiteral("number '%1'").arg(QString::fromUtf8(number))),
+            QByteArray("@o\na:n:") + number + '\n', "line 2: not a number");
+    }
+    row("True", "@o\na:b:True\n", "line 2: neither true nor false");
+    row("1 for true", "@o\na:b:1\n", "line 2: neither true nor false");
+    row("too large", "@o\na::" + QByteArray(PpsObject::maximumSize - 6, 'x') + '\n', "larger than 1048576 bytes");
+}
+
+void PlatformTest::refusesToDecode()
+{
+    QFETCH(QByteArray, contents);
+    QFETCH(QString, expected);
+    bool ok = true;
+    QString error;
+    QVERIFY(PpsObject::decode(contents, &ok, &error).isEmpty());
+    QVERIFY(!ok);
+    QCOMPARE(error, expected);
+}
+
+void PlatformTest::refusesToEncode_data()
+{
+    QTest::addColumn<QVariantMap>("unfit");
+    QTest::addColumn<QString>("expected");
+    const QString cannot = QStringLiteral("holds what an object cannot");
+    QTest::newRow("nothing") << QVariantMap() << QStringLiteral("not exactly one object");
+    QTest::newRow("name without @") << QVariantMap{{QStringLiteral("o"), QVariantMap()}}
+                                    << QStringLiteral("line 1: expected '@' and the name of the object");
+    QTest::newRow("no attributes at all") << QVariantMap{{QStringLiteral("@o"), 5}} << cannot;
+    QTest::newRow("colon in attribute name")
+        << QVariantMap{{QStringLiteral("@o"), QVariantMap{{QStringLiteral("a::b"), QString()}}}} << cannot;
+    QTest::newRow("list") << record(QVariantList{1, 2}) << QStringLiteral("line 2: expected attribute:encoding:value");
+    QTest::newRow("NaN") << record(std::numeric_limits<double>::quiet_NaN()) << QStringLiteral("line 2: not a number");
+    QTest::newRow("half a surrogate pair") << record(QString(QChar(0xD83D))) << cannot;
+    QTest::newRow("too large") << record(QString(PpsObject::maximumSize, QLatin1Char('x')))
+                               << QStringLiteral("larger than 1048576 bytes");
+}
+
+void PlatformTest::refusesToEncode()
+{
+    QFETCH(QVariantMap, unfit);
+    QFETCH(QString, expected);
+    bool ok = true;
+    QString error;
+    QVERIFY(PpsObject::encode(unfit, &ok, &error).isEmpty());
+    QVERIFY(!ok);
+    QCOMPARE(error, expected);
+}
+
+void PlatformTest::writes()
+{
+    const SettingsRoot root;
+    PpsObject reader(path);
+    PpsObject writer(path);
+    QVERIFY(reader.open(Subscribe));
+    QVERIFY(!reader.write(object("de_DE")));
+    QCOMPARE(reader.errorString(), root.file(path) + QStringLiteral(": not open for writing"));
+    QVERIFY(writer.open(Publish));
+    bool ok = true;
+    writer.read(&ok);
+    QVERIFY(!ok);
+    QCOMPARE(writer.errorString(), root.file(path) + QStringLiteral(": not open for reading"));
+
+    QVERIFY(writer.write(object("de_DE")));
+    QVERIFY(!writer.write("@locale\nregion"));
+    QCOMPARE(writer.errorString(), root.file(path) + QStringLiteral(": line 2: no newline at the end"));
+    QCOMPARE(reader.read(&ok), object("de_DE"));
+    QVERIFY(ok);
+    QCOMPARE(QFileInfo(root.file(path)).dir().entryList(QDir::Files), {QStringLiteral("locale")});
+
+    // A directory cannot be made below a regular file.
+    QVERIFY(root.remove(path));
+    removeDirectory(root, "/pps/system");
+    QVERIFY(root.write(QStringLiteral("/pps/system"), "a file"));
+    QVERIFY(!writer.write(object("de_DE")));
+    QVERIFY2(writer.errorString().endsWith(QLatin1String("Not a directory")), qPrintable(writer.errorString()));
+}
+
+void PlatformTest::opens_data()
+{
+    QTest::addColumn<QString>("opened");
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<Action>("prepare");
+    QTest::addColumn<QString>("openError");
+    QTest::addColumn<QString>("readError");
+    const Action nothing = [](const SettingsRoot&) {};
+    const auto row = [](const char* name, Action prepare, const char* openError, const char* readError) {
+        QTest::newRow(name) << path << int(Subscribe) << prepare << QString::fromLatin1(openError)
+                            << QString::fromLatin1(readError);
+    };
+    row(
+        "there", [](const SettingsRoot& root) { root.write(path, object("de_DE")); }, "", "");
+    row("no directories yet", nothing, "", "No such file or directory");
+    row(
+        "too large", [](const SettingsRoot& root) { root.write(path, QByteArray(PpsObject::maximumSize + 1, 'x')); },
+        "", "larger than 1048576 bytes");
+    row(
+        "directory", [](const SettingsRoot& root) { QDir().mkpath(root.file(path)); }, "Is a directory", "");
+    row(
+        "below a file", [](const SettingsRoot& root) { root.write(QStringLiteral("/pps"), "x"); }, "Not a directory",
+        "");
+    row(
+        "circle of links",
+        [](const SettingsRoot& root) {
+            QFile::link(root.file(QStringLiteral("/pps")), root.file(QStringLiteral("/pps")));
+        },
+        "Too many levels of symbolic links", "");
+    row(
+        "device",
+        [](const SettingsRoot& root) {
+            QDir().mkpath(QFileInfo(root.file(path)).path());
+            QFile::link(QStringLiteral("/dev/null"), root.file(path));
+        },
+        "Not a regular file", "");
+    row(
+        "not readable",
+        [](const SettingsRoot& root) {
+            root.write(path, object("de_DE"));
+            QFile::setPermissions(root.file(path), {});
+        },
+        "Permission denied", "");
+    QTest::newRow("empty path") << QString() << int(Subscribe) << nothing << QStringLiteral("not an absolute path")
+                                << QString();
+    QTest::newRow("no mode") << path << 0 << nothing << QStringLiteral("unknown open mode") << QString();
+    QTest::newRow("strange mode") << path << 6 << nothing << QStringLiteral("unknown open mode") << QString();
+}
+
+void PlatformTest::opens()
+{
+    QFETCH(QString, opened);
+    QFETCH(int, mode);
+    QFETCH(Action, prepare);
+    QFETCH(QString, openError);
+    QFETCH(QString, readError);
+    if (openError == QLatin1String("Permission denied") && ::geteuid() == 0) {
+        QSKIP("nothing is denied to root");
+    }
+    const SettingsRoot root;
+    prepare(root);
+    PpsObject tested(opened);
+    QCOMPARE(tested.open(QFlags<zel::PpsOpenMode::Type>(QFlag(mode))), openError.isEmpty());
+    if (!openError.isEmpty()) {
+        QCOMPARE(tested.errorString(), root.file(opened) + QStringLiteral(": ") + openError);
+        return;
+    }
+    bool ok = false;
+    QCOMPARE(tested.read(&ok), readError.isEmpty() ? object("de_DE") : QByteArray());
+    QCOMPARE(ok, readError.isEmpty());
+    if (!ok) {
+        QCOMPARE(tested.errorString(), root.file(opened) + QStringLiteral(": ") + readError);
+    }
+}
+
+void PlatformTest::notifies_data()
+{
+    QTest::addColumn<Action>("prepare");
+    QTest::addColumn<Action>("change");
+    QTest::addColumn<int>("notifications");
+    const Action nothing = [](const SettingsRoot&) {};
+    const Action create = [](const SettingsRoot& root) { root.write(path, object("de_DE")); };
+    const auto row = [](const char* name, Action prepare, Action change, int notifications = 1) {
+        QTest::newRow(name) << prepare << change << notifications;
+    };
+    row("directories that do not exist yet", nothing, create);
+    row(
+        "directory without the object",
+        [](const SettingsRoot& root) { QDir().mkpath(root.file(QStringLiteral("/pps"))); }, create);
+    row("replaced by rename", create, [](const SettingsRoot& root) { root.write(path, object("fr_FR")); });
+    row("rewritten in place", create, [](const SettingsRoot& root) { root.rewrite(path, object("fr_FR")); });
+    row("rewritten ten times", create, [](const SettingsRoot& root) {
+        for (int i = 0; i < 10; ++i) {
+            root.rewrite(path, object(i % 2 == 0 ? "it_IT" : "fr_FR"));
+        }
+    });
+    row(
+        "rewritten with the same", create, [](const SettingsRoot& root) { root.rewrite(path, object("de_DE")); }, 0);
+    row(
+        "neighbour changed", create,
+        [](const SettingsRoot& root) { root.write(QStringLiteral("/pps/system/settings"), "x"); }, 0);
+    row("removed", create, [](const SettingsRoot& root) { root.remove(path); });
+    row("removed and created", create, [](const SettingsRoot& root) {
+        root.remove(path);
+        root.write(path, object("fr_FR"));
+    });
+    row("directories removed", create, [](const SettingsRoot& root) { removeDirectory(root, "/pps"); });
+    row("directories removed and created", create, [](const SettingsRoot& root) {
+        removeDirectory(root, "/pps");
+        root.write(path, object("fr_FR"));
+    });
+    row("directory above renamed", create, [](const SettingsRoot& root) {
+        QDir().rename(root.file(QStringLiteral("/pps")), root.file(QStringLiteral("/old")));
+    });
+    row("turned into a directory", create, [](const SettingsRoot& root) {
+        root.remove(path);
+        QDir().mkpath(root.file(path));
+    });
+}
+
+void PlatformTest::notifies()
+{
+    QFETCH(Action, prepare);
+    QFETCH(Action, change);
+    QFETCH(int, notifications);
+    const SettingsRoot root;
+    prepare(root);
+    PpsObject watched(path);
+    QSignalSpy spy(&watched, SIGNAL(readyRead()));
+    QVERIFY(watched.open(Subscribe));
+    QTest::qWait(longerThanQuiet);
+    QCOMPARE(spy.count(), 0);
+    change(root);
+    QVERIFY(notifications == 0 || spy.wait());
+    QTest::qWait(longerThanQuiet);
+    QCOMPARE(spy.count(), notifications);
+
+    // Whatever was done, it goes on.
+    removeDirectory(root, "/pps/system/locale");
+    root.write(path, object("ja_JP"));
+    QVERIFY(spy.wait());
+    root.rewrite(path, object("th_TH"));
+    QVERIFY(spy.wait());
+    QCOMPARE(spy.count(), notifications + 2);
+    bool ok = false;
+    QCOMPARE(watched.read(&ok), object("th_TH"));
+    QVERIFY(ok);
+}
+
+void PlatformTest::notifiesFinishedRewrite()
+{
+    const SettingsRoot root;
+    root.write(path, object("de_DE"));
+    PpsObject watched(path);
+    QList<QByteArray> heard;
+    connect(&watched, &PpsObject::readyRead, this, [&] { heard.append(watched.read()); });
+    QVERIFY(watched.open(Subscribe));
+    QTest::qWait(longerThanQuiet);
+    QTimer::singleShot(5, this, [&] { root.rewrite(path, object("fr_FR")); });
+    root.rewrite(path, "");
+    QTRY_COMPARE(heard.size(), 1);
+    QCOMPARE(heard.first(), object("fr_FR"));
+}
+
+void PlatformTest::notifiesDuringSteadyStream()
+{
+    const SettingsRoot root;
+    root.write(path, object("de_DE"));
+    PpsObject watched(path);
+    QSignalSpy spy(&watched, SIGNAL(readyRead()));
+    QVERIFY(watched.open(Subscribe));
+    int count = 0;
+    QTimer writer;
+    connect(&writer, &QTimer::timeout, this,
+            [&] { root.rewrite(path, object(QByteArray::number(++count).constData())); });
+    writer.start(1);
+    QTRY_VERIFY(spy.count() >= 3);
+}
+
+void PlatformTest::notifiesAfterTornRead()
+{
+    const SettingsRoot root;
+    root.write(path, object("de_DE"));
+    PpsObject watched(path);
+    QSignalSpy spy(&watched, SIGNAL(readyRead()));
+    QVERIFY(watched.open(Subscribe));
+    QTest::qWait(longerThanQuiet);
+    root.rewrite(path, "@loc");
+    QCOMPARE(watched.read(), QByteArray("@loc"));
+    root.rewrite(path, object("de_DE"));
+    QTRY_COMPARE(spy.count(), 1);
+}
+
+void PlatformTest::readsWhatWasAnnounced()
+{
+    const SettingsRoot root;
+    root.write(path, object("de_DE"));
+    PpsObject watched(path);
+    QList<QByteArray> heard;
+    connect(&watched, &PpsObject::readyRead, this, [&] {
+        // Another writer is at it again.
+        root.rewrite(path, "@loc");
+        heard.append(watched.read());
+        heard.append(watched.read());
+    });
+    QVERIFY(watched.open(Subscribe));
+    root.write(path, object("fr_FR"));
+    QTRY_COMPARE(heard, (QList<QByteArray>{object("fr_FR"), "@loc"}));
+}
+
+void PlatformTest::stopsNotifying()
+{
+    const SettingsRoot root;
+    PpsObject watched(path);
+    QSignalSpy spy(&watched, SIGNAL(readyRead()));
+    QVERIFY(watched.open(Publish | Subscribe));
+    connect(&watched, &PpsObject::readyRead, &watched, [&] { watched.setReadyReadEnabled(false); });
+    QVERIFY(watched.write(object("de_DE")));
+    QTRY_COMPARE(spy.count(), 1);
+    QVERIFY(watched.write(object("fr_FR")));
+    QTest::qWait(longerThanQuiet);
+    QCOMPARE(spy.count(), 1);
+    watched.setReadyReadEnabled(true);
+    QTRY_COMPARE(spy.count(), 2);
+}
+
+void PlatformTest::acceptsRegion_data()
+{
+    QTest::addColumn<QByteArray>("value");
+    QTest::addColumn<QString>("expected");
+    const auto row = [](const char* value, const char* expected) {
+        QTest::newRow(value) << QByteArray(value) << QString::fromLatin1(expected);
+    };
+    row("de", "de_DE Latin");
+    row("de_AT", "de_AT Latin");
+    row("de-at", "de_AT Latin");
+    row("es-419", "es_419 Latin");
+    row("zh-Hant-TW", "zh_TW Traditional Han");
+    row("zh_Hans_HK", "zh_HK Simplified Han");
+    row("sr_Latn_RS", "sr_RS Latin");
+    row("sr_RS@latin", "sr_RS Latin");
+    row("el_Grek_GR", "el_GR Greek");
+    row("iw_IL", "he_IL Hebrew");
+    row("de_DE.UTF-8@euro", "de_DE Latin");
+    row("ca-ES-valencia", "ca_ES Latin");
+    row("en-US-u-hc-h12", "en_US Latin");
+    row("C", "C Default");
+}
+
+void PlatformTest::acceptsRegion()
+{
+    QFETCH(QByteArray, value);
+    QFETCH(QString, expected);
+    const SettingsRoot root;
+    MessageLog log;
+    QVERIFY(root.setRegion(value));
+    QCOMPARE(fullName(region()), expected);
+    QCOMPARE(log.take(), QStringList());
+}
+
+void PlatformTest::rejectsRegion_data()
+{
+    QTest::addColumn<QByteArray>("contents");
+    QTest::addColumn<QString>("reason");
+    const auto value = [](const char* name, const QByteArray& region, const char* shown) {
+        QTest::newRow(name) << object(region.constData())
+                            << QStringLiteral("region \"%1\" is not a locale").arg(QString::fromUtf8(shown));
+    };
+    value("empty", "", "");
+    value("unknown language", "qq_DE", "qq_DE");
+    value("unknown territory", "de_QQ", "de_QQ");
+    value("language name", "German", "German");
+    value("three-letter territory", "de_DEU", "de_DEU");
+    value("script of others", "de_Cyrl_DE", "de_Cyrl_DE");
+    value("unknown script", "de_Qqqq", "de_Qqqq");
+    value("undetermined", "und", "und");
+    value("trailing blank", "de_DE ", "de_DE ");
+    value("line break", "de\\nDE", "de?DE");
+    value("10,000 characters", QByteArray(10000, 'x'), "xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx...");
+    value("10,000 subtags", "de" + QByteArray("-variant").repeated(10000),
+          "de-variant-variant-variant-variant-varia...");
+    QTest::newRow("number") << QByteArray("@locale\nregion:n:49\n") << QStringLiteral("region \"49\" is not a locale");
+    QTest::newRow("torn") << QByteArray("@locale\nregion::de") << QStringLiteral("line 2: no newline at the end");
+}
+
+void PlatformTest::rejectsRegion()
+{
+    QFETCH(QByteArray, contents);
+    QFETCH(QString, reason);
+    const SettingsRoot root;
+    MessageLog log;
+    QVERIFY(root.write(path, contents));
+    QCOMPARE(region().name(), QStringLiteral("nl_BE"));
+    QCOMPARE(log.take(), {QStringLiteral("warning: zel::system::LocaleHandler: %1: %2; using the locale nl_BE")
+                              .arg(root.file(path), reason)});
+}
+
+void PlatformTest::fallsBackToPosixLocale_data()
+{
+    QTest::addColumn<QByteArray>("all");
+    QTest::addColumn<QByteArray>("time");
+    QTest::addColumn<QByteArray>("language");
+    QTest::addColumn<QString>("expected");
+    const auto row = [](const char* name, const char* all, const char* time, const char* lang, const char* expected) {
+        QTest::newRow(name) << QByteArray(all) << QByteArray(time) << QByteArray(lang) << QString::fromLatin1(expected);
+    };
+    row("LC_ALL first", "de_AT.UTF-8", "fr_CA", "ja_JP", "de_AT Latin");
+    row("then LC_TIME", "", "fr_CA.utf8", "ja_JP", "fr_CA Latin");
+    row("then LANG", "", "", "ja_JP.eucJP", "ja_JP Japanese");
+    row("none", "", "", "", "C Default");
+    row("C", "C", "", "de_DE", "C Default");
+    row("C.UTF-8", "C.UTF-8", "", "de_DE", "C Default");
+    row("POSIX", "POSIX", "", "de_DE", "C Default");
+    row("currency modifier", "", "", "de_DE@euro", "de_DE Latin");
+    row("script modifier", "", "", "sr_RS.UTF-8@latin", "sr_RS Latin");
+    row("other script modifier", "", "", "uz_UZ@cyrillic", "uz_UZ Cyrillic");
+    row("closest", "", "", "de_US.UTF-8", "de_DE Latin");
+    row("nonsense", "", "", "nonsense", "C Default");
+}
+
+void PlatformTest::fallsBackToPosixLocale()
+{
+    QFETCH(QByteArray, all);
+    QFETCH(QByteArray, time);
+    QFETCH(QByteArray, language);
+    QFETCH(QString, expected);
+    const SettingsRoot root;
+    MessageLog log;
+    setPosixLocale(all, time, language);
+    QCOMPARE(fullName(region()), expected);
+    QVERIFY(root.write(path, "@locale\nlanguage::it_IT\n"));
+    QCOMPARE(fullName(region()), expected);
+    QVERIFY(root.setRegion("pt_BR"));
+    QCOMPARE(region().name(), QStringLiteral("pt_BR"));
+    QVERIFY(root.remove(path));
+    QCOMPARE(fullName(region()), expected);
+    QCOMPARE(LocaleHandler(static_cast<zel::system::LocaleType::Type>(1)).locale(), QLocale::c());
+    QCOMPARE(log.take(), QStringList());
+}
+
+void PlatformTest::reportsEachBadContentOnce()
+{
+    const SettingsRoot root;
+    MessageLog log;
+    const auto messagesFor = [&](const QByteArray& contents) {
+        if (!root.write(path, contents)) {
+            return -1;
+        }
+        for (int i = 0; i < 100; ++i) {
+            region();
+        }
+        return static_cast<int>(log.take().size());
+    };
+    QCOMPARE(messagesFor(object("bad")), 1);
+    QCOMPARE(messagesFor(object("bad")), 0);
+    QCOMPARE(messagesFor("@locale\nregion::bad\nmore::1\n"), 1);
+    QCOMPARE(messagesFor(""), 1);
+    QCOMPARE(messagesFor(object("de_DE")), 0);
+    QCOMPARE(messagesFor(""), 1);
+    root.remove(path);
+    QVERIFY(QDir().mkpath(root.file(path)));
+    region();
+    region();
+    QCOMPARE(log.take(), {QStringLiteral("warning: zel::system::LocaleHandler: %1: Is a directory; using the locale "
+                                         "nl_BE")
+                              .arg(root.file(path))});
+}
+
+void PlatformTest::seesChangeWithinOneTick()
+{
+    const SettingsRoot root;
+    QVERIFY(root.setRegion("de_DE"));
+    for (int i = 0; i < 500; ++i) {
+        // The same size and inode, and mostly the same time of change.
+        const char* const next = i % 2 == 0 ? "fr_FR" : "de_DE";
+        QVERIFY(root.rewrite(path, object(next)));
+        QCOMPARE(region().name(), QString::fromLatin1(next));
+    }
+}
+
+void PlatformTest::doesNotReadAgain()
+{
+    const SettingsRoot root;
+    QVERIFY(root.write(path, object("de_DE") + QByteArray("x::" + QByteArray(100000, 'x') + '\n')));
+    QTest::qSleep(30);
+    region();
+    QElapsedTimer timer;
+    timer.start();
+    for (int i = 0; i < 100; ++i) {
+        PpsObject fresh(path);
+        QVERIFY(fresh.open(Subscribe));
+        QVERIFY(!PpsObject::decode(fresh.read()).isEmpty());
+    }
+    const qint64 reading = timer.nsecsElapsed();
+    timer.start();
+    for (int i = 0; i < 100; ++i) {
+        region();
+    }
+    const qint64 asking = timer.nsecsElapsed();
+    QVERIFY2(asking * 10 < reading, qPrintable(QStringLiteral("%1 against %2 ns").arg(asking).arg(reading)));
+}
+
+void PlatformTest::tellsChangedRegion()
+{
+    const SettingsRoot root;
+    QVERIFY(root.setRegion("de_DE"));
+    const LocaleHandler handler(Region);
+    QSignalSpy spy(&handler, SIGNAL(changed()));
+    QTest::qWait(longerThanQuiet);
+    QVERIFY(root.setRegion("fr_FR"));
+    QTRY_COMPARE(spy.count(), 1);
+    QCOMPARE(handler.locale().name(), QStringLiteral("fr_FR"));
+    QVERIFY(root.write(path, "@locale\nregion::fr-FR\nlanguage::it\n"));
+    QTest::qWait(longerThanQuiet);
+    QCOMPARE(spy.count(), 1);
+    removeDirectory(root, "/pps");
+    QTRY_COMPARE(spy.count(), 2);
+    QCOMPARE(handler.locale().name(), QStringLiteral("nl_BE"));
+}
+
+void PlatformTest::answersOnManyThreads()
+{
+    const SettingsRoot root;
+    QVERIFY(root.setRegion("de_DE"));
+    std::atomic<bool> done{false};
+    std::atomic<int> strange{0};
+    std::vector<std::thread> threads;
+    for (int i = 0; i < 4; ++i) {
+        threads.emplace_back([&] {
+            while (!done) {
+                const QLocale::Language language = region().language();
+                strange += language != QLocale::German && language != QLocale::French ? 1 : 0;
+            }
+        });
+    }
+    for (int i = 0; i < 300; ++i) {
+        root.setRegion(i % 2 == 0 ? "fr_FR" : "de_DE");
+    }
+    done = true;
+    for (std::thread& thread : threads) {
+        thread.join();
+    }
+    QCOMPARE(strange.load(), 0);
+    QCOMPARE(region().name(), QStringLiteral("de_DE"));
+}
+
+QTEST_GUILESS_MAIN(PlatformTest)
+#include "tst_platform.moc"

@@ -1,0 +1,324 @@
+// How far moments lie apart, which range takes them, and what a relative pattern makes of them.
+
+#include "relative/DateOffsetRange.h"
+#include "relative/RelativeDate.h"
+#include "relative/RelativeDatePattern.h"
+#include "support/MessageLog.h"
+#include "support/SettingsRoot.h"
+#include <limits>
+#include <QtTest/QTest>
+
+using namespace zel::utility::i18n;
+
+namespace {
+
+constexpr auto noElement = static_cast<RelativeDateElement::Type>(64);
+constexpr unsigned int noMinimum = 0;
+
+QDateTime at(const char* iso)
+{
+    return QDateTime::fromString(QString::fromLatin1(iso), Qt::ISODate);
+}
+
+QString signature(const char* function)
+{
+    return QStringLiteral("critical: static %1 ").arg(QString::fromLatin1(function));
+}
+
+} // namespace
+
+class RelativeTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void elementsAreDescribed_data();
+    void elementsAreDescribed();
+    void invalidElementsAreReported();
+    void phrasesReplaceLetters_data();
+    void phrasesReplaceLetters();
+    void phrasesThatDoNotFit();
+    void distances_data();
+    void distances();
+    void timeSpecificationsDoNotCount();
+    void ranges_data();
+    void ranges();
+    void patterns_data();
+    void patterns();
+    void patternFollowsItsSetters();
+
+private:
+    SettingsRoot m_root;
+};
+
+void RelativeTest::initTestCase()
+{
+    QVERIFY(m_root.setClock("24"));
+}
+
+void RelativeTest::elementsAreDescribed_data()
+{
+    QTest::addColumn<int>("element");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("absolute");
+    QTest::addColumn<QString>("letters");
+    QTest::addColumn<QStringList>("past");
+    QTest::addColumn<QStringList>("future");
+    const QStringList days{"calendar", "gregorian", "fields", "day", "relative"};
+    QTest::newRow("minutes") << 16 << "Minutes" << false << "m" << QStringList{"units", "minute-past"}
+                             << QStringList{"units", "minute-future"};
+    QTest::newRow("hours") << 32 << "Hours" << false << "hHkK" << QStringList{"units", "hour-past"}
+                           << QStringList{"units", "hour-future"};
+    QTest::newRow("days") << 128 << "Named Days" << true << "eEc" << days << days;
+    QTest::newRow("years") << 2048 << "Years" << false << "yY" << QStringList{"units", "year-past"}
+                           << QStringList{"units", "year-future"};
+}
+
+void RelativeTest::elementsAreDescribed()
+{
+    QFETCH(int, element);
+    const auto type = static_cast<RelativeDateElement::Type>(element);
+    QTEST(RelativeDate::elementName(type), "name");
+    QTEST(RelativeDate::offsetIsAbsolute(type), "absolute");
+    QTEST(RelativeDate::characters(type), "letters");
+    QTEST(RelativeDate::resourcePath(type, true), "past");
+    QTEST(RelativeDate::resourcePath(type, false), "future");
+    QCOMPARE(RelativeDate::resourceIsPlural(type), type != RelativeDateElement::NamedDays);
+}
+
+void RelativeTest::invalidElementsAreReported()
+{
+    const QString end = QStringLiteral("called with invalid element type: 64 ");
+    const QDateTime now = QDateTime::currentDateTime();
+    MessageLog log;
+    QVERIFY(RelativeDate::elementName(noElement).isNull());
+    QVERIFY(!RelativeDate::offsetIsAbsolute(noElement));
+    QVERIFY(RelativeDate::characters(noElement).isNull());
+    QCOMPARE(RelativeDate::apply("EEEE", noElement, "x"), QStringLiteral("EEEE"));
+    QCOMPARE(RelativeDate::offset(now, now.addDays(1), noElement), 0);
+    QCOMPARE(RelativeDate::difference(now, now.addDays(1), noElement, false), 0);
+    const QString characters = signature("QString zel::utility::i18n::RelativeDate::characters("
+                                         "zel::utility::i18n::RelativeDateElement::Type)") +
+                               QStringLiteral("called with invalid element type:  64 ");
+    const QStringList expected{
+        signature(
+            "QString zel::utility::i18n::RelativeDate::elementName(zel::utility::i18n::RelativeDateElement::Type)") +
+            end,
+        signature("bool zel::utility::i18n::RelativeDate::offsetIsAbsolute("
+                  "zel::utility::i18n::RelativeDateElement::Type)") +
+            end,
+        characters,
+        characters,
+        signature("QString zel::utility::i18n::RelativeDate::apply(const QString&, "
+                  "zel::utility::i18n::RelativeDateElement::Type, const QString&)") +
+            end,
+        signature("int zel::utility::i18n::RelativeDate::offset(const QDateTime&, const QDateTime&, "
+                  "zel::utility::i18n::RelativeDateElement::Type)") +
+            end,
+        signature("int zel::utility::i18n::RelativeDate::difference(const QDateTime&, const QDateTime&, "
+                  "zel::utility::i18n::RelativeDateElement::Type, bool)") +
+            end,
+    };
+    QCOMPARE(log.take(), expected);
+}
+
+void RelativeTest::phrasesReplaceLetters_data()
+{
+    QTest::addColumn<QString>("format");
+    QTest::addColumn<int>("element");
+    QTest::addColumn<QString>("phrase");
+    QTest::addColumn<QString>("result");
+    QTest::newRow("day") << "EEEE, d MMMM" << 128 << "Yesterday"
+                         << "'Yesterday', d MMMM";
+    QTest::newRow("quoted letter stays") << "h 'h' mm" << 32 << "3 hours"
+                                         << "'3 hours' 'h' mm";
+    QTest::newRow("every place goes") << "mm:ss m" << 16 << "5 minutes"
+                                      << "'5 minutes':ss ";
+    QTest::newRow("order of letters decides") << "H:mm h" << 32 << "3 hours"
+                                              << ":mm '3 hours'";
+    QTest::newRow("phrase is put in as it is") << "E" << 128 << "d''hier"
+                                               << "'d''hier'";
+}
+
+void RelativeTest::phrasesReplaceLetters()
+{
+    QFETCH(QString, format);
+    QFETCH(int, element);
+    QFETCH(QString, phrase);
+    MessageLog log;
+    QTEST(RelativeDate::apply(format, static_cast<RelativeDateElement::Type>(element), phrase), "result");
+    QCOMPARE(log.take(), QStringList());
+}
+
+void RelativeTest::phrasesThatDoNotFit()
+{
+    const QString apply = QStringLiteral("static QString zel::utility::i18n::RelativeDate::apply(const QString&, "
+                                         "zel::utility::i18n::RelativeDateElement::Type, const QString&) ");
+    MessageLog log;
+    QCOMPARE(RelativeDate::apply("d 'year' MMMM", RelativeDateElement::Years, "last year"),
+             QStringLiteral("d 'year' MMMM"));
+    QCOMPARE(log.take(), QStringList{"critical: " + apply +
+                                     "called with format \"d 'year' MMMM\" which does not contain "
+                                     "the requested element type \"0x800\" "});
+    QCOMPARE(RelativeDate::apply("EEEE d", RelativeDateElement::NamedDays, QString()), QStringLiteral(" d"));
+    QCOMPARE(log.take(), QStringList{"warning: " + apply + "called with empty element string for \"Named Days\" "});
+}
+
+void RelativeTest::distances_data()
+{
+    QTest::addColumn<QString>("anchor");
+    QTest::addColumn<QString>("moment");
+    QTest::addColumn<int>("element");
+    QTest::addColumn<int>("offset");
+    QTest::addColumn<int>("difference");
+    QTest::addColumn<int>("remainder");
+    const auto row = [](const char* name, const char* anchor, const char* moment, RelativeDateElement::Type element,
+                        int offset, int difference, int remainder) {
+        QTest::newRow(name) << anchor << moment << static_cast<int>(element) << offset << difference << remainder;
+    };
+    using namespace RelativeDateElement;
+    row("midnight between", "2012-05-05T23:50:00", "2012-05-06T00:10:00", NamedDays, 1, 0, 0);
+    row("hour between", "2012-05-05T10:59:00", "2012-05-05T11:01:00", Minutes, -58, 2, 2);
+    row("a second short of a minute", "2012-05-05T10:00:00", "2012-05-05T10:00:59", Minutes, 0, 0, 0);
+    row("a second short of a minute ago", "2012-05-05T10:00:59", "2012-05-05T10:00:00", Minutes, 0, 0, 0);
+    row("a minute ago", "2012-05-05T10:01:00", "2012-05-05T10:00:00", Minutes, -1, -1, -1);
+    row("hours and minutes", "2012-05-05T10:00:00", "2012-05-05T12:25:00", Minutes, 25, 145, 25);
+    row("hours and minutes in hours", "2012-05-05T10:00:00", "2012-05-05T12:25:00", Hours, 2, 2, 2);
+    row("a day and hours", "2012-05-05T10:00:00", "2012-05-06T13:00:00", Hours, 3, 27, 3);
+    row("months and days", "2012-05-05T10:00:00", "2012-07-08T10:00:00", NamedDays, 64, 64, 3);
+    row("end of a leap year", "2012-12-31T12:00:00", "2013-01-01T12:00:00", NamedDays, -365, 1, 1);
+    row("end of a leap year in years", "2012-12-31T12:00:00", "2013-01-01T12:00:00", Years, 1, 0, 0);
+    row("years", "2012-05-05T10:00:00", "2008-05-04T10:00:00", Years, -4, -4, 0);
+}
+
+void RelativeTest::distances()
+{
+    QFETCH(QString, anchor);
+    QFETCH(QString, moment);
+    QFETCH(int, element);
+    const QDateTime from = at(qPrintable(anchor));
+    const QDateTime to = at(qPrintable(moment));
+    const auto type = static_cast<RelativeDateElement::Type>(element);
+    QTEST(RelativeDate::offset(from, to, type), "offset");
+    QTEST(RelativeDate::difference(from, to, type, false), "difference");
+    QTEST(RelativeDate::difference(from, to, type, true), "remainder");
+}
+
+void RelativeTest::timeSpecificationsDoNotCount()
+{
+    const QDate day(2012, 3, 25);
+    const QDateTime local(day, QTime(10, 0), Qt::LocalTime);
+    const QDateTime shifted(day, QTime(10, 0), Qt::OffsetFromUTC, 5 * 3600);
+    for (const auto element : {RelativeDateElement::Minutes, RelativeDateElement::Hours, RelativeDateElement::NamedDays,
+                               RelativeDateElement::Years}) {
+        QCOMPARE(RelativeDate::offset(local, shifted, element), 0);
+        QCOMPARE(RelativeDate::difference(local, shifted, element, false), 0);
+    }
+}
+
+void RelativeTest::ranges_data()
+{
+    QTest::addColumn<int>("element");
+    QTest::addColumn<unsigned int>("minimum");
+    QTest::addColumn<bool>("absolute");
+    QTest::addColumn<bool>("past");
+    QTest::addColumn<QString>("moment");
+    QTest::addColumn<bool>("contained");
+    const auto row = [](const char* name, RelativeDateElement::Type element, unsigned int minimum, bool absolute,
+                        bool past, const char* moment, bool contained) {
+        QTest::newRow(name) << static_cast<int>(element) << minimum << absolute << past << moment << contained;
+    };
+    using namespace RelativeDateElement;
+    row("long ago", Minutes, noMinimum, false, true, "2011-05-16T00:05:00", true);
+    row("half a minute later is now", Minutes, noMinimum, false, true, "2012-05-16T00:05:30", true);
+    row("now is not later", Minutes, noMinimum, false, false, "2012-05-16T00:05:30", false);
+    row("a minute later is", Minutes, noMinimum, false, false, "2012-05-16T00:06:00", true);
+    row("yesterday ten minutes ago", NamedDays, 1, true, true, "2012-05-15T23:55:00", true);
+    row("yesterday is not tomorrow", NamedDays, 1, true, false, "2012-05-15T23:55:00", false);
+    row("59 minutes are no hour", Hours, 1, false, false, "2012-05-16T01:04:59", false);
+    row("60 minutes are one", Hours, 1, false, false, "2012-05-16T01:05:00", true);
+    row("three days are not four", NamedDays, 4, true, false, "2012-05-19T23:59:00", false);
+    row("four days are", NamedDays, 4, true, false, "2012-05-20T00:00:00", true);
+    row("no count reaches the largest minimum", Minutes, std::numeric_limits<unsigned int>::max(), false, true,
+        "2011-05-16T00:05:00", false);
+    row("an invalid element counts nothing", noElement, noMinimum, false, true, "2030-01-01T00:00:00", true);
+}
+
+void RelativeTest::ranges()
+{
+    QFETCH(int, element);
+    QFETCH(unsigned int, minimum);
+    QFETCH(bool, absolute);
+    QFETCH(bool, past);
+    QFETCH(QString, moment);
+    MessageLog log;
+    DateOffsetRange range(at("1999-01-01T00:00:00"), static_cast<RelativeDateElement::Type>(element), minimum, absolute,
+                          past, nullptr);
+    range.setAnchorTime(at("2012-05-16T00:05:00"));
+    QTEST(range.contains(at(qPrintable(moment))), "contained");
+    QCOMPARE(log.take().isEmpty(), element != noElement);
+}
+
+void RelativeTest::patterns_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("skeleton");
+    QTest::addColumn<QList<int>>("elements");
+    QTest::addColumn<QString>("moment");
+    QTest::addColumn<QString>("text");
+    const auto row = [](const char* locale, const char* skeleton, const QList<int>& elements, const char* moment,
+                        const char* text) {
+        QTest::addRow("%s %s %s", locale, skeleton, moment)
+            << locale << skeleton << elements << moment << QString::fromUtf8(text);
+    };
+    // The anchor is 16 May 2012, 12:00.
+    row("en", "yMMMM", {}, "2011-05-18T12:00:00", "May 2011");
+    row("en", "Ejm", {128}, "2012-05-15T10:30:00", "yesterday 10:30");
+    row("de", "H", {32}, "2012-05-16T09:00:00", "vor 3 Stunden");
+    row("fr", "H", {32}, "2012-05-16T15:00:00", "dans 3 heures");
+    row("ja", "H", {32}, "2012-05-16T09:00:00", "3 時間前");
+    row("ar", "H", {32}, "2012-05-16T09:00:00", "قبل ٣ ساعات");
+    row("uk", "E", {128}, "2012-05-15T09:00:00", "учора");
+    row("fr", "m", {16}, "2012-05-16T11:55:00", "il y a 5 minutes");
+    row("fr", "E", {128}, "2012-05-16T09:00:00", "aujourd’hui");
+    // Breton and Uzbek write apostrophes of the ASCII kind or letters beside one.
+    row("br", "E", {128}, "2012-05-17T12:00:00", "warcʼhoazh");
+    row("de", "Hm", {32, 16}, "2012-05-16T14:25:00", "in 2 Stunden:in 25 Minuten");
+    row("en", "y", {2048}, "2015-06-16T12:00:00", "in 0 years");
+}
+
+void RelativeTest::patterns()
+{
+    QFETCH(QString, locale);
+    QFETCH(QString, skeleton);
+    QFETCH(QList<int>, elements);
+    QFETCH(QString, moment);
+    QList<RelativeDateElement::Type> types;
+    for (const int element : elements) {
+        types.append(static_cast<RelativeDateElement::Type>(element));
+    }
+    MessageLog log;
+    const RelativeDatePattern pattern(QLocale(locale), ClockFormat::Use24hourClock, at("2012-05-16T12:00:00"), skeleton,
+                                      types, nullptr);
+    QTEST(pattern.format(at(qPrintable(moment))), "text");
+    QCOMPARE(log.take(), QStringList());
+}
+
+void RelativeTest::patternFollowsItsSetters()
+{
+    const QDateTime anchor = at("2012-05-16T12:00:00");
+    RelativeDatePattern pattern(QLocale("en_US"), ClockFormat::Use24hourClock, anchor, "Ejm",
+                                {RelativeDateElement::NamedDays}, nullptr);
+    const QDateTime moment = at("2012-05-17T18:05:00");
+    QCOMPARE(pattern.format(moment), QStringLiteral("tomorrow 18:05"));
+    pattern.setAnchorTime(anchor.addDays(2));
+    QCOMPARE(pattern.format(moment), QStringLiteral("yesterday 18:05"));
+    pattern.setLocale(QLocale("de_DE"));
+    QCOMPARE(pattern.format(moment), QStringLiteral("gestern, 18:05"));
+    pattern.setClockFormat(ClockFormat::Use12hourClock);
+    QCOMPARE(pattern.format(moment), QString::fromUtf8("gestern 6:05\u202FPM"));
+}
+
+QTEST_GUILESS_MAIN(RelativeTest)
+#include "tst_relative.moc"

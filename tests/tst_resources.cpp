@@ -1,0 +1,289 @@
+// Phrases from locale bundles, among them bundles that no sane locale would have.
+
+#include "bridge/Locale.h"
+#include "relative/RelativeDate.h"
+#include "resources/NumericResourceAccessor.h"
+#include "resources/PluralResourceAccessor.h"
+#include "resources/ResourceFormatter.h"
+#include "support/IcuBundles.h"
+#include "support/MessageLog.h"
+#include <limits>
+#include <memory>
+#include <QtTest/QTest>
+
+using namespace zel::utility::i18n;
+
+namespace {
+
+const QString initSignature =
+    QStringLiteral("static icu::ResourceBundle* zel::utility::i18n::ResourceAccessor::initResource(const icu::Locale&, "
+                   "const QStringList&) ");
+const QString numericConstructor =
+    QStringLiteral("critical: zel::utility::i18n::NumericResourceAccessor::NumericResourceAccessor(const QLocale&, "
+                   "const QStringList&, QObject*) ");
+const QString numericFormat =
+    QStringLiteral("critical: virtual QString zel::utility::i18n::NumericResourceAccessor::format(int) const ");
+const QString pluralConstructor =
+    QStringLiteral("critical: zel::utility::i18n::PluralResourceAccessor::PluralResourceAccessor(const QLocale&, const "
+                   "QStringList&, QObject*) ");
+const QString pluralFormat =
+    QStringLiteral("virtual QString zel::utility::i18n::PluralResourceAccessor::format(int) const ");
+const QString getStringFailed =
+    QStringLiteral("warning: Error in calling icu::ResourceBundle::getStringEx( const char *, UErrorCode & ): ");
+
+QStringList exhausted(const QString& constructor, const QString& locale, const QString& keys)
+{
+    return {constructor + QStringLiteral("exhausted all possible locale fallbacks for \"%1\" ").arg(locale),
+            constructor + QStringLiteral("failed to open resource path: (%1) ").arg(keys)};
+}
+
+// "de" is the odd one, "de_AT" has a table of its own, "pl" and "ar" have what their plural rules ask for.
+constexpr const char* oddGerman = R"(de {
+    t { one { "einmal" } other { "{0} mal {0}" } }
+    numbers { 0 { "null" } 1 { "eins" } 5 { "fuenf" } }
+    onlyOther { other { "{0} min ago" } }
+    named { "-1" { "gestern" } 0 { "heute" } 1 { "morgen" } 2 { "bald" } }
+    twoOfThree { "-1" { "gestern" } 0 { "heute" } }
+    notText { "-1" { "gestern" } 0:int { 5 } 1 { "morgen" } }
+    pluralNotText { one:int { 1 } other { "x" } }
+    numberNotText { 5:int { 5 } }
+    otherNotText { other:int { 5 } }
+    text { "a string" }
+    units {
+        minute-past { other { "vor {0}" } }
+        minute-future { other { "in {0}" } }
+        hour-past { other { "nur vor {0}" } }
+    }
+})";
+constexpr const char* austrian = R"(de_AT { own { other { "{0} eigene" } } text { "nur Text" } })";
+constexpr const char* polish =
+    R"(pl { t { one { "{0} minuta" } few { "{0} minuty" } many { "{0} minut" } other { "{0} minuty" } } })";
+constexpr const char* arabic =
+    R"(ar { NumberElements { default { "arab" } } t { zero { "z{0}" } one { "o{0}" } two { "t{0}" } few { "f{0}" } many { "m{0}" } other { "x{0}" } } byNumber { 5 { "n{0}" } } })";
+
+} // namespace
+
+class ResourcesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void walksAKeyPath_data();
+    void walksAKeyPath();
+    void fixedPhrases_data();
+    void fixedPhrases();
+    void fixedPhrasesByCount();
+    void countedPhrases_data();
+    void countedPhrases();
+    void countedTables_data();
+    void countedTables();
+    void formatterChoosesTheSide();
+    void formatterNeedsBothSides();
+    void formatterOfNoElement();
+
+private:
+    IcuBundles m_bundles;
+};
+
+void ResourcesTest::initTestCase()
+{
+    m_bundles.use();
+    QVERIFY(m_bundles.compile(QStringLiteral("de"), oddGerman));
+    QVERIFY(m_bundles.compile(QStringLiteral("de_AT"), austrian));
+    QVERIFY(m_bundles.compile(QStringLiteral("pl"), polish));
+    QVERIFY(m_bundles.compile(QStringLiteral("ar"), arabic));
+}
+
+void ResourcesTest::walksAKeyPath_data()
+{
+    QTest::addColumn<QStringList>("keys");
+    QTest::addColumn<int>("type");
+    QTest::addColumn<QStringList>("messages");
+    QTest::newRow("no key") << QStringList() << static_cast<int>(URES_TABLE) << QStringList();
+    QTest::newRow("table") << QStringList{"units", "minute-past"} << static_cast<int>(URES_TABLE) << QStringList();
+    QTest::newRow("string") << QStringList{"units", "minute-past", "other"} << static_cast<int>(URES_STRING)
+                            << QStringList();
+    QTest::newRow("missing") << QStringList{"units", "decade-past"} << -1 << QStringList();
+    QTest::newRow("below a string") << QStringList{"text", "deeper"} << -1
+                                    << QStringList{"warning: Error in calling icu::ResourceBundle::get( const char *, "
+                                                   "UErrorCode & ) : U_RESOURCE_TYPE_MISMATCH ",
+                                                   "warning: " + initSignature +
+                                                       "failed to access resource key \"deeper\" in locale "
+                                                       "de@calendar=gregorian "};
+}
+
+void ResourcesTest::walksAKeyPath()
+{
+    QFETCH(QStringList, keys);
+    MessageLog log;
+    const std::unique_ptr<icu::ResourceBundle> bundle(
+        ResourceAccessor::initResource(Locale::toICU(QLocale(QStringLiteral("de"))), keys));
+    QTEST(bundle ? static_cast<int>(bundle->getType()) : -1, "type");
+    QTEST(log.take(), "messages");
+}
+
+void ResourcesTest::fixedPhrases_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QStringList>("keys");
+    QTest::addColumn<QString>("yesterday");
+    QTest::addColumn<QStringList>("messages");
+    QTest::newRow("own table") << "de" << QStringList{"named"} << "gestern" << QStringList();
+    QTest::newRow("parent's table") << "de_AT" << QStringList{"named"} << "gestern" << QStringList();
+    QTest::newRow("a missing entry is silent")
+        << "de" << QStringList{"twoOfThree"} << QString() << exhausted(numericConstructor, "de", "\"twoOfThree\"");
+    QTest::newRow("no key at all") << "pl" << QStringList() << QString() << exhausted(numericConstructor, "pl", "");
+    const QString mismatch = QStringLiteral("warning: Error in calling icu::ResourceBundle::getStringEx( const char *, "
+                                            "UErrorCode & ) : U_RESOURCE_TYPE_MISMATCH ");
+    QTest::newRow("an entry that is not a string")
+        << "de" << QStringList{"notText"} << QString()
+        << (QStringList{mismatch, mismatch} + exhausted(numericConstructor, "de", "\"notText\""));
+    QTest::newRow("a string where a table belongs")
+        << "de_AT" << QStringList{"text"} << QString()
+        << QStringList{numericConstructor + "did not reach a resource table using supplied keys (\"text\") "};
+}
+
+void ResourcesTest::fixedPhrases()
+{
+    QFETCH(QString, locale);
+    QFETCH(QStringList, keys);
+    QFETCH(QString, yesterday);
+    MessageLog log;
+    const NumericResourceAccessor accessor(QLocale(locale), keys, nullptr);
+    QTEST(log.take(), "messages");
+    QCOMPARE(accessor.isValid(), !yesterday.isNull());
+    QCOMPARE(accessor.format(-1), yesterday);
+    QCOMPARE(log.take(),
+             yesterday.isNull() ? QStringList{numericFormat + "called on an invalid resource "} : QStringList());
+}
+
+void ResourcesTest::fixedPhrasesByCount()
+{
+    const NumericResourceAccessor accessor(QLocale(QStringLiteral("de")), {"named"}, nullptr);
+    MessageLog log;
+    QCOMPARE(accessor.format(0), QStringLiteral("heute"));
+    QCOMPARE(accessor.format(1), QStringLiteral("morgen"));
+    QCOMPARE(log.take(), QStringList());
+    for (const int count : {2, -2, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()}) {
+        QVERIFY(accessor.format(count).isNull());
+        QCOMPARE(log.take(),
+                 QStringList{numericFormat + QStringLiteral("is unable to format this number: %1 ").arg(count)});
+    }
+}
+
+void ResourcesTest::countedPhrases_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("table");
+    QTest::addColumn<int>("count");
+    QTest::addColumn<QString>("phrase");
+    QTest::addColumn<QStringList>("messages");
+    const auto row = [](const char* locale, const char* table, int count, const char* phrase,
+                        const QStringList& messages = {}) {
+        QTest::addRow("%s %s %d", locale, table, count) << QString::fromLatin1(locale) << QString::fromLatin1(table)
+                                                        << count << QString::fromUtf8(phrase) << messages;
+    };
+    row("de", "t", 1, "einmal");
+    row("de", "t", 1000, "1,000 mal 1,000");
+    row("de", "numbers", 0, "null");
+    row("de", "numbers", 5, "fuenf");
+    row("de", "onlyOther", 1, "1 min ago");
+    row("de_AT", "own", 3, "3 eigene");
+    row("de_AT", "onlyOther", 1234, "1,234 min ago");
+    const char* const polishPhrases[] = {"0 minut", "1 minuta", "2 minuty", "3 minuty",
+                                         "5 minut", "11 minut", "21 minut", "100 minut"};
+    const char* const arabicPhrases[] = {"z٠", "o١", "t٢", "f٣", "f٥", "m١١", "m٢١", "x١٠٠"};
+    const int counts[] = {0, 1, 2, 3, 5, 11, 21, 100};
+    for (std::size_t i = 0; i < std::size(counts); ++i) {
+        row("pl", "t", counts[i], polishPhrases[i]);
+        row("ar", "t", counts[i], arabicPhrases[i]);
+    }
+    row("ar", "byNumber", 5, "n٥");
+    row("de", "numbers", 7, nullptr,
+        {getStringFailed + "U_MISSING_RESOURCE_ERROR ",
+         "warning: " + pluralFormat + "failed to access final fall-back resource table \"other\" "});
+    row("de", "pluralNotText", 1, nullptr,
+        {getStringFailed + "U_RESOURCE_TYPE_MISMATCH ",
+         "warning: " + pluralFormat + "failed to access resource table \"one\" "});
+    row("de", "numberNotText", 5, nullptr,
+        {getStringFailed + "U_RESOURCE_TYPE_MISMATCH ",
+         "warning: " + pluralFormat + "failed to access fall-back resource table \"other\" "});
+    row("de", "otherNotText", 5, nullptr,
+        {getStringFailed + "U_RESOURCE_TYPE_MISMATCH ",
+         "warning: " + pluralFormat + "failed to access resource table \"other\" "});
+}
+
+void ResourcesTest::countedPhrases()
+{
+    QFETCH(QString, locale);
+    QFETCH(QString, table);
+    QFETCH(int, count);
+    MessageLog log;
+    const PluralResourceAccessor accessor(QLocale(locale), {table}, nullptr);
+    QVERIFY(accessor.isValid());
+    QTEST(accessor.format(count), "phrase");
+    QTEST(log.take(), "messages");
+}
+
+void ResourcesTest::countedTables_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QStringList>("keys");
+    QTest::addColumn<QStringList>("messages");
+    QTest::newRow("nowhere") << "de_AT" << QStringList{"units", "decade"}
+                             << exhausted(pluralConstructor, "de-AT", "\"units\", \"decade\"");
+    QTest::newRow("a string where a table belongs")
+        << "de_AT" << QStringList{"text"}
+        << QStringList{pluralConstructor + "did not reach a resource table using supplied keys (\"text\") "};
+}
+
+void ResourcesTest::countedTables()
+{
+    QFETCH(QString, locale);
+    QFETCH(QStringList, keys);
+    MessageLog log;
+    const PluralResourceAccessor accessor(QLocale(locale), keys, nullptr);
+    QTEST(log.take(), "messages");
+    QVERIFY(!accessor.isValid());
+    QVERIFY(accessor.format(0).isNull());
+    QCOMPARE(log.take(), QStringList{"critical: " + pluralFormat + "called on an invalid resource "});
+}
+
+void ResourcesTest::formatterChoosesTheSide()
+{
+    const ResourceFormatter formatter(QLocale(QStringLiteral("de")), RelativeDateElement::Minutes, nullptr);
+    QVERIFY(formatter.isValid());
+    QCOMPARE(formatter.format(-5), QStringLiteral("vor 5"));
+    QCOMPARE(formatter.format(5), QStringLiteral("in 5"));
+    QCOMPARE(formatter.format(0), QStringLiteral("in 0"));
+}
+
+void ResourcesTest::formatterNeedsBothSides()
+{
+    MessageLog log;
+    const ResourceFormatter formatter(QLocale(QStringLiteral("de")), RelativeDateElement::Hours, nullptr);
+    QCOMPARE(log.take(), exhausted(pluralConstructor, "de", "\"units\", \"hour-future\""));
+    QVERIFY(!formatter.isValid());
+    QVERIFY(formatter.format(-1).isNull());
+    QCOMPARE(log.take(), QStringList{"critical: QString zel::utility::i18n::ResourceFormatter::format(int) const "
+                                     "called on an invalid formatter "});
+}
+
+void ResourcesTest::formatterOfNoElement()
+{
+    MessageLog log;
+    const ResourceFormatter formatter(QLocale(QStringLiteral("pl")), static_cast<RelativeDateElement::Type>(64),
+                                      nullptr);
+    const QStringList expected =
+        QStringList{"critical: static bool zel::utility::i18n::RelativeDate::resourceIsPlural("
+                    "zel::utility::i18n::RelativeDateElement::Type) called with invalid element type: 64 ",
+                    "critical: static QStringList zel::utility::i18n::RelativeDate::resourcePath("
+                    "zel::utility::i18n::RelativeDateElement::Type, bool) called with invalid element type: 64 "} +
+        exhausted(numericConstructor, "pl", "");
+    QCOMPARE(log.take(), expected);
+    QVERIFY(!formatter.isValid());
+}
+
+QTEST_GUILESS_MAIN(ResourcesTest)
+#include "tst_resources.moc"

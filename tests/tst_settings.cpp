@@ -1,0 +1,251 @@
+// Device settings: how they are read, followed and reported.
+
+#include "settings/ClockSetting.h"
+#include "settings/PpsManager.h"
+#include "settings/RegionNotifier.h"
+#include "settings/TimeZoneSetting.h"
+#include "support/MessageLog.h"
+#include "support/SettingsRoot.h"
+#include <memory>
+#include <QtCore/QMetaMethod>
+#include <QtTest/QSignalSpy>
+#include <QtTest/QTest>
+#include <vector>
+#include <zel/utility/i18n/ClockFormat.h>
+
+using namespace zel::utility::i18n;
+
+namespace {
+
+constexpr const char* objectPath = "/pps/system/test";
+constexpr const char* failedToDecode = "warning: void zel::utility::i18n::PpsManager::onPpsUpdate() failed to decode "
+                                       "PPS payload from /pps/system/test ";
+constexpr const char* failedToRead =
+    "warning: void zel::utility::i18n::PpsManager::onPpsUpdate() failed to read PPS at /pps/system/test  :  \"";
+
+const QString object = QString::fromLatin1(objectPath);
+
+/** A reader of the attribute "a" of the test object, and what it signalled. */
+struct Reader
+{
+    Reader() : manager(objectPath, "@test", "a", nullptr), changes(&manager, SIGNAL(changed())) {}
+
+    PpsManager manager;
+    QSignalSpy changes;
+};
+
+} // namespace
+
+class SettingsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup();
+    void readsAtOnce();
+    void followsTheObject_data();
+    void followsTheObject();
+    void keepsTheValueOverGarbage();
+    void missingObjectAppearsLater();
+    void objectThatCannotBeOpened();
+    void clockAnswersTwelveOrTwentyFour_data();
+    void clockAnswersTwelveOrTwentyFour();
+    void manyClocksShareOneReader();
+    void timeZoneIsTakenAsItStands();
+    void regionNotifierCallsUntilItDies();
+    void enumerationIsReadByName();
+
+private:
+    SettingsRoot m_root;
+};
+
+void SettingsTest::cleanup()
+{
+    m_root.remove(object);
+}
+
+void SettingsTest::readsAtOnce()
+{
+    QVERIFY(m_root.write(object, "@test\na:n:7\nb::text\n"));
+    QCOMPARE(Reader().manager.value(), QVariant(7));
+}
+
+void SettingsTest::followsTheObject_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<int>("changes");
+    QTest::newRow("another value") << QByteArray("@test\na:n:8\n") << QVariant(8) << 1;
+    QTest::newRow("the same value") << QByteArray("@test\na:n:7\nb::new\n") << QVariant(7) << 0;
+    QTest::newRow("the attribute goes") << QByteArray("@test\nb::new\n") << QVariant() << 1;
+    QTest::newRow("the name changes") << QByteArray("@other\na:n:8\n") << QVariant() << 1;
+    QTest::newRow("text") << QByteArray("@test\na::eight\n") << QVariant(QStringLiteral("eight")) << 1;
+    QTest::newRow("the same number as text") << QByteArray("@test\na::7\n") << QVariant(7) << 0;
+}
+
+void SettingsTest::followsTheObject()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(int, changes);
+    QVERIFY(m_root.write(object, "@test\na:n:7\n"));
+    Reader reader;
+    QVERIFY(m_root.write(object, text));
+    if (changes > 0) {
+        QVERIFY(reader.changes.wait(2000));
+    }
+    QTest::qWait(changes > 0 ? 50 : 300);
+    QCOMPARE(reader.changes.count(), changes);
+    QTEST(reader.manager.value(), "value");
+}
+
+void SettingsTest::keepsTheValueOverGarbage()
+{
+    QVERIFY(m_root.write(object, "@test\na:n:7\n"));
+    Reader reader;
+    MessageLog log;
+    QVERIFY(m_root.rewrite(object, "garbage"));
+    QStringList messages;
+    QTRY_VERIFY(!(messages += log.take()).isEmpty());
+    QTest::qWait(200);
+    QCOMPARE(messages + log.take(), QStringList{QString::fromLatin1(failedToDecode)});
+    QCOMPARE(reader.manager.value(), QVariant(7));
+    QCOMPARE(reader.changes.count(), 0);
+    QVERIFY(m_root.rewrite(object, "@test\na:n:9\n"));
+    QTRY_COMPARE(reader.manager.value(), QVariant(9));
+    QCOMPARE(reader.changes.count(), 1);
+}
+
+void SettingsTest::missingObjectAppearsLater()
+{
+    MessageLog log;
+    Reader reader;
+    const QStringList messages = log.take();
+    QCOMPARE(messages.size(), 1);
+    QVERIFY2(messages.first().startsWith(QLatin1String(failedToRead)) &&
+                 messages.first().endsWith(QLatin1String("\" ")),
+             qPrintable(messages.first()));
+    QVERIFY(!reader.manager.value().isValid());
+    QVERIFY(m_root.write(object, "@test\na:n:7\n"));
+    QTRY_COMPARE(reader.manager.value(), QVariant(7));
+    QVERIFY(m_root.remove(object));
+    QTest::qWait(200);
+    QVERIFY(m_root.write(object, "@test\na:n:8\n"));
+    QTRY_COMPARE(reader.manager.value(), QVariant(8));
+    QCOMPARE(reader.changes.count(), 2);
+}
+
+void SettingsTest::objectThatCannotBeOpened()
+{
+    QVERIFY(QDir().mkpath(m_root.file(object)));
+    MessageLog log;
+    {
+        Reader reader;
+        const QStringList messages = log.take();
+        QCOMPARE(messages.size(), 1);
+        QVERIFY2(messages.first().startsWith(QLatin1String(
+                     "critical: zel::utility::i18n::PpsManager::PpsManager(const char*, const char*, const char*, "
+                     "QObject*) failed to open PPS at /pps/system/test  :  \"")) &&
+                     messages.first().endsWith(QLatin1String("\" ")),
+                 qPrintable(messages.first()));
+        QVERIFY(!reader.manager.value().isValid());
+        QVERIFY(QMetaObject::invokeMethod(&reader.manager, "onPpsUpdate"));
+        QCOMPARE(log.take(), QStringList{QStringLiteral("critical: void zel::utility::i18n::PpsManager::onPpsUpdate() "
+                                                        "called without a PpsObject ")});
+    }
+    QVERIFY(QDir().rmdir(m_root.file(object)));
+}
+
+void SettingsTest::clockAnswersTwelveOrTwentyFour_data()
+{
+    QTest::addColumn<QByteArray>("attribute");
+    QTest::addColumn<int>("hours");
+    QTest::addColumn<bool>("known");
+    QTest::newRow("24") << QByteArray("hourFormat:n:24") << 24 << true;
+    QTest::newRow("12") << QByteArray("hourFormat:n:12") << 12 << true;
+    QTest::newRow("24 as text") << QByteArray("hourFormat::24") << 24 << true;
+    QTest::newRow("13") << QByteArray("hourFormat:n:13") << 12 << false;
+    QTest::newRow("0") << QByteArray("hourFormat:n:0") << 12 << false;
+    QTest::newRow("a word") << QByteArray("hourFormat::late") << 12 << false;
+    QTest::newRow("not set") << QByteArray("other:n:24") << 12 << true;
+}
+
+void SettingsTest::clockAnswersTwelveOrTwentyFour()
+{
+    QFETCH(QByteArray, attribute);
+    // Each row starts from another value than its own, so that a change is there to wait for.
+    QFETCH(bool, known);
+    ClockSetting::clockFormat();
+    ClockSetting setting(nullptr);
+    QSignalSpy changes(&setting, SIGNAL(changed()));
+    QVERIFY(m_root.write(QStringLiteral("/pps/system/settings"), "@settings\n" + attribute + '\n'));
+    QVERIFY(changes.wait(2000));
+    MessageLog log;
+    QTEST(static_cast<int>(ClockSetting::clockFormat()), "hours");
+    ClockSetting::clockFormat();
+    const QString complaint = QStringLiteral(
+        "critical: zel::utility::i18n::ClockSetting::onPpsUpdate encountered unknown ClockFormat in PPS ");
+    QCOMPARE(log.take(), known ? QStringList() : QStringList({complaint, complaint}));
+}
+
+void SettingsTest::manyClocksShareOneReader()
+{
+    QVERIFY(m_root.setClock("12"));
+    QTRY_COMPARE(ClockSetting::clockFormat(), ClockFormat::Use12hourClock);
+    QTest::qWait(100);
+    const auto openFiles = [] { return QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::AllEntries).size(); };
+    const auto before = openFiles();
+    std::vector<std::unique_ptr<ClockSetting>> settings;
+    std::vector<std::unique_ptr<QSignalSpy>> spies;
+    for (int i = 0; i < 1000; ++i) {
+        settings.push_back(std::make_unique<ClockSetting>(nullptr));
+        spies.push_back(std::make_unique<QSignalSpy>(settings.back().get(), SIGNAL(changed())));
+    }
+    QCOMPARE(openFiles(), before);
+    QVERIFY(m_root.setClock("24"));
+    QVERIFY(spies.back()->wait(2000));
+    for (const auto& spy : spies) {
+        QCOMPARE(spy->count(), 1);
+    }
+}
+
+void SettingsTest::timeZoneIsTakenAsItStands()
+{
+    MessageLog log;
+    QVERIFY(TimeZoneSetting::timeZone().isEmpty());
+    TimeZoneSetting setting(nullptr);
+    QSignalSpy changes(&setting, SIGNAL(changed()));
+    QVERIFY(m_root.setTimeZone("Nowhere/Atlantis"));
+    QVERIFY(changes.wait(2000));
+    QCOMPARE(TimeZoneSetting::timeZone(), QStringLiteral("Nowhere/Atlantis"));
+}
+
+void SettingsTest::regionNotifierCallsUntilItDies()
+{
+    QVERIFY(m_root.setRegion("de_DE"));
+    QObject receiver;
+    QSignalSpy heard(&receiver, SIGNAL(destroyed()));
+    {
+        const RegionNotifier notifier(&receiver, SIGNAL(destroyed()), nullptr);
+        for (const char* const region : {"de_CH", "de_AT"}) {
+            QVERIFY(m_root.setRegion(region));
+            QVERIFY(heard.wait(2000));
+        }
+    }
+    QVERIFY(m_root.setRegion("de_LU"));
+    QTest::qWait(200);
+    QCOMPARE(heard.count(), 2);
+}
+
+void SettingsTest::enumerationIsReadByName()
+{
+    const QMetaObject& meta = ClockFormat::staticMetaObject;
+    QCOMPARE(meta.className(), "zel::utility::i18n::ClockFormat");
+    QCOMPARE(meta.enumeratorCount(), 1);
+    QCOMPARE(meta.enumerator(0).keyToValue("ApplyLocaleFormat"), 2);
+    const QMetaMethod changed = ClockSetting::staticMetaObject.method(ClockSetting::staticMetaObject.methodOffset());
+    QCOMPARE(changed.methodSignature(), QByteArray("changed()"));
+    QCOMPARE(changed.access(), QMetaMethod::Protected);
+}
+
+QTEST_GUILESS_MAIN(SettingsTest)
+#include "tst_settings.moc"
