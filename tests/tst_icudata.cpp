@@ -16,6 +16,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <cstring>
 #include <dlfcn.h>
 #include <memory>
 #include <unicode/dtptngen.h>
@@ -63,6 +64,7 @@ public:
 
     QMap<QByteArray, QByteArray> items;
     bool isSorted = true;
+    quint32 longestTable = 0;
 
 private:
     static const char* keysOf(const quint32* pool)
@@ -160,6 +162,7 @@ private:
     void table(const QByteArray& path, quint32 size, Key key, Item item)
     {
         items[path] = "table";
+        longestTable = std::max(longestTable, size);
         for (quint32 i = 0; i < size; ++i) {
             isSorted = isSorted && (i == 0 || key(i - 1) < key(i));
             walk(item(i), path + '/' + key(i));
@@ -362,6 +365,8 @@ private Q_SLOTS:
 
 private:
     QByteArray differenceOfCopy(const std::string& name) const;
+    std::optional<std::string> withAdditions(const QByteArray& file, const ResourceTree& additions,
+                                             std::string& error) const;
 
     Memory m_pool{nullptr, &udata_close};
     std::optional<ResourceBundleReader> m_poolReader;
@@ -404,6 +409,9 @@ QByteArray TestIcuData::differenceOfCopy(const std::string& name) const
     const Dump before(words, udata_getMemory(m_pool.get()));
     Dump after(copyWords, udata_getMemory(m_pool.get()));
     QList<QByteArray> wrong(after.isSorted ? QList<QByteArray>() : QList<QByteArray>{"keys out of order"});
+    if (copyWords[5] < after.longestTable) {
+        wrong.append("a table longer than the index says");
+    }
     for (auto item = before.items.begin(); item != before.items.end(); ++item) {
         if (after.items.take(item.key()) != item.value()) {
             wrong.append("lost: " + item.key());
@@ -516,18 +524,23 @@ void TestIcuData::aliasesAreFollowed()
     QCOMPARE(utf8(icu::UnicodeString(text.value_or(u"").c_str())), utf8(expected));
 }
 
+std::optional<std::string> TestIcuData::withAdditions(const QByteArray& file, const ResourceTree& additions,
+                                                      std::string& error) const
+{
+    const auto data = BundleData::fromFile(view(file), error);
+    const auto bundle = data ? ResourceBundleReader::open(*data, &*m_poolReader, error) : std::nullopt;
+    return bundle ? ResourceBundleWriter::write(*bundle, additions, error) : std::nullopt;
+}
+
 void TestIcuData::additionsReplaceNothing()
 {
-    std::string error;
-    const QByteArray file = copyOf("de");
-    const auto bundle = ResourceBundleReader::open(*BundleData::fromFile(view(file), error), &*m_poolReader, error);
-    QVERIFY2(bundle, error.c_str());
-
     ResourceTree additions;
-    ResourceTree& units = additions.children["units"];
-    units.children["minute-past"].children["other"].text = u"changed";
-    units.children["minute-past"].children["many"].text = u"new";
-    const auto written = ResourceBundleWriter::write(*bundle, additions, error);
+    ResourceTree& table = additions.children["units"].children["minute-past"];
+    table.children["other"].text = u"changed";
+    table.children["many"].text = u"new";
+    const QByteArray file = copyOf("de");
+    std::string error;
+    const auto written = withAdditions(file, additions, error);
     QVERIFY2(written, error.c_str());
     const Dump before(file.constData() + 32, udata_getMemory(m_pool.get()));
     Dump after(written->data() + 32, udata_getMemory(m_pool.get()));
@@ -537,12 +550,10 @@ void TestIcuData::additionsReplaceNothing()
 
 void TestIcuData::additionsMustFit()
 {
-    std::string error;
-    const QByteArray file = copyOf("de");
-    const auto bundle = ResourceBundleReader::open(*BundleData::fromFile(view(file), error), &*m_poolReader, error);
     ResourceTree additions;
     additions.children["units"].children["minute-past"] = {u"a text where a table is", {}};
-    QVERIFY(!ResourceBundleWriter::write(*bundle, additions, error));
+    std::string error;
+    QVERIFY(!withAdditions(copyOf("de"), additions, error));
     QCOMPARE(error, std::string("/units/minute-past is there already, as something else"));
 }
 
@@ -556,12 +567,15 @@ void TestIcuData::damageIsReported_data()
         std::memcpy(&value, sound.mid(32 + 4 * word, 4).constData(), 4);
         return static_cast<int>(value & 0x0fffffff);
     };
-    const auto withByte = [&sound](int offset, char value) { return QByteArray(sound).replace(offset, 1, &value, 1); };
-    const auto withWord = [&sound](int word, quint32 value) {
-        return QByteArray(sound).replace(32 + 4 * word, 4, bytesOf(&value, 1));
+    const auto edited = [](QByteArray file, int word, quint32 value) {
+        return file.replace(32 + 4 * word, 4, bytesOf(&value, 1));
     };
+    const auto withByte = [&sound](int offset, char value) { return QByteArray(sound).replace(offset, 1, &value, 1); };
+    const auto withWord = [&](int word, quint32 value) { return edited(sound, word, value); };
     const int root = wordAt(0);
     const int lastItem = root + 2 * wordAt(root);
+    const int lastUnits = wordAt(7) - 1;
+    const auto lastUnit = static_cast<quint32>((wordAt(1) >> 8) + 2 * (lastUnits - wordAt(2)) + 1);
 
     QTest::newRow("empty") << QByteArray() << QByteArray("the file ends inside its header");
     QTest::newRow("half a header") << sound.left(20) << QByteArray("the file ends inside its header");
@@ -580,12 +594,18 @@ void TestIcuData::damageIsReported_data()
     QTest::newRow("pool") << withWord(8, 1) << QByteArray("made with another pool bundle");
     QTest::newRow("no table") << withWord(0, 0x70000001) << QByteArray("the root is not a table");
     QTest::newRow("root") << withWord(0, 0x4fffffff) << QByteArray("a table or an array out of range");
+    QTest::newRow("end before the root") << edited(withWord(3, quint32(wordAt(7))), 4, quint32(wordAt(7)))
+                                         << QByteArray("a table or an array out of range");
     QTest::newRow("table size") << withWord(root, 0x7fffffff) << QByteArray("a table or an array out of range");
     QTest::newRow("key") << withWord(root + 1, 0x7ffffff0) << QByteArray("a key out of range");
     QTest::newRow("pool key") << withWord(root + 1, 0xfffffff0) << QByteArray("a key out of range");
     QTest::newRow("key order") << withWord(root + 1, 0x80000000 + quint32(wordAt(root + 2)))
                                << QByteArray("a table with keys out of order");
     QTest::newRow("unknown type") << withWord(lastItem, 0xa0000000) << QByteArray("a resource of unknown type 10");
+    QTest::newRow("text without an end") << edited(withWord(lastUnits, 0x00410041), lastItem, 6U << 28U | lastUnit)
+                                         << QByteArray("a resource out of range");
+    QTest::newRow("text longer than all") << edited(withWord(lastUnits, 0xdc050041), lastItem, 6U << 28U | lastUnit)
+                                          << QByteArray("a resource out of range");
     for (const quint32 type : {0x0U, 0x1U, 0x3U, 0x6U, 0xeU}) {
         QTest::addRow("resource of type %u", type)
             << withWord(lastItem, type << 28U | 0x0ffffff0) << QByteArray("a resource out of range");
@@ -620,9 +640,8 @@ void TestIcuData::noDamageIsReadThrough()
             file[random.bounded(32, file.size())] = static_cast<char>(random.generate());
         }
         std::string error;
-        const auto bundle = ResourceBundleReader::open(*BundleData::fromFile(view(file), error), &*m_poolReader, error);
-        QCOMPARE(error.empty(), bundle.has_value());
-        const auto copy = bundle ? ResourceBundleWriter::write(*bundle, additions, error) : std::nullopt;
+        const auto copy = withAdditions(file, additions, error);
+        QCOMPARE(error.empty(), copy.has_value());
         if (copy) {
             ++opened;
             QVERIFY(ResourceBundleReader::open(*BundleData::fromFile(*copy, error), &*m_poolReader, error));

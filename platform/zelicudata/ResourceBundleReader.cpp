@@ -45,6 +45,8 @@ ResourceBundleReader::ResourceBundleReader(const BundleData& data, const Resourc
     m_keyLimit = m_units16 > m_keys ? m_units16 : 0;
     m_poolStringLimit = (length >> 8U) | ((attributes & 0xf000U) << 12U);
     m_poolStringItemLimit = attributes >> 16U;
+    // What is behind the end that the index declares is no part of the bundle, and no copy would have it.
+    m_data.body = m_data.body.substr(0, std::size_t{index(IndexWord::BundleTop)} * wordSize);
 }
 
 bool ResourceBundleReader::hasNoFallback() const

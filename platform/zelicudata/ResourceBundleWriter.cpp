@@ -27,7 +27,7 @@ std::optional<std::string> ResourceBundleWriter::write(const ResourceBundleReade
 
 ResourceBundleWriter::ResourceBundleWriter(const ResourceBundleReader& bundle)
     : m_bundle(bundle),
-      m_body(bundle.data().body.substr(0, bundle.index(IndexWord::BundleTop) * wordSize)),
+      m_body(bundle.data().body),
       m_longestTable(bundle.index(IndexWord::LongestTable))
 {
 }

@@ -8,7 +8,7 @@ namespace zel::utility::i18n {
 
 QLocale Locale::region()
 {
-    const zel::system::LocaleHandler handler(static_cast<zel::system::LocaleType::Type>(2), nullptr);
+    const zel::system::LocaleHandler handler(zel::system::LocaleType::Region, nullptr);
     return handler.locale();
 }
 

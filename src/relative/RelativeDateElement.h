@@ -7,7 +7,7 @@ namespace zel::utility::i18n {
 namespace RelativeDateElement {
 
 /** One bit a unit; any other value is invalid. */
-enum Type { Minutes = 0x10, Hours = 0x20, NamedDays = 0x80, Years = 0x800 };
+enum Type : int { Minutes = 0x10, Hours = 0x20, NamedDays = 0x80, Years = 0x800 };
 
 } // namespace RelativeDateElement
 } // namespace zel::utility::i18n

@@ -18,7 +18,7 @@ namespace ClockFormat {
 Q_NAMESPACE_EXPORT(ZEL_UTILITY_I18N_EXPORT)
 
 /** Which clock a text shows. The device's own setting is only ever one of the last two. */
-enum Type {
+enum Type : int {
     ApplyUserFormat = 1,   ///< follow the user's setting on the device
     ApplyLocaleFormat = 2, ///< keep the clock that is customary in the locale
     Use12hourClock = 12,   ///< force a 12-hour clock with an AM/PM field

@@ -17,7 +17,7 @@ namespace DateFormat {
  * How much a format shows. Any other value asks for the medium length; where the locale's own pattern cannot be
  * expressed in Qt syntax, such a value falls back to Qt's long format.
  */
-enum Type {
+enum Type : int {
     Short = 1,  ///< numbers only where the locale has such a form: 5/16/12
     Medium = 2, ///< abbreviated names: May 16, 2012
     Long = 3,   ///< full names: May 16, 2012

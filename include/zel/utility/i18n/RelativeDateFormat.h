@@ -18,7 +18,7 @@ namespace RelativeDateFormat {
 Q_NAMESPACE_EXPORT(ZEL_UTILITY_I18N_EXPORT)
 
 /** The two ladders that a RelativeDateFormatter can climb. */
-enum Type {
+enum Type : int {
     TimeCritical = 1,   ///< down to hours and minutes, with the time of day beside the days: messages, calls
     NonTimeCritical = 2 ///< days and coarser, without a time of day: files, notes
 };
