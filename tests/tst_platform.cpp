@@ -2,6 +2,8 @@
 
 #include "support/MessageLog.h"
 #include "support/SettingsRoot.h"
+#include <algorithm>
+#include <array>
 #include <atomic>
 #include <limits>
 #include <QtCore/QElapsedTimer>
@@ -10,7 +12,6 @@
 #include <QtTest/QTest>
 #include <thread>
 #include <unistd.h>
-#include <vector>
 #include <zel/PpsObject.h>
 #include <zel/system/LocaleHandler.h>
 
@@ -108,7 +109,7 @@ void PlatformTest::decodes_data()
     QTest::newRow("text") << QByteArray(":de_DE") << QVariant(QStringLiteral("de_DE"));
     QTest::newRow("empty text") << QByteArray(":") << QVariant(QString());
     QTest::newRow("text with colons") << QByteArray(":a:b::c") << QVariant(QStringLiteral("a:b::c"));
-    QTest::newRow("escapes") << QByteArray(":\\\\n\\n\\\\") << QVariant(QStringLiteral("\\n\n\\"));
+    QTest::newRow("escapes") << QByteArray(R"(:\\n\n\\)") << QVariant(QStringLiteral("\\n\n\\"));
     QTest::newRow("carriage return") << QByteArray(":a\r") << QVariant(QStringLiteral("a\r"));
     QTest::newRow("beyond the BMP") << QByteArray(":\xF0\x9F\x95\x91")
                                     << QVariant(QString::fromUtf8("\xF0\x9F\x95\x91"));
@@ -281,13 +282,16 @@ void PlatformTest::opens_data()
             QFile::link(QStringLiteral("/dev/null"), root.file(path));
         },
         "Not a regular file", "");
-    row(
-        "not readable",
-        [](const SettingsRoot& root) {
-            root.write(path, object("de_DE"));
-            QFile::setPermissions(root.file(path), {});
-        },
-        "Permission denied", "");
+    // Nothing is denied to root.
+    if (::geteuid() != 0) {
+        row(
+            "not readable",
+            [](const SettingsRoot& root) {
+                root.write(path, object("de_DE"));
+                QFile::setPermissions(root.file(path), {});
+            },
+            "Permission denied", "");
+    }
     QTest::newRow("empty path") << QString() << int(Subscribe) << nothing << QStringLiteral("not an absolute path")
                                 << QString();
     QTest::newRow("no mode") << path << 0 << nothing << QStringLiteral("unknown open mode") << QString();
@@ -301,9 +305,6 @@ void PlatformTest::opens()
     QFETCH(Action, prepare);
     QFETCH(QString, openError);
     QFETCH(QString, readError);
-    if (openError == QLatin1String("Permission denied") && ::geteuid() == 0) {
-        QSKIP("nothing is denied to root");
-    }
     const SettingsRoot root;
     prepare(root);
     PpsObject tested(opened);
@@ -403,7 +404,10 @@ void PlatformTest::notifiesFinishedRewrite()
     connect(&watched, &PpsObject::readyRead, this, [&] { heard.append(watched.read()); });
     QVERIFY(watched.open(Subscribe));
     QTest::qWait(longerThanQuiet);
-    QTimer::singleShot(5, this, [&] { root.rewrite(path, object("fr_FR")); });
+    QTimer writer;
+    writer.setSingleShot(true);
+    connect(&writer, &QTimer::timeout, this, [&] { root.rewrite(path, object("fr_FR")); });
+    writer.start(5);
     root.rewrite(path, "");
     QTRY_COMPARE(heard.size(), 1);
     QCOMPARE(heard.first(), object("fr_FR"));
@@ -581,6 +585,8 @@ void PlatformTest::fallsBackToPosixLocale()
     QCOMPARE(region().name(), QStringLiteral("pt_BR"));
     QVERIFY(root.remove(path));
     QCOMPARE(fullName(region()), expected);
+    setPosixLocale("is_IS", "", "");
+    QCOMPARE(region().name(), QStringLiteral("is_IS"));
     QCOMPARE(LocaleHandler(static_cast<zel::system::LocaleType::Type>(1)).locale(), QLocale::c());
     QCOMPARE(log.take(), QStringList());
 }
@@ -631,19 +637,25 @@ void PlatformTest::doesNotReadAgain()
     QVERIFY(root.write(path, object("de_DE") + QByteArray("x::" + QByteArray(100000, 'x') + '\n')));
     QTest::qSleep(30);
     region();
-    QElapsedTimer timer;
-    timer.start();
-    for (int i = 0; i < 100; ++i) {
+    // The fastest of many rounds, since anything else may keep the machine busy.
+    const auto fastest = [](auto round) {
+        qint64 best = std::numeric_limits<qint64>::max();
+        for (int i = 0; i < 20; ++i) {
+            QElapsedTimer timer;
+            timer.start();
+            for (int turn = 0; turn < 10; ++turn) {
+                round();
+            }
+            best = std::min(best, timer.nsecsElapsed());
+        }
+        return best;
+    };
+    const qint64 asking = fastest([] { region(); });
+    const qint64 reading = fastest([] {
         PpsObject fresh(path);
-        QVERIFY(fresh.open(Subscribe));
-        QVERIFY(!PpsObject::decode(fresh.read()).isEmpty());
-    }
-    const qint64 reading = timer.nsecsElapsed();
-    timer.start();
-    for (int i = 0; i < 100; ++i) {
-        region();
-    }
-    const qint64 asking = timer.nsecsElapsed();
+        fresh.open(Subscribe);
+        PpsObject::decode(fresh.read());
+    });
     QVERIFY2(asking * 10 < reading, qPrintable(QStringLiteral("%1 against %2 ns").arg(asking).arg(reading)));
 }
 
@@ -671,9 +683,9 @@ void PlatformTest::answersOnManyThreads()
     QVERIFY(root.setRegion("de_DE"));
     std::atomic<bool> done{false};
     std::atomic<int> strange{0};
-    std::vector<std::thread> threads;
-    for (int i = 0; i < 4; ++i) {
-        threads.emplace_back([&] {
+    std::array<std::thread, 4> threads;
+    for (std::thread& thread : threads) {
+        thread = std::thread([&] {
             while (!done) {
                 const QLocale::Language language = region().language();
                 strange += language != QLocale::German && language != QLocale::French ? 1 : 0;

@@ -45,7 +45,7 @@ Reason unescape(const QString& escaped, QVariant& value)
 {
     QString text;
     text.reserve(escaped.size());
-    for (auto c = escaped.begin(); c != escaped.end(); ++c) {
+    for (const auto* c = escaped.begin(); c != escaped.end(); ++c) {
         if (*c != QLatin1Char('\\')) {
             text += *c;
         } else if (++c != escaped.end() && *c == QLatin1Char('n')) {
@@ -133,7 +133,8 @@ QByteArray encodeReal(double real)
     const auto [end, error] = std::to_chars(text.begin(), text.end(), real);
     QByteArray digits(text.data(), static_cast<int>(end - text.begin()));
     // A whole number would come back as an integer.
-    const bool whole = std::all_of(digits.begin(), digits.end(), [](char c) { return c == '-' || (c >= '0' && c <= '9'); });
+    const bool whole =
+        std::all_of(digits.begin(), digits.end(), [](char c) { return c == '-' || (c >= '0' && c <= '9'); });
     return whole ? digits + ".0" : digits;
 }
 

@@ -11,7 +11,10 @@ namespace zel {
 
 namespace {
 
-QString errorText(int error) { return QString::fromLocal8Bit(std::generic_category().message(error).c_str()); }
+QString errorText(int error)
+{
+    return QString::fromLocal8Bit(std::generic_category().message(error).c_str());
+}
 
 } // namespace
 

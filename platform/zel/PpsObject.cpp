@@ -111,7 +111,10 @@ bool PpsObject::write(const QByteArray& contents)
     return true;
 }
 
-QString PpsObject::errorString() const { return d->error; }
+QString PpsObject::errorString() const
+{
+    return d->error;
+}
 
 bool PpsObject::fail(const QString& reason)
 {
@@ -122,7 +125,7 @@ bool PpsObject::fail(const QString& reason)
 QVariantMap PpsObject::decode(const QByteArray& contents, bool* ok, QString* error)
 {
     QString reason;
-    const QVariantMap record = PpsCodec::decode(contents, reason);
+    QVariantMap record = PpsCodec::decode(contents, reason);
     if (ok != nullptr) {
         *ok = reason.isEmpty();
     }
@@ -135,7 +138,7 @@ QVariantMap PpsObject::decode(const QByteArray& contents, bool* ok, QString* err
 QByteArray PpsObject::encode(const QVariantMap& record, bool* ok, QString* error)
 {
     QString reason;
-    const QByteArray contents = PpsCodec::encode(record, reason);
+    QByteArray contents = PpsCodec::encode(record, reason);
     if (ok != nullptr) {
         *ok = reason.isEmpty();
     }
@@ -151,6 +154,9 @@ const char* PpsObject::root()
     return root == nullptr ? "" : root;
 }
 
-QString PpsObject::filePath(const QString& path) { return QFile::decodeName(root()) + path; }
+QString PpsObject::filePath(const QString& path)
+{
+    return QFile::decodeName(root()) + path;
+}
 
 } // namespace zel

@@ -4,7 +4,8 @@
 
 #include <fstream>
 #include <iterator>
-#include <unicode/localpointer.h>
+#include <sys/stat.h>
+#include <tuple>
 #include <unicode/udata.h>
 
 namespace zel::icudata {
@@ -41,24 +42,24 @@ std::string contentsOf(const fs::path& path)
 std::uint32_t checksumOfIcuPool()
 {
     UErrorCode status = U_ZERO_ERROR;
-    const icu::LocalPointer<UDataMemory> none;
-    UDataMemory* const pool = udata_open(nullptr, "res", "pool", &status);
+    const icu::LocalUDataMemoryPointer pool(udata_open(nullptr, "res", "pool", &status));
     if (U_FAILURE(status)) {
         return 0;
     }
-    const auto* const words = static_cast<const std::uint32_t*>(udata_getMemory(pool));
-    const std::uint32_t checksum = words[static_cast<std::size_t>(IndexWord::PoolChecksum)];
-    udata_close(pool);
-    return checksum;
+    const auto* const words = static_cast<const std::uint32_t*>(udata_getMemory(pool.getAlias()));
+    return words[static_cast<std::size_t>(IndexWord::PoolChecksum)];
 }
 
-bool isSound(const fs::path& path, const Bundle& expected, fs::file_time_type listed)
+bool isNewer(const struct stat& one, const struct stat& other)
 {
-    std::error_code error;
-    if (fs::file_size(path, error) != expected.size) {
-        return false;
-    }
-    return fs::last_write_time(path, error) < listed || checksumOf(contentsOf(path)) == expected.checksum;
+    return std::tie(one.st_mtim.tv_sec, one.st_mtim.tv_nsec) > std::tie(other.st_mtim.tv_sec, other.st_mtim.tv_nsec);
+}
+
+bool isSound(const std::string& path, const Bundle& expected, const struct stat& list)
+{
+    struct stat status = {};
+    return ::stat(path.c_str(), &status) == 0 && static_cast<std::uintmax_t>(status.st_size) == expected.size &&
+           (!isNewer(status, list) || checksumOf(contentsOf(path)) == expected.checksum);
 }
 
 } // namespace
@@ -76,14 +77,14 @@ std::string BundleList::toFile(std::uint32_t poolChecksum) const
 
 std::string BundleList::problemOf(const fs::path& directory)
 {
+    const std::string damagedList = std::string(fileName) + " is missing or damaged";
     const fs::path path = directory / fileName;
-    std::error_code error;
-    const fs::file_time_type listed = fs::last_write_time(path, error);
+    struct stat status = {};
     std::ifstream list(path);
     std::size_t count = 0;
     std::uint32_t pool = 0;
-    if (!(list >> count >> pool)) {
-        return std::string(fileName) + " is missing or damaged";
+    if (::stat(path.c_str(), &status) != 0 || !(list >> count >> pool)) {
+        return damagedList;
     }
     if (pool != checksumOfIcuPool()) {
         return "made for another ICU";
@@ -91,9 +92,9 @@ std::string BundleList::problemOf(const fs::path& directory)
     for (; count > 0; --count) {
         Bundle bundle;
         if (!(list >> bundle.name >> bundle.size >> bundle.checksum)) {
-            return std::string(fileName) + " is missing or damaged";
+            return damagedList;
         }
-        if (!isSound(directory / bundle.name, bundle, listed)) {
+        if (!isSound(directory / bundle.name, bundle, status)) {
             return bundle.name + " is missing or damaged";
         }
     }

@@ -1,6 +1,8 @@
 #include <zel/icu/DataDirectory.h>
 
-#include <cstring>
+#include "BundleList.h"
+
+#include <cstdio>
 #include <dlfcn.h>
 #include <filesystem>
 #include <string>
@@ -12,6 +14,7 @@
 namespace {
 
 namespace fs = std::filesystem;
+using zel::icudata::BundleList;
 
 // An object of this copy of the library: the address of an exported one could be that of another copy.
 const char anchor = 0;
@@ -26,7 +29,21 @@ fs::path libraryDirectory()
     return fs::canonical(library.dli_fname, error).parent_path();
 }
 
-std::string findDataDirectory()
+/** Whose bundles are wrong, and how; empty where they are sound. */
+std::string problemOf(const fs::path& bundles)
+{
+    const std::string problem = BundleList::problemOf(bundles);
+    return problem.empty() ? problem : bundles.string() + ": " + problem;
+}
+
+/** The directory beside the library, or why there is none to use. */
+struct Found
+{
+    std::string directory;
+    std::string problem;
+};
+
+Found findDataDirectory()
 {
     const fs::path beside = libraryDirectory();
     // The build tree and most installed trees; then installed trees with another depth of library directory.
@@ -34,23 +51,42 @@ std::string findDataDirectory()
         std::error_code error;
         const fs::path directory = (beside / way).lexically_normal();
         if (!beside.empty() && fs::is_directory(directory / U_ICUDATA_NAME, error)) {
-            return directory.string();
+            const std::string problem = problemOf(directory / U_ICUDATA_NAME);
+            return problem.empty() ? Found{directory.string(), {}} : Found{{}, problem};
         }
     }
-    return {};
+    return {{}, "no " U_ICUDATA_NAME " in " + (beside / "../share/zel/icu").lexically_normal().string()};
 }
 
-const std::string& foundDirectory()
+const Found& found()
 {
-    static const std::string directory = findDataDirectory();
-    return directory;
+    static const Found once = findDataDirectory();
+    return once;
+}
+
+void complain(const std::string& problem)
+{
+    std::fprintf(stderr, "libzelicudata: %s; relative dates are without phrases\n", problem.c_str());
+}
+
+/** What is wrong with a directory that somebody else named; of data that is not from here that is not known. */
+std::string problemOfNamed(const fs::path& directory)
+{
+    std::error_code error;
+    const fs::path bundles = directory / U_ICUDATA_NAME;
+    return fs::exists(bundles / BundleList::fileName, error) ? problemOf(bundles) : std::string();
 }
 
 __attribute__((constructor)) void pointIcuToDataDirectory()
 {
     // ICU answers with ICU_DATA here where that is set.
-    if (*u_getDataDirectory() == '\0' && !foundDirectory().empty()) {
-        u_setDataDirectory(foundDirectory().c_str());
+    const std::string named = u_getDataDirectory();
+    const std::string problem = named.empty() ? found().problem : problemOfNamed(named);
+    if (!problem.empty()) {
+        complain(problem);
+    }
+    if (named.empty() || !problem.empty()) {
+        u_setDataDirectory(named.empty() ? found().directory.c_str() : "");
     }
 }
 
@@ -60,12 +96,17 @@ namespace zel::icudata {
 
 const char* dataDirectory() noexcept
 {
-    return foundDirectory().c_str();
+    return found().directory.c_str();
+}
+
+const char* dataDirectoryProblem() noexcept
+{
+    return found().problem.c_str();
 }
 
 bool isDataDirectoryInUse() noexcept
 {
-    return !foundDirectory().empty() && foundDirectory() == u_getDataDirectory();
+    return !found().directory.empty() && found().directory == u_getDataDirectory();
 }
 
 bool hasPhraseTables() noexcept

@@ -1,5 +1,6 @@
 // zel-icudata-gen <directory>: writes ICU's locale bundles, with phrase tables added, to <directory>/<icudtNNl>.
 
+#include "BundleList.h"
 #include "PhraseTables.h"
 #include "ResourceBundleWriter.h"
 #include "StockBundles.h"
@@ -27,7 +28,7 @@ bool writeFile(const fs::path& path, const std::string& bytes, std::string& erro
 }
 
 bool writeBundle(const std::string& name, const fs::path& directory, StockBundles& bundles, PhraseTables& phrases,
-                 std::string& error)
+                 BundleList& list, std::string& error)
 {
     const ResourceBundleReader* bundle = bundles.find(name, error);
     if (bundle == nullptr) {
@@ -43,6 +44,7 @@ bool writeBundle(const std::string& name, const fs::path& directory, StockBundle
         error.insert(0, name + ": ");
         return false;
     }
+    list.add(name + ".res", *copy);
     return writeFile(directory / (name + ".res"), *copy, error);
 }
 
@@ -50,12 +52,15 @@ bool writeBundles(const fs::path& directory, std::string& error)
 {
     StockBundles bundles;
     PhraseTables phrases(bundles);
+    BundleList list;
     for (const std::string& name : StockBundles::names()) {
-        if (!writeBundle(name, directory, bundles, phrases, error)) {
+        if (!writeBundle(name, directory, bundles, phrases, list, error)) {
             return false;
         }
     }
-    return true;
+    const ResourceBundleReader* const pool = bundles.find("pool", error);
+    return writeFile(directory / BundleList::fileName,
+                     list.toFile(pool != nullptr ? pool->index(IndexWord::PoolChecksum) : 0), error);
 }
 
 // Written aside and put in place when it is complete: a directory under the final name is always whole, and programs

@@ -33,8 +33,8 @@ public:
     {
         timespec now = {};
         ::clock_gettime(CLOCK_REALTIME, &now);
-        const long long age = (now.tv_sec - m_status.st_ctim.tv_sec) * nanosecondsPerSecond +
-                              (now.tv_nsec - m_status.st_ctim.tv_nsec);
+        const long long age =
+            (now.tv_sec - m_status.st_ctim.tv_sec) * nanosecondsPerSecond + (now.tv_nsec - m_status.st_ctim.tv_nsec);
         return m_error == 0 && std::llabs(age) < longestTick;
     }
 

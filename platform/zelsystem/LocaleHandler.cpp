@@ -19,7 +19,10 @@ LocaleHandler::LocaleHandler(LocaleType::Type type, QObject* parent) : QObject(p
 
 LocaleHandler::~LocaleHandler() = default;
 
-QLocale LocaleHandler::locale() const { return m_type == LocaleType::Region ? RegionCache::instance().locale() : QLocale::c(); }
+QLocale LocaleHandler::locale() const
+{
+    return m_type == LocaleType::Region ? RegionCache::instance().locale() : QLocale::c();
+}
 
 void LocaleHandler::connectNotify(const QMetaMethod& signal)
 {

@@ -86,9 +86,9 @@ std::optional<QLocale> LocaleName::find(const QString& name)
         return {};
     }
     const QLocale locale(join(*parts));
-    const bool found =
-        locale.language() != QLocale::C && (parts->script.isEmpty() || hasScript(locale, parts->script)) &&
-        (parts->territory.isEmpty() || locale.name().section(QLatin1Char('_'), 1) == parts->territory);
+    const bool found = locale.language() != QLocale::C &&
+                       (parts->script.isEmpty() || hasScript(locale, parts->script)) &&
+                       (parts->territory.isEmpty() || locale.name().section(QLatin1Char('_'), 1) == parts->territory);
     return found ? std::make_optional(locale) : std::nullopt;
 }
 

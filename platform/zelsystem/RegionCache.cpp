@@ -81,7 +81,6 @@ QLocale RegionCache::locale()
 RegionCache::Answer RegionCache::answer()
 {
     const char* const root = PpsObject::root();
-    const char* const posix = posixLocaleName();
     const std::lock_guard<std::mutex> lock(m_mutex);
     if (m_file.isEmpty() || m_root != root) {
         m_root = root;
@@ -90,8 +89,7 @@ RegionCache::Answer RegionCache::answer()
     }
     const FileStamp stamp(m_file.constData());
     QString complaint;
-    if (m_racy || !(stamp == m_stamp) || m_posix != posix) {
-        m_posix = posix;
+    if (m_racy || !(stamp == m_stamp) || (!m_posix.isEmpty() && m_posix != posixLocaleName())) {
         m_stamp = stamp;
         m_racy = stamp.isFresh();
         complaint = update();
@@ -107,11 +105,13 @@ QString RegionCache::update()
         const QString name = region.value.toString();
         if (const auto locale = LocaleName::find(name)) {
             m_locale = *locale;
+            m_posix.clear();
             m_reported.clear();
             return {};
         }
         region.fault = QStringLiteral("%1: region %2 is not a locale").arg(QString::fromLocal8Bit(m_file), shown(name));
     }
+    m_posix = posixLocaleName();
     m_locale = LocaleName::closest(QString::fromLocal8Bit(m_posix));
     const QByteArray report = region.fault.toUtf8() + region.contents;
     const bool news = !region.fault.isEmpty() && report != m_reported;

@@ -34,7 +34,7 @@ private:
     std::mutex m_mutex;
     QByteArray m_root;
     QByteArray m_file;
-    QByteArray m_posix;
+    QByteArray m_posix; // the name that stands in for the region; empty where that is set
     FileStamp m_stamp;
     bool m_racy = false; // the stamp was taken too soon after a change to show a further one
     QLocale m_locale = QLocale::c();

@@ -1,20 +1,19 @@
 #ifndef ZEL_PPSOBJECT_H
 #define ZEL_PPSOBJECT_H
 
+#include <memory>
 #include <QtCore/QByteArray>
 #include <QtCore/QFlags>
 #include <QtCore/QObject>
 #include <QtCore/QString>
 #include <QtCore/QVariantMap>
-#include <memory>
 #include <zel/Global.h>
 
 namespace zel {
 
 /** What an object is opened for. */
 namespace PpsOpenMode {
-enum Type
-{
+enum Type {
     Publish = 1,  /**< writing */
     Subscribe = 2 /**< reading, with notification of changes */
 };

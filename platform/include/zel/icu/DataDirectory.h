@@ -6,15 +6,19 @@
  *
  * The library behind this header, libzelicudata, points ICU to the directory with the phrase tables when it is loaded:
  * to share/zel/icu beside its own lib directory. It leaves ICU alone when ICU_DATA or the application has named a
- * directory by then, and when that directory has no data for the version of ICU in use. An application that wants data
- * of its own calls u_setDataDirectory() in main(), before its first use of ICU.
+ * directory by then. It also does where that directory has no data for the ICU in use, or damaged data, which ICU would
+ * trust, and says so on the standard error stream. An application that wants data of its own calls
+ * u_setDataDirectory() in main(), before its first use of ICU.
  *
  * The functions may be called from any thread.
  */
 namespace zel::icudata {
 
-/** The directory with phrase tables beside this library, absolute, or "" where there is none. */
+/** The directory with phrase tables beside this library, absolute, or "" where there is none that can be used. */
 __attribute__((visibility("default"))) const char* dataDirectory() noexcept;
+
+/** Why dataDirectory() is ""; otherwise "". */
+__attribute__((visibility("default"))) const char* dataDirectoryProblem() noexcept;
 
 /** Whether ICU looks into dataDirectory(). False where somebody else named a directory, and where there is none. */
 __attribute__((visibility("default"))) bool isDataDirectoryInUse() noexcept;

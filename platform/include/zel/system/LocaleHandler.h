@@ -1,17 +1,16 @@
 #ifndef ZEL_SYSTEM_LOCALEHANDLER_H
 #define ZEL_SYSTEM_LOCALEHANDLER_H
 
+#include <memory>
 #include <QtCore/QLocale>
 #include <QtCore/QObject>
-#include <memory>
 #include <zel/Global.h>
 
 namespace zel::system {
 
 /** Which of the user's locales. */
 namespace LocaleType {
-enum Type : int
-{
+enum Type : int {
     Region = 2 /**< the locale for dates, times and numbers, apart from the language of the display */
 };
 } // namespace LocaleType
