@@ -5,6 +5,7 @@
 #include "bridge/String.h"
 #include "patterns/FormattingPrivate.h"
 #include "settings/ClockSetting.h"
+#include <algorithm>
 #include <array>
 #include <memory>
 #include <QtCore/QLatin1String>
@@ -56,7 +57,7 @@ QLocale::FormatType qtFormatType(DateFormat::Type type)
 
 bool isQuoted(const QString& format, int position)
 {
-    return format.left(position).count(QLatin1Char('\'')) % 2 != 0;
+    return std::count(format.cbegin(), format.cbegin() + position, QLatin1Char('\'')) % 2 != 0;
 }
 
 /** Qt knows AM and PM only: day periods ("at night") are shown as these. */

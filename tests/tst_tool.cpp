@@ -1,0 +1,524 @@
+#include "support/SettingsRoot.h"
+#include <csignal>
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+#include <QtCore/QProcess>
+#include <QtTest/QtTest>
+
+namespace {
+
+struct Result
+{
+    int status = -1;
+    QString output;
+    QString errors;
+};
+
+constexpr int patience = 30000;
+
+QStringList wordsOf(const char* line)
+{
+    return QString::fromUtf8(line).split(QLatin1Char('|'), Qt::SkipEmptyParts);
+}
+
+Result finished(QProcess& process)
+{
+    process.closeWriteChannel();
+    Result result;
+    if (process.waitForFinished(patience) && process.exitStatus() == QProcess::NormalExit) {
+        result.status = process.exitCode();
+    }
+    result.output = QString::fromUtf8(process.readAllStandardOutput());
+    result.errors = QString::fromUtf8(process.readAllStandardError());
+    return result;
+}
+
+/** Runs the program; the words of the command line stand between bars. */
+Result run(const char* line, const QByteArray& input = {})
+{
+    QProcess process;
+    process.start(QStringLiteral(ZEL_TOOL), wordsOf(line));
+    process.write(input);
+    return finished(process);
+}
+
+/** A running program that is fed and answers line by line. */
+class Running
+{
+public:
+    explicit Running(const char* line) { m_process.start(QStringLiteral(ZEL_TOOL), wordsOf(line)); }
+
+    void feed(const QByteArray& line) { m_process.write(line); }
+
+    /** The next line; empty where none comes in time. */
+    QString line(int time = patience)
+    {
+        QElapsedTimer timer;
+        timer.start();
+        while (!m_process.canReadLine() && timer.elapsed() < time) {
+            m_process.waitForReadyRead(static_cast<int>(qMax(qint64(1), time - timer.elapsed())));
+        }
+        return QString::fromUtf8(m_process.readLine()).trimmed();
+    }
+
+    void signal(int number) { ::kill(static_cast<pid_t>(m_process.processId()), number); }
+    void stopReading() { m_process.closeReadChannel(QProcess::StandardOutput); }
+    QProcess& process() { return m_process; }
+
+private:
+    QProcess m_process;
+};
+
+QByteArray textOf(const QString& file)
+{
+    QFile device(file);
+    return device.open(QIODevice::ReadOnly) ? device.readAll() : QByteArray("(none)");
+}
+
+const QString settings = QStringLiteral("/pps/system/settings");
+
+} // namespace
+
+/** The command line program as its users meet it: words in; text, errors and a status out. */
+class ToolTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void answers_data();
+    void answers();
+    void refusals_data();
+    void refusals();
+    void help();
+    void json_data();
+    void json();
+    void ladderHasEverySlot();
+    void columnsStandBelowEachOther();
+    void badLinesAreReported();
+    void answersLineByLine();
+    void endsQuietlyWhenNobodyReads();
+    void deviceRoundTrip();
+    void nothingIsWrittenBeforeAllIsChecked();
+    void tornObject();
+    void rootThatCannotBeRead();
+    void doctorFindsWhatIsWrong();
+    void watchFollowsTheDevice();
+    void watchEndsOnSignal_data();
+    void watchEndsOnSignal();
+    void throwAwayDeviceLeavesNothing();
+
+private:
+    /** The throw-away devices that exist. */
+    QStringList devices() const { return QDir(m_temporary.path()).entryList({QStringLiteral("zel-i18n-*")}); }
+
+    QTemporaryDir m_temporary;
+};
+
+void ToolTest::initTestCase()
+{
+    qputenv("TZ", "UTC");
+    qputenv("LC_ALL", "C"); // output is UTF-8 all the same
+    qunsetenv("ICU_DATA");
+    qputenv("TMPDIR", QFile::encodeName(m_temporary.path()));
+}
+
+void ToolTest::answers_data()
+{
+    QTest::addColumn<QByteArray>("line");
+    QTest::addColumn<QString>("output");
+    const auto row = [](const char* line, const char* output) {
+        QTest::newRow(line) << QByteArray(line) << QString::fromUtf8(output) + QLatin1Char('\n');
+    };
+    row("percent|--locale|en_US|0.256", "26%");
+    row("percent|--locale|en_US|--max|1|0.256|-0.5", "25.6%\n-50%");
+    row("percent|--locale|en_US|--min|2|0.5|-.5", "50.00%\n-50.00%");
+    row("percent|--locale|en_US|--min|3|--max|0|0.5", "50%");
+    row("percent|--locale|ar_EG|0.25", "٢٥٪؜");
+    row("percent|--device|region=de_DE|12.5", "1.250\u00a0%");
+    row("percent|--locale|en_US|--json|0.25", R"({"locale":"en_US","text":"25%","value":0.25})");
+
+    row("format|yMMMd|2012-05-16|--device|region=en_US", "May 16, 2012");
+    row("format|hm|2012-05-16T22:30:15.5|--device|region=de_DE,hour-format=24", "22:30");
+    row("format|hm|2012-05-16 22:30|--device|region=de_DE,hour-format=12", "10:30\u202fPM");
+    row("format|yMMMMd|2012-05-16|--device|region=ja_JP", "2012年5月16日");
+    row("format|hm|2012-05-16T10:30+02:00|2012-05-16T10:30Z|--device|hour-format=24,region=en_GB", "10:30\n10:30");
+    row("format|hmz|2012-05-16T10:30+02:00|2012-05-16T10:30-0530|--device|"
+        "hour-format=24,region=en_GB,time-zone=Europe/London",
+        "09:30 BST\n17:00 BST");
+    row("format|Hm|2012-05-16T10:30|--json|--device|hour-format=24,region=en_GB",
+        R"({"moment":"2012-05-16T10:30:00","text":"10:30"})");
+
+    row("relative|--anchor|2012-05-16T10:30|--locale|de|2012-05-16T07:30|2012-05-15T09:00|--clock|24",
+        "vor 3 Stunden\ngestern, 09:00");
+    row("relative|--anchor|2012-05-16T10:30|--locale|de|2012-05-15T09:00|--device|hour-format=12",
+        "gestern 9:00\u202fAM");
+    row("relative|--anchor|2012-05-16T10:30|--locale|fr|2012-05-16T10:35", "dans 5 minutes");
+    row("relative|--anchor|2012-05-16T10:30|--type|non-time-critical|2012-05-16T07:30|--device|region=zh_TW", "今天");
+    row("relative|--anchor|2012-05-16T10:30|--locale|ar_EG|2012-05-16T07:30", "قبل ٣ ساعات");
+    row("relative|--anchor|2012-05-16T10:30|--locale|en|--json|2011-12-31",
+        R"({"moment":"2011-12-31T00:00:00","text":"December 2011"})");
+
+    row("device|--device|hour-format=24,region=de_DE", "hour-format  24\ntime-zone    not set\nregion       de_DE");
+    row("device|get|time-zone|--device|time-zone=Asia/Tokyo", "Asia/Tokyo");
+}
+
+void ToolTest::answers()
+{
+    QFETCH(QByteArray, line);
+    QFETCH(QString, output);
+    const SettingsRoot root;
+    const Result result = run(line.constData());
+    QCOMPARE(result.errors, QString());
+    QCOMPARE(result.output, output);
+    QCOMPARE(result.status, 0);
+}
+
+void ToolTest::refusals_data()
+{
+    QTest::addColumn<QByteArray>("line");
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QString>("error");
+    const auto row = [](const char* line, int status, const char* error) {
+        QTest::newRow(line) << QByteArray(line) << status << QLatin1String("zel-i18n: ") + QString::fromUtf8(error);
+    };
+    row("", 2, "no command given; see 'zel-i18n --help'");
+    row("frobnicate", 2, "unknown command 'frobnicate'; see 'zel-i18n --help'");
+    row("formats|--frobnicate", 2, "unknown option 'frobnicate'; see 'zel-i18n formats --help'");
+    row("formats|--locale", 2, "missing value after '--locale'; see 'zel-i18n formats --help'");
+    row("formats|de_DE", 2, "'de_DE' is no option; name a locale with --locale; see 'zel-i18n formats --help'");
+    row("percent", 2, "no value given; see 'zel-i18n percent --help'");
+    row("percent|--min|-1|1", 2, "--min takes a number from 0 to 340, not '-1'; see 'zel-i18n percent --help'");
+    row("percent|--locale|de|--locale|fr|1", 2, "--locale was given more than once; see 'zel-i18n percent --help'");
+    row("format", 2, "no skeleton given; see 'zel-i18n format --help'");
+    row("format|y|2012-05-16|-", 2,
+        "'-' for standard input does not go with other moments; "
+        "see 'zel-i18n format --help'");
+    row("watch|y|2012-05-16|2012-05-17", 2, "one moment at most, not also '2012-05-17'; see 'zel-i18n watch --help'");
+    row("relative", 2, "no moment given; see 'zel-i18n relative --help'");
+    row("relative|--clock|13|2012-05-16", 2,
+        "--clock takes 12, 24, locale, user, not '13'; see 'zel-i18n relative --help'");
+    row("relative|--type|x|2012-05-16", 2,
+        "--type takes non-time-critical, time-critical, not 'x'; see 'zel-i18n relative --help'");
+    row("device|put", 2, "'put' is neither get, set nor unset; see 'zel-i18n device --help'");
+    row("device|set|hour-format", 2, "'hour-format' is not of the form KEY=VALUE; see 'zel-i18n device --help'");
+    row("device|unset|clock", 2,
+        "no setting 'clock'; there are hour-format, time-zone, region; see 'zel-i18n device --help'");
+    row("format|y|--device|region=de_DE,region=fr_FR", 2,
+        "region was given more than once; see 'zel-i18n format --help'");
+
+    row("formats|--locale|xx_YY", 1, "unknown locale 'xx_YY'");
+    row("formats|--locale|de_XX", 1, "unknown locale 'de_XX'"); // Qt alone would answer with Germany
+    row("formats|--locale|zh_Latn_TW", 1, "unknown locale 'zh_Latn_TW'");
+    row("percent|abc", 1, "'abc' is not a number such as 0.256");
+    row("percent|nan", 1, "'nan' is not a number such as 0.256");
+    row("format|foo!", 1, "'foo!' is not a skeleton such as yMMMd or hm");
+    row("format|y|--device|region=xx", 1, "unknown locale 'xx'");
+    row("format|y|--device|hour-format=13", 1, "hour-format is 12 or 24, not '13'");
+    row("format|y|--device|time-zone=Mars/Base", 1, "unknown time zone 'Mars/Base'");
+    row("device|get|region", 1, "region is not set");
+    for (const char* const moment :
+         {"2012-02-30", "2012-5-16", "2012-05-16T24:00", "2012-05-16T10:30+15:00", "2012-05-16T10:30Zx", "2012-05-16T",
+          "2012-05-16Z", "0000-01-01", "2012-05-16T10:30:00.", "noon"}) {
+        row(QByteArray("format|y|2012-05-16|").append(moment).constData(), 1,
+            QByteArray("'")
+                .append(moment)
+                .append("' is not a moment such as 2012-05-16 or 2012-05-16T10:30:00+02:00")
+                .constData());
+    }
+}
+
+void ToolTest::refusals()
+{
+    QFETCH(QByteArray, line);
+    const SettingsRoot root;
+    const Result result = run(line.constData());
+    QTEST(result.status, "status");
+    QTEST(result.errors.trimmed(), "error");
+    QCOMPARE(result.output, QString());
+}
+
+void ToolTest::help()
+{
+    const Result all = run("--help");
+    QCOMPARE(all.status, 0);
+    for (const char* const name : {"formats", "format", "relative", "percent", "watch", "device", "doctor"}) {
+        QVERIFY(all.output.contains(QLatin1String("\n  ") + QLatin1String(name) + QLatin1Char(' ')));
+        const Result one = run(QByteArray(name).append("|--help").constData());
+        QCOMPARE(one.status, 0);
+        QVERIFY(one.output.startsWith(QLatin1String("Usage: zel-i18n ") + QLatin1String(name)));
+        QVERIFY(one.output.contains(QLatin1String("\nExamples:\n  zel-i18n ")));
+    }
+    QCOMPARE(run("--version").output, QStringLiteral("zel-i18n " ZEL_VERSION "\n"));
+}
+
+void ToolTest::json_data()
+{
+    QTest::addColumn<QByteArray>("line");
+    QTest::addColumn<QStringList>("keys");
+    QTest::addColumn<int>("lines");
+    const auto row = [](const char* line, const char* keys, int lines) {
+        QTest::newRow(line) << QByteArray(line) << wordsOf(keys) << lines;
+    };
+    row("formats|--json|--locale|ja_JP|--locale|he_IL", "formats|locale|moment", 2);
+    row("percent|--json|0.1|0.2", "locale|text|value", 2);
+    row("doctor|--json", "advice|status|subject|text", 12);
+    row("format|yMd|--json", "moment|text", 1);
+    row("relative|--json|2012-05-16|2012-05-17", "moment|text", 2);
+    row("relative|--table|--json|--locale|pl|--locale|hi", "anchor|distance|locale|moment|text|type", 42);
+    row("device|--json", "hour-format|region|time-zone", 1);
+}
+
+void ToolTest::json()
+{
+    QFETCH(QByteArray, line);
+    const SettingsRoot root;
+    const Result result = run(line.constData());
+    QCOMPARE(result.status, 0);
+    const QStringList lines = result.output.split(QLatin1Char('\n'));
+    QCOMPARE(lines.last(), QString());
+    QTEST(static_cast<int>(lines.size()) - 1, "lines");
+    for (const QString& text : lines.mid(0, lines.size() - 1)) {
+        QTEST(QJsonDocument::fromJson(text.toUtf8()).object().keys(), "keys");
+    }
+}
+
+void ToolTest::ladderHasEverySlot()
+{
+    const SettingsRoot root;
+    const Result result = run("relative|--table|--locale|en_US|--clock|24|--json");
+    QCOMPARE(result.status, 0);
+    QStringList texts;
+    for (const QString& line : result.output.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
+        texts.append(QJsonDocument::fromJson(line.toUtf8()).object().value(QStringLiteral("text")).toString());
+    }
+    const QStringList timeCritical = wordsOf("May 2011|May 12|Mon 10:30|yesterday 10:30|3 hours ago|5 minutes ago|"
+                                             "in 5 minutes|in 3 hours|tomorrow 10:30|Fri 10:30|May 20|May 2013");
+    QCOMPARE(texts, timeCritical + wordsOf("May 2011|May 12|Monday|yesterday|today|tomorrow|Friday|May 20|May 2013"));
+}
+
+void ToolTest::columnsStandBelowEachOther()
+{
+    const SettingsRoot root;
+    const QStringList formats =
+        run("formats|--locale|ja_JP|--at|2012-05-16T15:30|--device|hour-format=24").output.split(QLatin1Char('\n'));
+    QCOMPARE(formats.at(0), QStringLiteral("ja_JP  Japanese (Japan)"));
+    // 年, 月, 日, 時, 分 and 秒 are two columns wide each.
+    QCOMPARE(formats.at(3), QString::fromUtf8("date       long    yyyy年M月d日                    2012年5月16日"));
+    QCOMPARE(formats.at(5), QString::fromUtf8("time       short   h:mm                            15:30"));
+    const QStringList ladder =
+        run("relative|--table|--type|time-critical|--locale|ja|--locale|en").output.split(QLatin1Char('\n'));
+    QCOMPARE(ladder.at(5), QString::fromUtf8("3 hours before    2012-05-16 07:30  3 時間前          3 hours ago"));
+    QCOMPARE(ladder.at(2), QString::fromUtf8("4 days before     2012-05-12 10:30  5月12日           May 12"));
+}
+
+void ToolTest::badLinesAreReported()
+{
+    const SettingsRoot root;
+    const QByteArray longLine(300000, '1');
+    const QByteArray input = "2012-05-16\r\nyesterday\n\n" + longLine + "\n2012-02-29T10:30\n2011-02-29";
+    const Result result = run("format|yMMMd|-|--device|region=en_US", input);
+    QCOMPARE(result.output, QStringLiteral("May 16, 2012\nFeb 29, 2012\n"));
+    const QStringList errors = result.errors.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    QCOMPARE(errors.size(), 4);
+    const QString reason = QStringLiteral(" is not a moment such as 2012-05-16 or 2012-05-16T10:30:00+02:00");
+    QCOMPARE(errors.at(0), QStringLiteral("zel-i18n: line 2: 'yesterday'") + reason);
+    QCOMPARE(errors.at(1), QStringLiteral("zel-i18n: line 3: ''") + reason);
+    QVERIFY(errors.at(2).startsWith(QLatin1String("zel-i18n: line 4: '1111")));
+    QVERIFY(errors.at(2).size() < 200);
+    QCOMPARE(errors.at(3), QStringLiteral("zel-i18n: line 6: '2011-02-29'") + reason);
+    QCOMPARE(result.status, 1);
+}
+
+void ToolTest::answersLineByLine()
+{
+    const SettingsRoot root;
+    Running relative("relative|-|--anchor|2012-05-16T10:30|--locale|en");
+    relative.feed("2012-05-16T10:25\n");
+    QCOMPARE(relative.line(), QStringLiteral("5 minutes ago"));
+    relative.feed("2012-05-16T13:30\n");
+    QCOMPARE(relative.line(), QStringLiteral("in 3 hours"));
+    QCOMPARE(finished(relative.process()).status, 0);
+}
+
+void ToolTest::endsQuietlyWhenNobodyReads()
+{
+    const SettingsRoot root;
+    Running format("format|y|-|--device|region=en_US");
+    format.feed("2012-05-16\n");
+    QCOMPARE(format.line(), QStringLiteral("2012"));
+    format.stopReading();
+    format.feed(QByteArray("2012-05-16\n").repeated(100000));
+    const Result result = finished(format.process());
+    QCOMPARE(result.errors, QString());
+    QCOMPARE(result.status, 0);
+}
+
+void ToolTest::deviceRoundTrip()
+{
+    const SettingsRoot root;
+    QVERIFY(
+        root.write(settings, "@settings\nringer::loud\\nand clear\nhourFormat:n:12\nvolume:n:0.5\nmuted:b:false\n"));
+    const Result set = run("device|set|hour-format=24|time-zone=Europe/Berlin|region=sr_Latn_RS");
+    QCOMPARE(set.errors, QString());
+    QCOMPARE(set.status, 0);
+    QCOMPARE(run("device").output,
+             QStringLiteral("hour-format  24\ntime-zone    Europe/Berlin\nregion       sr_Latn_RS\n"));
+    QCOMPARE(textOf(root.file(settings)),
+             QByteArray("@settings\nhourFormat:n:24\nmuted:b:false\nringer::loud\\nand clear\nvolume:n:0.5\n"));
+    QCOMPARE(textOf(root.file(QStringLiteral("/pps/services/confstr/_CS_TIMEZONE"))),
+             QByteArray("@_CS_TIMEZONE\n_CS_TIMEZONE::Europe/Berlin\n"));
+
+    QCOMPARE(run("device|unset|hour-format|time-zone").status, 0);
+    QCOMPARE(textOf(root.file(settings)),
+             QByteArray("@settings\nmuted:b:false\nringer::loud\\nand clear\nvolume:n:0.5\n"));
+    QCOMPARE(run("device|--json").output,
+             QStringLiteral("{\"hour-format\":null,\"region\":\"sr_Latn_RS\",\"time-zone\":null}\n"));
+    QCOMPARE(QDir(root.file(QStringLiteral("/pps/system"))).entryList(QDir::Files | QDir::Hidden),
+             QStringList({QStringLiteral("locale"), QStringLiteral("settings")}));
+}
+
+void ToolTest::nothingIsWrittenBeforeAllIsChecked()
+{
+    const SettingsRoot root;
+    QVERIFY(root.setClock("12"));
+    QCOMPARE(run("device|set|hour-format=24|region=xx").status, 1);
+    QVERIFY(root.write(QStringLiteral("/pps/system/locale"), "garbage\n"));
+    QCOMPARE(run("device|set|hour-format=24|region=de_DE").status, 1);
+    QCOMPARE(run("device|get|hour-format").output, QStringLiteral("12\n"));
+}
+
+void ToolTest::tornObject()
+{
+    const SettingsRoot root;
+    QVERIFY(root.write(settings, "@settings\nringer::loud\nhourFormat:n:twelve\n"));
+    const QString reason = root.file(settings) + QStringLiteral(": line 3: not a number");
+    for (const char* const line : {"device", "format|hm", "formats|--locale|de", "relative|2012-05-16", "watch|hm"}) {
+        const Result result = run(line);
+        QCOMPARE(result.errors, QStringLiteral("zel-i18n: %1\n").arg(reason));
+        QCOMPARE(result.status, 1);
+    }
+    const Result refused = run("device|set|hour-format=24");
+    QCOMPARE(refused.errors, QStringLiteral("zel-i18n: %1; --replace writes it anew\n").arg(reason));
+    QCOMPARE(refused.status, 1);
+    QCOMPARE(run("device|set|--replace|hour-format=24").status, 0);
+    QCOMPARE(textOf(root.file(settings)), QByteArray("@settings\nhourFormat:n:24\n"));
+}
+
+void ToolTest::rootThatCannotBeRead()
+{
+    const SettingsRoot root;
+    QVERIFY(root.write(QStringLiteral("/file"), "no directory"));
+    qputenv("ZEL_PPS_ROOT", QFile::encodeName(root.file(QStringLiteral("/file"))));
+    const QString error =
+        QStringLiteral("zel-i18n: %1/pps/system/settings: Not a directory\n").arg(root.file(QStringLiteral("/file")));
+    for (const char* const line : {"format|hm", "device|get|hour-format", "device|set|--replace|hour-format=24"}) {
+        const Result result = run(line);
+        QCOMPARE(result.errors, error);
+        QCOMPARE(result.status, 1);
+    }
+    QCOMPARE(run("doctor").status, 1);
+    QCOMPARE(run("percent|--locale|en|1").output, QStringLiteral("100%\n")); // needs no settings
+}
+
+void ToolTest::doctorFindsWhatIsWrong()
+{
+    const SettingsRoot root;
+    const Result bare = run("doctor");
+    QCOMPARE(bare.status, 0);
+    QVERIFY(bare.output.contains(QLatin1String("ok    relative dates   phrases in place: {0} minutes ago\n")));
+    QVERIFY(bare.output.contains(root.file(settings) + QLatin1String(": missing\n")));
+    QVERIFY(bare.output.contains(QLatin1String("note  region           C, from LC_ALL")));
+
+    QVERIFY(root.setClock("25"));
+    QVERIFY(root.setTimeZone("Asia/Tokyo"));
+    QVERIFY(root.write(QStringLiteral("/pps/system/locale"), "@locale\nregion::de_DE"));
+    const Result wrong = run("doctor");
+    QCOMPARE(wrong.status, 1);
+    QVERIFY(wrong.output.contains(
+        QStringLiteral("hour-format      25, from %1: hour-format is 12 or 24, not '25'").arg(root.file(settings))));
+    QVERIFY(wrong.output.contains(QLatin1String("/pps/system/locale: line 2: no newline at the end")));
+    QVERIFY(wrong.output.contains(QLatin1String("ok     time-zone        Asia/Tokyo, from ") + root.path()));
+
+    qputenv("ICU_DATA", "/nowhere");
+    const Result noPhrases = run("doctor|--device|region=de_DE");
+    qunsetenv("ICU_DATA");
+    QCOMPARE(noPhrases.status, 1);
+    QVERIFY(noPhrases.output.contains(QLatin1String("wrong  relative dates   no phrases in ICU's data")));
+    QVERIFY(noPhrases.output.contains(QLatin1String("/nowhere, from ICU_DATA")));
+}
+
+void ToolTest::watchFollowsTheDevice()
+{
+    const SettingsRoot root;
+    QVERIFY(root.setClock("12") && root.setTimeZone("Europe/London") && root.setRegion("en_GB"));
+    Running watch("watch|hmz|2012-05-16T14:30Z");
+    QCOMPARE(watch.line(), QString::fromUtf8("3:30\u202fpm BST"));
+    constexpr int second = 1000;
+    QCOMPARE(run("device|set|hour-format=24").status, 0);
+    QCOMPARE(watch.line(second), QStringLiteral("15:30 BST"));
+    QCOMPARE(run("device|set|time-zone=Europe/Berlin").status, 0);
+    QCOMPARE(watch.line(second), QStringLiteral("16:30 CEST"));
+    QCOMPARE(run("device|set|region=de_DE").status, 0);
+    QCOMPARE(watch.line(second), QStringLiteral("16:30 MESZ"));
+
+    // Another attribute is not the clock, and what cannot be decoded changes nothing.
+    QVERIFY(root.write(settings, "@settings\nhourFormat:n:24\nvolume:n:1\n"));
+    QVERIFY(root.rewrite(settings, "@settings\nhourFor"));
+    QCOMPARE(watch.line(second), QString());
+    QVERIFY(root.setClock("12"));
+    QCOMPARE(watch.line(second), QString::fromUtf8("4:30\u202fPM MESZ"));
+
+    QVERIFY(root.remove(settings));
+    QVERIFY(root.setClock("24"));
+    QCOMPARE(watch.line(second), QStringLiteral("16:30 MESZ"));
+
+    watch.signal(SIGTERM);
+    const Result result = finished(watch.process());
+    QCOMPARE(result.errors, QStringLiteral("zel-i18n: void zel::utility::i18n::PpsManager::onPpsUpdate() failed to "
+                                           "decode PPS payload from /pps/system/settings\n"));
+    QCOMPARE(result.status, 0);
+    QCOMPARE(result.output, QString());
+}
+
+void ToolTest::watchEndsOnSignal_data()
+{
+    QTest::addColumn<int>("number");
+    QTest::newRow("interrupt") << SIGINT;
+    QTest::newRow("terminate") << SIGTERM;
+}
+
+void ToolTest::watchEndsOnSignal()
+{
+    QFETCH(int, number);
+    Running watch("watch|yMd|--device|region=en_US");
+    QVERIFY(!watch.line().isEmpty());
+    QCOMPARE(devices().size(), 1);
+    watch.signal(number);
+    const Result result = finished(watch.process());
+    QCOMPARE(result.errors, QString());
+    QCOMPARE(result.status, 0);
+    QCOMPARE(devices(), QStringList());
+}
+
+void ToolTest::throwAwayDeviceLeavesNothing()
+{
+    const SettingsRoot root;
+    // The device of the user is not touched, and not asked.
+    QVERIFY(root.setClock("12"));
+    QCOMPARE(run("device|set|region=fr_FR|--device|hour-format=24").status, 0);
+    QCOMPARE(run("device").output, QStringLiteral("hour-format  12\ntime-zone    not set\nregion       not set\n"));
+
+    Running format("format|y|-|--device|region=en_US");
+    format.feed("2012-05-16\n");
+    QCOMPARE(format.line(), QStringLiteral("2012"));
+    format.signal(SIGINT);
+    QVERIFY(format.process().waitForFinished(patience));
+    QCOMPARE(format.process().exitStatus(), QProcess::CrashExit);
+    QCOMPARE(format.process().exitCode(), SIGINT);
+    QCOMPARE(devices(), QStringList());
+}
+
+QTEST_GUILESS_MAIN(ToolTest)
+#include "tst_tool.moc"

@@ -1,0 +1,52 @@
+#ifndef ZEL_TOOL_DEVICE_H
+#define ZEL_TOOL_DEVICE_H
+
+#include "Finding.h"
+#include <optional>
+#include <QtCore/QList>
+#include <QtCore/QLocale>
+#include <QtCore/QMap>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+namespace zel::tool {
+
+/** The settings of the device that the library follows. */
+class Device
+{
+public:
+    Device() = delete;
+
+    /** The value of a setting, nothing where it is not set; a Failure where it cannot be read. */
+    static std::optional<QString> get(const QString& key);
+
+    /**
+     * Changes settings, each in one step that no reader sees half done, and leaves alone what stands beside them.
+     *
+     * @param replace write anew, with nothing beside them, what cannot be read; otherwise that is a Failure
+     */
+    static void set(const QMap<QString, QString>& values, bool replace);
+    static void unset(const QStringList& keys);
+
+    /** The user's region locale. */
+    static QLocale region();
+
+    /** A Failure where a setting cannot be read, so that no answer is given under a setting that nobody chose. */
+    static void requireReadable();
+
+    /** Takes settings from another root directory from now on. */
+    static void useRoot(const QString& directory);
+
+    /**
+     * Whether a message says no more than that a setting has never been made, which is nothing to worry about on a
+     * host: defaults apply.
+     */
+    static bool isUnset(const QString& message);
+
+    /** The state of the settings, and each setting with its source. */
+    static QList<Finding> examine();
+};
+
+} // namespace zel::tool
+
+#endif

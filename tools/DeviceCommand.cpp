@@ -1,0 +1,122 @@
+#include "DeviceCommand.h"
+
+#include "Arguments.h"
+#include "Assignments.h"
+#include "Console.h"
+#include "Device.h"
+#include "Table.h"
+
+namespace zel::tool {
+
+namespace {
+
+void showOne(const QString& key, const Arguments& arguments, Console& console)
+{
+    Assignments::requireKey(key);
+    const std::optional<QString> value = Device::get(key);
+    if (!value) {
+        throw Failure(key + QStringLiteral(" is not set"));
+    }
+    if (arguments.json()) {
+        console.json({{key, *value}});
+    } else {
+        console.line(*value);
+    }
+}
+
+void showAll(const Arguments& arguments, Console& console)
+{
+    QJsonObject object;
+    Table table;
+    for (const QString& key : Assignments::keys()) {
+        const std::optional<QString> value = Device::get(key);
+        object[key] = value ? QJsonValue(*value) : QJsonValue();
+        table.add({key, value.value_or(QStringLiteral("not set"))});
+    }
+    if (arguments.json()) {
+        console.json(object);
+    } else {
+        table.write(console);
+    }
+}
+
+void get(const QStringList& keys, const Arguments& arguments, Console& console)
+{
+    if (keys.size() > 1) {
+        throw Failure::usage(QStringLiteral("'get' takes one key or none"));
+    }
+    if (keys.isEmpty()) {
+        showAll(arguments, console);
+    } else {
+        showOne(keys.first(), arguments, console);
+    }
+}
+
+void set(const QStringList& words, const Arguments& arguments)
+{
+    if (words.isEmpty()) {
+        throw Failure::usage(QStringLiteral("'set' needs KEY=VALUE"));
+    }
+    const auto values = Assignments::parse(words);
+    const bool replace = arguments.has(QStringLiteral("replace"));
+    Device::set(values, replace);
+}
+
+void unset(const QStringList& keys)
+{
+    if (keys.isEmpty()) {
+        throw Failure::usage(QStringLiteral("'unset' needs a key"));
+    }
+    for (const QString& key : keys) {
+        Assignments::requireKey(key);
+    }
+    Device::unset(keys);
+}
+
+} // namespace
+
+CommandHelp DeviceCommand::help() const
+{
+    return {QStringLiteral("device"), QStringLiteral("[get [KEY] | set KEY=VALUE... | unset KEY...]"),
+            QStringLiteral("Show or change the settings of the device."),
+            QStringLiteral("Shows the settings, or the bare value of one; sets or unsets them. Running programs\n"
+                           "follow at once. The settings are\n\n"
+                           "  hour-format   12 or 24: the clock\n"
+                           "  time-zone     a time zone that ICU knows, such as Europe/Berlin\n"
+                           "  region        the locale for dates, times and numbers, such as de_DE\n\n"
+                           "and are kept below the directory that ZEL_PPS_ROOT names. All values are checked\n"
+                           "before the first is written. What else stands in a settings object is kept; where\n"
+                           "an object cannot be decoded, nothing is changed without --replace."),
+            QStringLiteral("device\n"
+                           "device get region\n"
+                           "device set hour-format=24 time-zone=Europe/Berlin\n"
+                           "device unset region")};
+}
+
+QList<QCommandLineOption> DeviceCommand::options() const
+{
+    return {{QStringLiteral("replace"),
+             QStringLiteral("With set: write a settings object that cannot be decoded\nanew, with nothing but the "
+                            "given settings.")}};
+}
+
+ExitStatus DeviceCommand::run(const Arguments& arguments, Console& console) const
+{
+    const QStringList words = arguments.positional();
+    const QString action = words.value(0, QStringLiteral("get"));
+    if (arguments.has(QStringLiteral("replace")) && action != QLatin1String("set")) {
+        throw Failure::usage(QStringLiteral("--replace goes with 'set' only"));
+    }
+    if (action == QLatin1String("get")) {
+        get(words.mid(1), arguments, console);
+    } else if (action == QLatin1String("set")) {
+        set(words.mid(1), arguments);
+    } else if (action == QLatin1String("unset")) {
+        unset(words.mid(1));
+    } else {
+        throw Failure::usage(quoted(action) + QStringLiteral(" is neither get, set nor unset"));
+    }
+    return Worked;
+}
+
+} // namespace zel::tool

@@ -1,0 +1,33 @@
+#ifndef ZEL_TOOL_DEVICEOBSERVER_H
+#define ZEL_TOOL_DEVICEOBSERVER_H
+
+#include <QtCore/QList>
+#include <QtCore/QMap>
+#include <QtCore/QObject>
+#include <QtCore/QString>
+
+namespace zel::tool {
+
+/** Tells when the device's clock, time zone or region becomes another one. Needs an event loop. */
+class DeviceObserver : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY(DeviceObserver)
+
+public:
+    explicit DeviceObserver(QObject* parent = nullptr);
+    ~DeviceObserver() override;
+
+Q_SIGNALS:
+    void changed();
+
+private Q_SLOTS:
+    void look();
+
+private:
+    QMap<QString, QString> m_values;
+};
+
+} // namespace zel::tool
+
+#endif

@@ -1,0 +1,160 @@
+#include "DoctorCommand.h"
+
+#include "Arguments.h"
+#include "Console.h"
+#include "Device.h"
+#include "Table.h"
+#include <algorithm>
+#include <array>
+#include <dlfcn.h>
+#include <QtCore/QFileInfo>
+#include <QtCore/QJsonArray>
+#include <string>
+#include <unicode/resbund.h>
+#include <unicode/timezone.h>
+#include <unicode/ulocdata.h>
+#include <unicode/unistr.h>
+#include <unicode/uversion.h>
+#include <zel/icu/DataDirectory.h>
+#include <zel/utility/i18n/RelativeDateFormat.h>
+
+namespace zel::tool {
+
+namespace {
+
+QString versionText(const UVersionInfo version)
+{
+    std::array<char, U_MAX_VERSION_STRING_LENGTH> text{};
+    u_versionToString(version, text.data());
+    return QString::fromLatin1(text.data());
+}
+
+Finding examineLibrary()
+{
+    Dl_info info = {};
+    const bool found = dladdr(&zel::utility::i18n::RelativeDateFormat::staticMetaObject, &info) != 0;
+    const QString file = found ? QFileInfo(QFile::decodeName(info.dli_fname)).canonicalFilePath() : QString();
+    return {Finding::Good, QStringLiteral("library"), QStringLiteral(ZEL_VERSION ", ") + file, {}};
+}
+
+Finding examineQt()
+{
+    return {Finding::Good, QStringLiteral("Qt"), QString::fromLatin1(qVersion()), {}};
+}
+
+Finding examineIcu()
+{
+    UErrorCode status = U_ZERO_ERROR;
+    UVersionInfo icu = {};
+    UVersionInfo cldr = {};
+    u_getVersion(icu);
+    ulocdata_getCLDRVersion(cldr, &status);
+    const QString zones = QString::fromLatin1(icu::TimeZone::getTZDataVersion(status));
+    if (U_FAILURE(status)) {
+        return {Finding::Wrong, QStringLiteral("ICU"), versionText(icu) + QStringLiteral(" without its data"),
+                QStringLiteral("install ICU's data")};
+    }
+    return {Finding::Good,
+            QStringLiteral("ICU"),
+            QStringLiteral("%1 with CLDR %2 and time zones %3").arg(versionText(icu), versionText(cldr), zones),
+            {}};
+}
+
+Finding examineData()
+{
+    const QString subject = QStringLiteral("ICU data");
+    const QString ours = QFile::decodeName(icudata::dataDirectory());
+    const QString used = QFile::decodeName(u_getDataDirectory());
+    if (icudata::isDataDirectoryInUse()) {
+        return {Finding::Good, subject, ours + QStringLiteral(", beside the library"), {}};
+    }
+    if (!used.isEmpty()) {
+        const QString source = qEnvironmentVariableIsEmpty("ICU_DATA") ? QStringLiteral("chosen by the program")
+                                                                       : QStringLiteral("from ICU_DATA");
+        return {Finding::Note, subject, used + QLatin1String(", ") + source, {}};
+    }
+    return {Finding::Wrong, subject, QStringLiteral("ICU's own; none beside the library for this version of ICU"),
+            QStringLiteral("build or install the library's data anew")};
+}
+
+Finding examinePhrases()
+{
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::ResourceBundle english(nullptr, "en", status);
+    const icu::ResourceBundle phrases = english.get("units", status).get("minute-past", status);
+    std::string text;
+    phrases.getStringEx("other", status).toUTF8String(text);
+    const QString subject = QStringLiteral("relative dates");
+    if (U_FAILURE(status)) {
+        return {Finding::Wrong, subject,
+                QStringLiteral("no phrases in ICU's data (%1)").arg(QLatin1String(u_errorName(status))),
+                QStringLiteral("unset ICU_DATA, or let it name a directory that has them")};
+    }
+    return {Finding::Good, subject, QStringLiteral("phrases in place: ") + QString::fromStdString(text), {}};
+}
+
+QString statusText(Finding::Status status)
+{
+    switch (status) {
+    case Finding::Good:
+        return QStringLiteral("ok");
+    case Finding::Note:
+        return QStringLiteral("note");
+    case Finding::Wrong:
+        break;
+    }
+    return QStringLiteral("wrong");
+}
+
+void writeTable(const QList<Finding>& findings, Console& console)
+{
+    Table table;
+    for (const Finding& finding : findings) {
+        table.add({statusText(finding.status), finding.subject,
+                   finding.advice.isEmpty() ? finding.text : finding.text + QLatin1String("; ") + finding.advice});
+    }
+    table.write(console);
+}
+
+void writeJson(const QList<Finding>& findings, Console& console)
+{
+    for (const Finding& finding : findings) {
+        console.json({{QStringLiteral("status"), statusText(finding.status)},
+                      {QStringLiteral("subject"), finding.subject},
+                      {QStringLiteral("text"), finding.text},
+                      {QStringLiteral("advice"), finding.advice}});
+    }
+}
+
+} // namespace
+
+CommandHelp DoctorCommand::help() const
+{
+    return {QStringLiteral("doctor"), QString(),
+            QStringLiteral("Show what there is, where it comes from and what is wrong."),
+            QStringLiteral("Looks at the library and what it stands on: versions, ICU's data and the phrases in\n"
+                           "it, the settings and where each of them comes from. A line is 'ok', a 'note', or\n"
+                           "'wrong' with what to do about it. The exit status is 1 if something is wrong."),
+            QStringLiteral("doctor\n"
+                           "doctor --json")};
+}
+
+ExitStatus DoctorCommand::run(const Arguments& arguments, Console& console) const
+{
+    if (!arguments.positional().isEmpty()) {
+        throw Failure::usage(QStringLiteral("no argument expected, not ") + quoted(arguments.positional().first()));
+    }
+    const QList<Finding> findings =
+        QList<Finding>{examineLibrary(), examineQt(), examineIcu(), examineData(), examinePhrases()} +
+        Device::examine();
+    if (arguments.json()) {
+        writeJson(findings, console);
+    } else {
+        writeTable(findings, console);
+    }
+    const bool wrong = std::any_of(findings.begin(), findings.end(),
+                                   [](const Finding& finding) { return finding.status == Finding::Wrong; });
+    return wrong ? NoAnswer : Worked;
+}
+
+} // namespace zel::tool

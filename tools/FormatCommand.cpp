@@ -1,0 +1,42 @@
+#include "FormatCommand.h"
+
+#include "Answers.h"
+#include "Arguments.h"
+#include "Device.h"
+#include "Moments.h"
+#include "Skeleton.h"
+#include <zel/utility/i18n/CustomDateFormatter.h>
+
+namespace zel::tool {
+
+CommandHelp FormatCommand::help() const
+{
+    return {QStringLiteral("format"), QStringLiteral("SKELETON [MOMENT...]"),
+            QStringLiteral("Write moments with the fields that a skeleton names."),
+            QStringLiteral("Writes each MOMENT with the fields that SKELETON names, one text a line, for the\n"
+                           "region and clock of the device. No MOMENT means now; '-' takes one a line from\n"
+                           "standard input, reports the bad ones and goes on.\n\n") +
+                Skeleton::description() +
+                QStringLiteral("\n\nMoments are ISO 8601: 2012-05-16, 2012-05-16T10:30, 2012-05-16T10:30:00.500Z,\n"
+                               "2012-05-16T10:30+02:00. Without an offset they are local time."),
+            QStringLiteral("format yMMMMEEEEd\n"
+                           "format hm 2012-05-16T22:30 --device region=en_US,hour-format=12\n"
+                           "format yMdhmz 2012-05-16T22:30Z --device time-zone=Asia/Tokyo\n"
+                           "format yMMMd - < moments.txt")};
+}
+
+ExitStatus FormatCommand::run(const Arguments& arguments, Console& console) const
+{
+    const QStringList words = arguments.positional();
+    const QString skeleton = Skeleton::from(words);
+    const Moments moments(words.mid(1));
+    Device::requireReadable();
+    const zel::utility::i18n::CustomDateFormatter formatter(skeleton);
+    if (!formatter.isValid()) {
+        throw Failure(QStringLiteral("no pattern for the skeleton ") + quoted(skeleton));
+    }
+    const Answers answers(console, arguments.json());
+    return moments.forEach(console, [&](const QDateTime& moment) { answers.write(moment, formatter.format(moment)); });
+}
+
+} // namespace zel::tool

@@ -1,0 +1,70 @@
+#include "Ladder.h"
+
+#include <QtCore/QStringList>
+#include <zel/utility/i18n/RelativeDateFormat.h>
+
+namespace zel::tool {
+
+namespace {
+
+namespace RelativeDateFormat = zel::utility::i18n::RelativeDateFormat;
+
+enum class Unit { Year, Day, Hour, Minute };
+
+struct Distance
+{
+    Unit unit;
+    int count;
+};
+
+// From far to near.
+QList<Distance> distances(int type)
+{
+    QList<Distance> distances = {{Unit::Year, 1}, {Unit::Day, 4}, {Unit::Day, 2}, {Unit::Day, 1}};
+    if (type == RelativeDateFormat::TimeCritical) {
+        distances += {{Unit::Hour, 3}, {Unit::Minute, 5}};
+    }
+    return distances;
+}
+
+QString name(const Distance& distance)
+{
+    static const QStringList units = {QStringLiteral("year"), QStringLiteral("day"), QStringLiteral("hour"),
+                                      QStringLiteral("minute")};
+    return QStringLiteral("%1 %2%3")
+        .arg(distance.count)
+        .arg(units.at(static_cast<int>(distance.unit)), QLatin1String(distance.count == 1 ? "" : "s"));
+}
+
+QDateTime moved(const QDateTime& anchor, Unit unit, int count)
+{
+    switch (unit) {
+    case Unit::Year:
+        return anchor.addYears(count);
+    case Unit::Day:
+        return anchor.addDays(count);
+    case Unit::Hour:
+        return anchor.addSecs(count * 3600);
+    case Unit::Minute:
+        break;
+    }
+    return anchor.addSecs(count * 60);
+}
+
+} // namespace
+
+QList<Rung> Ladder::rungs(int type, const QDateTime& anchor)
+{
+    QList<Rung> before;
+    QList<Rung> after;
+    for (const Distance& distance : distances(type)) {
+        before.append({name(distance) + QStringLiteral(" before"), moved(anchor, distance.unit, -distance.count)});
+        after.prepend({name(distance) + QStringLiteral(" after"), moved(anchor, distance.unit, distance.count)});
+    }
+    if (type == RelativeDateFormat::NonTimeCritical) {
+        before.append({QStringLiteral("the same day"), anchor});
+    }
+    return before + after;
+}
+
+} // namespace zel::tool

@@ -1,0 +1,35 @@
+#ifndef ZEL_TOOL_LADDER_H
+#define ZEL_TOOL_LADDER_H
+
+#include <QtCore/QDateTime>
+#include <QtCore/QList>
+#include <QtCore/QString>
+
+namespace zel::tool {
+
+/** A distance from the anchor, and the moment that lies there. */
+struct Rung
+{
+    QString distance;
+    QDateTime moment;
+};
+
+/**
+ * Moments from long before an anchor to long after it. Around noon in the middle of a year there is one for every way
+ * in which a relative date can be told.
+ */
+class Ladder
+{
+public:
+    Ladder() = delete;
+
+    /** @param type a RelativeDateFormat::Type */
+    static QList<Rung> rungs(int type, const QDateTime& anchor);
+
+    /** An anchor from which every way is seen. */
+    static QDateTime exampleAnchor() { return {QDate(2012, 5, 16), QTime(10, 30)}; }
+};
+
+} // namespace zel::tool
+
+#endif

@@ -1,0 +1,45 @@
+#include "LineReader.h"
+
+#include "Console.h"
+#include <algorithm>
+#include <utility>
+
+namespace zel::tool {
+
+namespace {
+
+constexpr std::size_t longestLine = 1024;
+
+}
+
+std::optional<std::string_view> LineReader::next()
+{
+    for (;;) {
+        const std::string_view text = pending();
+        const std::size_t end = text.find('\n');
+        const bool complete = end != std::string_view::npos;
+        if (!complete && !m_finished && text.size() <= longestLine) {
+            fill();
+            continue;
+        }
+        if (text.empty()) {
+            return {};
+        }
+        m_begin += complete ? end + 1 : text.size();
+        if (!std::exchange(m_inLongLine, !complete)) {
+            return text.substr(0, std::min(end, longestLine));
+        }
+    }
+}
+
+void LineReader::fill()
+{
+    std::copy(m_buffer.data() + m_begin, m_buffer.data() + m_end, m_buffer.data());
+    m_end -= std::exchange(m_begin, 0);
+    m_console.flush();
+    const int count = m_console.read(m_buffer.data() + m_end, static_cast<int>(m_buffer.size() - m_end));
+    m_end += static_cast<std::size_t>(count);
+    m_finished = count == 0;
+}
+
+} // namespace zel::tool

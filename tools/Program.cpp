@@ -1,0 +1,137 @@
+#include "Program.h"
+
+#include "Arguments.h"
+#include "Console.h"
+#include "DeviceCommand.h"
+#include "DoctorCommand.h"
+#include "FormatCommand.h"
+#include "FormatsCommand.h"
+#include "PercentCommand.h"
+#include "RelativeCommand.h"
+#include "ThrowAwayDevice.h"
+#include "WatchCommand.h"
+#include <optional>
+
+namespace zel::tool {
+
+namespace {
+
+QList<QCommandLineOption> allOptions(const Command& command)
+{
+    return command.options() +
+           QList<QCommandLineOption>{
+               {QStringLiteral("json"), QStringLiteral("One JSON object a line, for scripts.")},
+               {QStringLiteral("device"),
+                QStringLiteral("Ask a device with these settings instead of this one. Settings as\nin 'device set', "
+                               "for example region=de_DE,hour-format=24."),
+                QStringLiteral("KEY=VALUE,...")},
+               {{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this text.")}};
+}
+
+// Two columns, the right one of several lines where it needs them.
+QString entry(const QString& left, QString right)
+{
+    constexpr int width = 28;
+    right.replace(QLatin1Char('\n'), QLatin1Char('\n') + QString(width, QLatin1Char(' ')));
+    return (QLatin1String("  ") + left).leftJustified(width) + right + QLatin1Char('\n');
+}
+
+QString optionNames(const QCommandLineOption& option)
+{
+    QStringList names;
+    for (const QString& name : option.names()) {
+        names.append(QLatin1String(name.size() == 1 ? "-" : "--") + name);
+    }
+    return names.join(QLatin1String(", ")) +
+           (option.valueName().isEmpty() ? QString() : QLatin1Char(' ') + option.valueName());
+}
+
+} // namespace
+
+Program::Program()
+{
+    m_commands.push_back(std::make_unique<FormatsCommand>());
+    m_commands.push_back(std::make_unique<FormatCommand>());
+    m_commands.push_back(std::make_unique<RelativeCommand>());
+    m_commands.push_back(std::make_unique<PercentCommand>());
+    m_commands.push_back(std::make_unique<WatchCommand>());
+    m_commands.push_back(std::make_unique<DeviceCommand>());
+    m_commands.push_back(std::make_unique<DoctorCommand>());
+}
+
+Program::~Program() = default;
+
+ExitStatus Program::run(const QStringList& words, Console& console) const
+{
+    const QString first = words.value(0);
+    if (first == QLatin1String("--help") || first == QLatin1String("-h")) {
+        console.line(help());
+    } else if (first == QLatin1String("--version")) {
+        console.line(QStringLiteral("zel-i18n " ZEL_VERSION));
+    } else {
+        return runCommand(find(first), words.mid(1), console);
+    }
+    return Worked;
+}
+
+ExitStatus Program::runCommand(const Command& command, const QStringList& words, Console& console) const
+try {
+    const Arguments arguments(allOptions(command), words);
+    if (arguments.has(QStringLiteral("help"))) {
+        console.line(help(command));
+        return Worked;
+    }
+    std::optional<ThrowAwayDevice> device;
+    if (arguments.has(QStringLiteral("device"))) {
+        device.emplace(arguments.value(QStringLiteral("device")));
+    }
+    return command.run(arguments, console);
+} catch (const Failure& failure) {
+    if (failure.status() != BadUsage) {
+        throw;
+    }
+    throw Failure::usage(failure.text() + QStringLiteral("; see 'zel-i18n %1 --help'").arg(command.help().name));
+}
+
+const Command& Program::find(const QString& name) const
+{
+    for (const auto& command : m_commands) {
+        if (command->help().name == name) {
+            return *command;
+        }
+    }
+    throw Failure::usage(
+        (name.isEmpty() ? QStringLiteral("no command given") : QStringLiteral("unknown command ") + quoted(name)) +
+        QStringLiteral("; see 'zel-i18n --help'"));
+}
+
+QString Program::help() const
+{
+    QString text = QStringLiteral("Usage: zel-i18n COMMAND [OPTION...] [ARGUMENT...]\n\n"
+                                  "Dates, times, relative dates and percentages as the library writes them.\n\n"
+                                  "Commands:\n");
+    for (const auto& command : m_commands) {
+        text += entry(command->help().name, command->help().summary);
+    }
+    return text + QStringLiteral("\nOptions:\n") +
+           entry(QStringLiteral("-h, --help"), QStringLiteral("Show this text; behind a command, more about it.")) +
+           entry(QStringLiteral("--version"), QStringLiteral("Show the version.")) +
+           QStringLiteral("\nExit status: 0 it worked, 1 bad input or no answer, 2 bad usage.");
+}
+
+QString Program::help(const Command& command)
+{
+    const CommandHelp about = command.help();
+    QString text = QStringLiteral("Usage: zel-i18n %1 [OPTION...] %2").arg(about.name, about.arguments).trimmed() +
+                   QLatin1String("\n\n") + about.description + QLatin1String("\n\nOptions:\n");
+    for (const QCommandLineOption& option : allOptions(command)) {
+        text += entry(optionNames(option), option.description());
+    }
+    text += QLatin1String("\nExamples:");
+    for (const QString& example : about.examples.split(QLatin1Char('\n'))) {
+        text += QLatin1String("\n  zel-i18n ") + example;
+    }
+    return text;
+}
+
+} // namespace zel::tool

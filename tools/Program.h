@@ -1,0 +1,38 @@
+#ifndef ZEL_TOOL_PROGRAM_H
+#define ZEL_TOOL_PROGRAM_H
+
+#include "Failure.h"
+#include <memory>
+#include <QtCore/QCommandLineOption>
+#include <QtCore/QList>
+#include <QtCore/QStringList>
+#include <vector>
+
+namespace zel::tool {
+
+class Command;
+class Console;
+
+/** The program: its commands, and the way from the words of a command line to one of them. */
+class Program
+{
+public:
+    Program();
+    ~Program();
+    Q_DISABLE_COPY(Program)
+
+    /** @param words the command line without the name of the program */
+    ExitStatus run(const QStringList& words, Console& console) const;
+
+private:
+    ExitStatus runCommand(const Command& command, const QStringList& words, Console& console) const;
+    const Command& find(const QString& name) const;
+    QString help() const;
+    static QString help(const Command& command);
+
+    std::vector<std::unique_ptr<Command>> m_commands;
+};
+
+} // namespace zel::tool
+
+#endif

@@ -1,0 +1,20 @@
+#include "ThrowAwayDevice.h"
+
+#include "Assignments.h"
+#include "Device.h"
+#include "Failure.h"
+#include <QtCore/QFile>
+
+namespace zel::tool {
+
+ThrowAwayDevice::ThrowAwayDevice(const QString& settings)
+{
+    const auto values = Assignments::parse(settings.split(QLatin1Char(',')));
+    if (!m_root.isValid()) {
+        throw Failure(QStringLiteral("no temporary directory for the device: ") + m_root.errorString());
+    }
+    Device::useRoot(m_root.path());
+    Device::set(values, false);
+}
+
+} // namespace zel::tool

@@ -1,0 +1,23 @@
+#ifndef ZEL_TOOL_THROWAWAYDEVICE_H
+#define ZEL_TOOL_THROWAWAYDEVICE_H
+
+#include <QtCore/QString>
+#include <QtCore/QTemporaryDir>
+
+namespace zel::tool {
+
+/** A device that exists as long as this object: from now on the settings of the process are those of a directory of its
+ * own. */
+class ThrowAwayDevice
+{
+public:
+    /** @param settings of the form KEY=VALUE,... */
+    explicit ThrowAwayDevice(const QString& settings);
+
+private:
+    QTemporaryDir m_root;
+};
+
+} // namespace zel::tool
+
+#endif

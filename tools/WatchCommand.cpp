@@ -1,0 +1,42 @@
+#include "WatchCommand.h"
+
+#include "Arguments.h"
+#include "Console.h"
+#include "Device.h"
+#include "LiveText.h"
+#include "Moment.h"
+#include "Skeleton.h"
+
+namespace zel::tool {
+
+CommandHelp WatchCommand::help() const
+{
+    return {QStringLiteral("watch"), QStringLiteral("SKELETON [MOMENT]"),
+            QStringLiteral("Write a text again whenever the device changes."),
+            QStringLiteral("Writes MOMENT with the fields that SKELETON names, and writes it again whenever\n"
+                           "the clock, the time zone or the region of the device changes, until interrupted.\n"
+                           "Without MOMENT each line shows the time at which it is written.\n\n") +
+                Skeleton::description(),
+            QStringLiteral("watch hm\n"
+                           "watch yMMMdhmz 2012-05-16T22:30Z")};
+}
+
+ExitStatus WatchCommand::run(const Arguments& arguments, Console& console) const
+{
+    const QStringList words = arguments.positional();
+    const QString skeleton = Skeleton::from(words);
+    if (words.size() > 2) {
+        throw Failure::usage(QStringLiteral("one moment at most, not also ") + quoted(words.at(2)));
+    }
+    const auto moment = words.size() == 2 ? std::make_optional(Moment::parse(words.at(1))) : std::nullopt;
+    Device::requireReadable();
+    try {
+        LiveText(skeleton, moment, console, arguments.json()).run();
+    } catch (const Console::Interrupted&) {
+        // Being interrupted is how it ends.
+        return Worked;
+    }
+    return Worked;
+}
+
+} // namespace zel::tool

@@ -1,0 +1,84 @@
+#include "Console.h"
+#include "Device.h"
+#include "Program.h"
+#include <csignal>
+#include <cstdio>
+#include <fcntl.h>
+#include <QtCore/QCoreApplication>
+#include <unistd.h>
+
+namespace {
+
+using zel::tool::Console;
+using zel::tool::Failure;
+using zel::tool::Program;
+
+void writeMessage(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& text)
+{
+    if (!zel::tool::Device::isUnset(text)) {
+        std::fprintf(stderr, "zel-i18n: %s\n", text.trimmed().toUtf8().constData());
+    }
+}
+
+// Not QCoreApplication::arguments(), which decodes by the locale.
+QStringList wordsOf(int argc, char* argv[])
+{
+    QStringList words;
+    for (int i = 1; i < argc; ++i) {
+        words.append(QString::fromUtf8(argv[i]));
+    }
+    return words;
+}
+
+// Descriptors that are missing are held by ones that fail, so that no other file takes their place.
+void holdStandardDescriptors()
+{
+    for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (::fcntl(descriptor, F_GETFD) < 0) {
+            ::open("/dev/null", descriptor == STDIN_FILENO ? O_WRONLY : O_RDONLY);
+        }
+    }
+}
+
+int runProgram(const QStringList& words, Console& console)
+try {
+    const zel::tool::ExitStatus status = Program().run(words, console);
+    console.flush();
+    return status;
+} catch (const Failure& failure) {
+    console.complain(failure.text());
+    return failure.status();
+}
+
+int runOnConsole(const QStringList& words)
+{
+    Console console;
+    try {
+        return runProgram(words, console);
+    } catch (const Console::OutputFailed& failure) {
+        if (failure.reason.isEmpty()) {
+            return zel::tool::Worked;
+        }
+        writeMessage(QtCriticalMsg, {}, failure.reason);
+        return zel::tool::NoAnswer;
+    }
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    holdStandardDescriptors();
+    qInstallMessageHandler(&writeMessage);
+    const QStringList words = wordsOf(argc, argv);
+    const QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("zel-i18n"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(ZEL_VERSION));
+    try {
+        return runOnConsole(words);
+    } catch (const Console::Interrupted& interrupted) {
+        // The caller shall see by which signal the program ended.
+        std::raise(interrupted.signal);
+        return 128 + interrupted.signal;
+    }
+}
