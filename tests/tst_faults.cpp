@@ -1,0 +1,496 @@
+// What happens to a device while the library runs on it: the library says what is wrong, and goes on.
+
+#include "settings/PpsManager.h"
+#include "support/MessageLog.h"
+#include "support/SettingsRoot.h"
+#include <algorithm>
+#include <atomic>
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+#include <dlfcn.h>
+#include <QtCore/QCoreApplication>
+#include <QtCore/QProcess>
+#include <QtCore/QSet>
+#include <QtTest/QTest>
+#include <sys/inotify.h>
+#include <sys/wait.h>
+#include <unicode/udata.h>
+#include <unistd.h>
+#include <zel/icu/DataDirectory.h>
+#include <zel/PpsObject.h>
+#include <zel/utility/i18n/CustomDateFormatter.h>
+#include <zel/utility/i18n/RelativeDateFormatter.h>
+
+using namespace zel::utility::i18n;
+
+// Something that is done to the settings, or to a directory with ICU data.
+using Fault = void (*)(const SettingsRoot& root);
+using Damage = void (*)(const QDir& directory);
+Q_DECLARE_METATYPE(Fault)
+Q_DECLARE_METATYPE(Damage)
+
+namespace {
+
+std::atomic<bool> noInstances{false};
+std::atomic<bool> noWatches{false};
+constexpr std::size_t longestStep = 1024;
+std::atomic<int> stepsToLive{-1}; // in a process that writes and is to be killed
+
+template <typename Function>
+Function systemFunction(const char* name)
+{
+    return reinterpret_cast<Function>(dlsym(RTLD_NEXT, name));
+}
+
+void takeStep()
+{
+    if (stepsToLive >= 0 && stepsToLive-- == 0) {
+        ::kill(::getpid(), SIGKILL);
+    }
+}
+
+} // namespace
+
+// The limits of inotify are those of a user and not of a process: they are reached here, between Qt and the system.
+extern "C" Q_DECL_EXPORT int inotify_init1(int flags) noexcept
+{
+    static const auto init = systemFunction<int (*)(int)>("inotify_init1");
+    errno = EMFILE;
+    return noInstances ? -1 : init(flags);
+}
+
+extern "C" Q_DECL_EXPORT int inotify_add_watch(int fd, const char* name, uint32_t mask) noexcept
+{
+    static const auto add = systemFunction<int (*)(int, const char*, uint32_t)>("inotify_add_watch");
+    errno = ENOSPC;
+    return noWatches ? -1 : add(fd, name, mask);
+}
+
+// A writer is killed in the middle of its writing, before it syncs, and before the rename that shows the new object.
+extern "C" Q_DECL_EXPORT ssize_t write(int fd, const void* buf, size_t n)
+{
+    static const auto writeAll = systemFunction<ssize_t (*)(int, const void*, size_t)>("write");
+    if (stepsToLive < 0) {
+        return writeAll(fd, buf, n);
+    }
+    const ssize_t written = writeAll(fd, buf, std::min(n, longestStep));
+    takeStep();
+    return written;
+}
+
+extern "C" Q_DECL_EXPORT int fdatasync(int /*descriptor*/)
+{
+    takeStep();
+    return 0;
+}
+
+extern "C" Q_DECL_EXPORT int rename(const char* from, const char* to) noexcept
+{
+    static const auto renameFile = systemFunction<int (*)(const char*, const char*)>("rename");
+    takeStep();
+    return renameFile(from, to);
+}
+
+namespace {
+
+const QString path = QStringLiteral("/pps/system/settings");
+constexpr int longerThanQuiet = 70; // a watcher has said by then what it has to say
+constexpr uid_t nobody = 65534;
+
+const QString current = QStringLiteral(U_ICUDATA_NAME);
+
+void replaceByFile(const QString& directory)
+{
+    QDir(directory).removeRecursively();
+    QFile(directory).open(QIODevice::WriteOnly);
+}
+
+// Nothing is denied to root, so root becomes nobody.
+void lockOut(const SettingsRoot& root)
+{
+    QFile::setPermissions(root.path(), {});
+    if (::geteuid() == 0 && ::setresuid(nobody, nobody, 0) != 0) {
+        qFatal("cannot become nobody");
+    }
+}
+
+void mend(const SettingsRoot& root)
+{
+    if (::setresuid(static_cast<uid_t>(-1), 0, static_cast<uid_t>(-1)) == 0 && ::setresuid(0, 0, 0) != 0) {
+        qFatal("cannot become root again");
+    }
+    QFile::setPermissions(root.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QFile::remove(root.path());
+    QFile::remove(root.file(QStringLiteral("/pps/system")));
+    QDir(root.file(path)).removeRecursively();
+    root.setClock("24");
+}
+
+/** What the two classes show, and what was said meanwhile, for a device in Germany. */
+int showDates()
+{
+    const SettingsRoot root;
+    root.setClock("24");
+    root.setRegion("de_DE");
+    MessageLog log;
+    const QDateTime anchor(QDate(2024, 5, 15), QTime(12, 0), Qt::UTC);
+    RelativeDateFormatter relative(RelativeDateFormat::TimeCritical);
+    relative.setAnchorTime(anchor);
+    QStringList lines{relative.format(anchor.addSecs(-10800)), relative.format(anchor.addDays(-1)),
+                      CustomDateFormatter(QStringLiteral("yMMMd")).format(anchor)};
+    lines += log.take();
+    std::puts(lines.join(QLatin1Char('\n')).toUtf8().constData());
+    return 0;
+}
+
+/** The same in a process with an environment variable set: what it writes, and on the standard error stream. */
+struct Run
+{
+    Run(const char* variable, const QString& value)
+    {
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QLatin1String(variable), value);
+        process.setProcessEnvironment(environment);
+        process.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--show-dates")});
+        succeeded =
+            process.waitForFinished() && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
+        lines = QString::fromUtf8(process.readAllStandardOutput()).trimmed().split(QLatin1Char('\n'));
+        errors = QString::fromUtf8(process.readAllStandardError()).trimmed();
+    }
+
+    bool succeeded;
+    QStringList lines;
+    QString errors;
+};
+
+QStringList withPhrases()
+{
+    return {QStringLiteral("vor 3 Stunden"), QStringLiteral("gestern, 12:00"), QStringLiteral("15. Mai 2024")};
+}
+
+QStringList withoutPhrases()
+{
+    QStringList lines{QStringLiteral("09 Uhr"), QStringLiteral("Di., 12:00"), QStringLiteral("15. Mai 2024")};
+    for (const auto& [name, keys] :
+         {std::pair{"Plural", R"("units", "hour-past")"}, std::pair{"Plural", R"("units", "hour-future")"},
+          std::pair{"Numeric", R"("calendar", "gregorian", "fields", "day", "relative")"}}) {
+        const QString start = QStringLiteral("critical: zel::utility::i18n::%1ResourceAccessor::%1ResourceAccessor("
+                                             "const QLocale&, const QStringList&, QObject*) ")
+                                  .arg(QLatin1String(name));
+        lines += start + QStringLiteral("exhausted all possible locale fallbacks for \"de\" ");
+        lines += start + QStringLiteral("failed to open resource path: (%1) ").arg(QLatin1String(keys));
+    }
+    lines.last().chop(1); // as the end of the output is trimmed
+    return lines;
+}
+
+/** Changes a bundle that is a link, and leaves what it links to alone. */
+void change(const QString& file, QByteArray (*changed)(const QByteArray& contents))
+{
+    QFile old(file);
+    const QByteArray contents = old.open(QIODevice::ReadOnly) ? changed(old.readAll()) : QByteArray();
+    old.remove();
+    QFile damaged(file);
+    if (!damaged.open(QIODevice::WriteOnly) || damaged.write(contents) != contents.size()) {
+        qFatal("cannot write %s", qPrintable(file));
+    }
+}
+
+QByteArray half(const QByteArray& contents)
+{
+    return contents.left(contents.size() / 2);
+}
+
+QByteArray zeroed(const QByteArray& contents)
+{
+    return {contents.size(), '\0'};
+}
+
+/** A generation of the object: larger than what is written at once, and with its number at both ends. */
+QByteArray generation(int number)
+{
+    return "@settings\nfirst:n:" + QByteArray::number(number) + "\nmiddle::" + QByteArray(6000, 'x') +
+           "\nlast:n:" + QByteArray::number(number) + '\n';
+}
+
+[[noreturn]] void writeForEver(int number)
+{
+    zel::PpsObject object(path);
+    object.open(zel::PpsOpenMode::Publish);
+    for (;;) {
+        object.write(generation(++number));
+    }
+}
+
+/** Reads the object again and again, also when it is told to, and remembers what it saw. */
+struct Reader
+{
+    Reader()
+    {
+        object.open(zel::PpsOpenMode::Subscribe);
+        QObject::connect(&object, &zel::PpsObject::readyRead, &object, [this] {
+            ++announced;
+            look();
+        });
+    }
+
+    void look()
+    {
+        const QByteArray contents = object.read();
+        const QVariantMap record = zel::PpsObject::decode(contents).value(QStringLiteral("@settings")).toMap();
+        const QVariant first = record.value(QStringLiteral("first"), -1);
+        seen.insert(first.toInt());
+        if (first != record.value(QStringLiteral("last"))) {
+            torn.append(contents.left(40));
+        }
+    }
+
+    zel::PpsObject object{path};
+    QSet<int> seen;
+    QByteArrayList torn;
+    int announced = 0;
+};
+
+/** Lets a process write until it is killed after so many steps; the signal that ended it. */
+int killWriter(int number, int steps, Reader& reader)
+{
+    const pid_t writer = ::fork();
+    if (writer == 0) {
+        stepsToLive = steps;
+        writeForEver(number);
+    }
+    int status = 0;
+    while (::waitpid(writer, &status, WNOHANG) == 0) {
+        reader.look();
+        QCoreApplication::processEvents();
+    }
+    reader.look();
+    return WTERMSIG(status);
+}
+
+// All writers inherit one state of Qt's random numbers, and so the names of their unfinished files.
+void removeUnfinished(const SettingsRoot& root)
+{
+    QDir directory = QFileInfo(root.file(path)).dir();
+    for (const QString& unfinished : directory.entryList({QStringLiteral("settings.*")})) {
+        directory.remove(unfinished);
+    }
+}
+
+/** An installed tree with a copy of the library and links to its data. */
+bool install(const QString& tree)
+{
+    const QDir original(QFile::decodeName(zel::icudata::dataDirectory()));
+    const QDir bundles(tree + QStringLiteral("/share/zel/icu/") + current);
+    bool done = bundles.mkpath(QStringLiteral(".")) && bundles.mkpath(QStringLiteral("../../../../lib")) &&
+                QFile::copy(original.filePath(QStringLiteral("../../../lib/libzelicudata.so.1")),
+                            tree + QStringLiteral("/lib/libzelicudata.so.1"));
+    for (const QFileInfo& file : QDir(original.filePath(current)).entryInfoList(QDir::Files)) {
+        done = done && QFile::link(file.filePath(), bundles.filePath(file.fileName()));
+    }
+    return done;
+}
+
+bool becomes(const PpsManager& manager, int value)
+{
+    return QTest::qWaitFor([&manager, value] { return manager.value() == QVariant(value); });
+}
+
+} // namespace
+
+class FaultsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void followsThroughFault_data();
+    void followsThroughFault();
+    void followsWithoutInotify_data();
+    void followsWithoutInotify();
+    void seesNoTornValue();
+    void answersWithIcuDataNamed_data();
+    void answersWithIcuDataNamed();
+    void answersWithIcuDataDamaged_data();
+    void answersWithIcuDataDamaged();
+};
+
+void FaultsTest::followsThroughFault_data()
+{
+    QTest::addColumn<Fault>("fault");
+    QTest::addColumn<QString>("reason");
+    const auto row = [](const char* name, const char* reason, Fault fault) {
+        QTest::newRow(name) << fault << QString::fromLatin1(reason);
+    };
+    row("root vanishes", "No such file or directory",
+        [](const SettingsRoot& root) { QDir(root.path()).removeRecursively(); });
+    row("root becomes a file", "Not a directory", [](const SettingsRoot& root) { replaceByFile(root.path()); });
+    row("root cannot be entered", "Permission denied", lockOut);
+    row("directory becomes a file", "Not a directory",
+        [](const SettingsRoot& root) { replaceByFile(root.file(QStringLiteral("/pps/system"))); });
+    row("object becomes a directory", "Is a directory", [](const SettingsRoot& root) {
+        root.remove(path);
+        QDir().mkpath(root.file(path));
+    });
+    row("object over the limit", "larger than 1048576 bytes",
+        [](const SettingsRoot& root) { root.write(path, QByteArray(zel::PpsObject::maximumSize + 1, 'x')); });
+}
+
+void FaultsTest::followsThroughFault()
+{
+    QFETCH(const Fault, fault);
+    QFETCH(const QString, reason);
+    const SettingsRoot root;
+    QVERIFY(root.setClock("12"));
+    const PpsManager manager("/pps/system/settings", "@settings", "hourFormat", nullptr);
+    QTest::qWait(longerThanQuiet);
+    MessageLog log;
+    fault(root);
+    QTest::qWait(2 * longerThanQuiet);
+    const QStringList messages = log.take();
+    const QVariant value = manager.value();
+    mend(root);
+    QCOMPARE(messages, {QStringLiteral("warning: void zel::utility::i18n::PpsManager::onPpsUpdate() failed to read PPS "
+                                       "at /pps/system/settings  :  \"%1: %2\" ")
+                            .arg(root.file(path), reason)});
+    QCOMPARE(value, QVariant(12));
+    QVERIFY(becomes(manager, 24));
+    QCOMPARE(log.take(), QStringList());
+}
+
+void FaultsTest::followsWithoutInotify_data()
+{
+    QTest::addColumn<bool>("instances");
+    QTest::addColumn<bool>("watches");
+    QTest::addColumn<QStringList>("messages");
+    QTest::newRow("no instance left") << false << true << QStringList();
+    QTest::newRow("no watch left") << true << false
+                                   << QStringList(QStringLiteral("critical: inotify_add_watch(/) failed: (No space "
+                                                                 "left on device)"));
+}
+
+void FaultsTest::followsWithoutInotify()
+{
+    QFETCH(const bool, instances);
+    QFETCH(const bool, watches);
+    QFETCH(const QStringList, messages);
+    const SettingsRoot root;
+    QVERIFY(root.setClock("12"));
+    MessageLog log;
+    noInstances = !instances;
+    noWatches = !watches;
+    const PpsManager manager("/pps/system/settings", "@settings", "hourFormat", nullptr);
+    QTest::qWait(longerThanQuiet);
+    QVERIFY(root.setClock("24"));
+    QVERIFY(becomes(manager, 24));
+    noInstances = false;
+    noWatches = false;
+    QCOMPARE(log.take(), messages);
+}
+
+void FaultsTest::seesNoTornValue()
+{
+    constexpr int kills = 1000;
+    constexpr int longestLife = 20; // of which one write of the object takes 8
+    const SettingsRoot root;
+    QVERIFY(root.write(path, generation(0)));
+    Reader reader;
+    for (int round = 0; round < kills; ++round) {
+        QCOMPARE(killWriter(round * kills, round % longestLife, reader), SIGKILL);
+        removeUnfinished(root);
+    }
+    QCOMPARE(reader.torn, QByteArrayList());
+    QVERIFY2(reader.seen.size() > kills / 4, qPrintable(QString::number(reader.seen.size())));
+    QVERIFY(reader.announced > 0);
+}
+
+void FaultsTest::answersWithIcuDataNamed_data()
+{
+    QTest::addColumn<QString>("directory");
+    QTest::newRow("missing") << QStringLiteral("missing");
+    QTest::newRow("empty") << QStringLiteral("empty");
+    QTest::newRow("another version") << QStringLiteral("another");
+}
+
+// What ICU_DATA names is taken as it is.
+void FaultsTest::answersWithIcuDataNamed()
+{
+    QFETCH(const QString, directory);
+    const QTemporaryDir tree;
+    QDir(tree.path()).mkpath(QStringLiteral("empty"));
+    QDir(tree.path()).mkpath(QStringLiteral("another"));
+    QFile::link(QFile::decodeName(zel::icudata::dataDirectory()) + QLatin1Char('/') + current,
+                tree.filePath(QStringLiteral("another/icudt1l")));
+    const Run run("ICU_DATA", tree.filePath(directory));
+    QVERIFY(run.succeeded);
+    QCOMPARE(run.errors, QString());
+    QCOMPARE(run.lines, withoutPhrases());
+}
+
+void FaultsTest::answersWithIcuDataDamaged_data()
+{
+    QTest::addColumn<Damage>("damage");
+    QTest::addColumn<QString>("problem");
+    const auto row = [](const char* name, const char* problem, Damage damage) {
+        QTest::newRow(name) << damage << QString::fromLatin1(problem);
+    };
+    row("sound", "", [](const QDir&) {});
+    row("missing", "no " U_ICUDATA_NAME " in %1", [](const QDir& bundles) { QDir(bundles).removeRecursively(); });
+    row("another version", "no " U_ICUDATA_NAME " in %1",
+        [](const QDir& bundles) { QDir().rename(bundles.path(), bundles.filePath(QStringLiteral("../icudt1l"))); });
+    row("empty", "%1/" U_ICUDATA_NAME ": bundles.list is missing or damaged", [](const QDir& bundles) {
+        QDir(bundles).removeRecursively();
+        QDir().mkpath(bundles.path());
+    });
+    row("list cut short", "%1/" U_ICUDATA_NAME ": bundles.list is missing or damaged",
+        [](const QDir& bundles) { change(bundles.filePath(QStringLiteral("bundles.list")), half); });
+    row("another release", "%1/" U_ICUDATA_NAME ": made for another ICU", [](const QDir& bundles) {
+        change(bundles.filePath(QStringLiteral("bundles.list")),
+               [](const QByteArray& list) { return "806 1" + list.mid(5); });
+    });
+    row("bundle missing", "%1/" U_ICUDATA_NAME ": ak.res is missing or damaged",
+        [](const QDir& bundles) { QFile::remove(bundles.filePath(QStringLiteral("ak.res"))); });
+    row("bundle cut short", "%1/" U_ICUDATA_NAME ": de.res is missing or damaged",
+        [](const QDir& bundles) { change(bundles.filePath(QStringLiteral("de.res")), half); });
+    row("bundle of zeros", "%1/" U_ICUDATA_NAME ": de.res is missing or damaged",
+        [](const QDir& bundles) { change(bundles.filePath(QStringLiteral("de.res")), zeroed); });
+    row("root cut short", "%1/" U_ICUDATA_NAME ": root.res is missing or damaged",
+        [](const QDir& bundles) { change(bundles.filePath(QStringLiteral("root.res")), half); });
+}
+
+// Beside a copy of the library, and named by ICU_DATA. ICU alone would show English, or read past the end of a bundle.
+void FaultsTest::answersWithIcuDataDamaged()
+{
+    QFETCH(const Damage, damage);
+    QFETCH(const QString, problem);
+    const QTemporaryDir tree;
+    QVERIFY(install(tree.path()));
+    const QString data = tree.filePath(QStringLiteral("share/zel/icu"));
+    damage(QDir(data + QLatin1Char('/') + current));
+    const QString errors = problem.isEmpty()
+                               ? problem
+                               : QStringLiteral("libzelicudata: %1; relative dates are without phrases")
+                                     .arg(problem.contains(QLatin1String("%1")) ? problem.arg(data) : problem);
+
+    const Run beside("LD_LIBRARY_PATH", tree.filePath(QStringLiteral("lib")));
+    QVERIFY(beside.succeeded);
+    QCOMPARE(beside.errors, errors);
+    QCOMPARE(beside.lines, problem.isEmpty() ? withPhrases() : withoutPhrases());
+
+    const Run named("ICU_DATA", data);
+    QVERIFY(named.succeeded);
+    QCOMPARE(named.lines.first(), beside.lines.first());
+}
+
+int main(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    if (argc > 1 && QByteArray(argv[1]) == "--show-dates") {
+        return showDates();
+    }
+    FaultsTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_faults.moc"
