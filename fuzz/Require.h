@@ -1,0 +1,16 @@
+#ifndef ZEL_FUZZ_REQUIRE_H
+#define ZEL_FUZZ_REQUIRE_H
+
+#include <cstdio>
+#include <cstdlib>
+
+/** Ends a fuzz target with a finding where what must hold does not. */
+#define ZEL_REQUIRE(condition)                                                                                         \
+    do {                                                                                                               \
+        if (!(condition)) {                                                                                            \
+            std::fprintf(stderr, "%s:%d: does not hold: %s\n", __FILE__, __LINE__, #condition);                        \
+            std::abort();                                                                                              \
+        }                                                                                                              \
+    } while (false)
+
+#endif

@@ -1,0 +1,90 @@
+// Reads anything at all as a compiled resource bundle. One that opens can be read everywhere, and a copy with more in
+// it opens again and has what was added.
+
+#include "Require.h"
+
+#include "ResourceBundleReader.h"
+#include "ResourceBundleWriter.h"
+#include "StockBundles.h"
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <unordered_set>
+#include <vector>
+
+using namespace zel::icudata;
+
+namespace {
+
+const ResourceBundleReader* stockPool()
+{
+    static StockBundles bundles;
+    std::string error;
+    return bundles.find("pool", error);
+}
+
+void requireReadable(const ResourceBundleReader& bundle)
+{
+    std::vector<Resource> pending{bundle.root()};
+    std::unordered_set<Resource> seen;
+    while (!pending.empty()) {
+        const Resource resource = pending.back();
+        pending.pop_back();
+        if (!seen.insert(resource).second) {
+            continue;
+        }
+        bundle.text(resource);
+        for (std::size_t position = 0; position < bundle.size(resource); ++position) {
+            const auto entry = bundle.entry(resource, position);
+            ZEL_REQUIRE(entry);
+            ZEL_REQUIRE(!ResourceBundleReader::isTable(resource) || bundle.find(resource, entry->key) == entry->value);
+            pending.push_back(entry->value);
+        }
+    }
+}
+
+void requireCopy(const ResourceBundleReader& bundle, const ResourceBundleReader* pool)
+{
+    ResourceTree additions;
+    additions.children["units"].children["fuzz"].text = u"{0}";
+    std::string error;
+    const auto file = ResourceBundleWriter::write(bundle, additions, error);
+    ZEL_REQUIRE(file.has_value() == error.empty());
+    if (!file) {
+        return;
+    }
+    const auto copy = ResourceBundleReader::open(BundleData::fromFile(*file, error).value(), pool, error);
+    ZEL_REQUIRE(copy);
+    ZEL_REQUIRE(copy->size(copy->root()) >= bundle.size(bundle.root()));
+    const auto units = copy->find(copy->root(), "units");
+    ZEL_REQUIRE(units && copy->find(*units, "fuzz"));
+}
+
+void readAll(const BundleData& data, const ResourceBundleReader* pool)
+{
+    std::string error;
+    const auto bundle = ResourceBundleReader::open(data, pool, error);
+    ZEL_REQUIRE(bundle.has_value() == error.empty());
+    if (bundle) {
+        requireReadable(*bundle);
+        requireCopy(*bundle, pool);
+    }
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    const std::string_view file(reinterpret_cast<const char*>(data), size);
+    std::string error;
+    const auto bundle = BundleData::fromFile(file, error);
+    ZEL_REQUIRE(bundle.has_value() == error.empty());
+    if (bundle) {
+        readAll(*bundle, stockPool());
+        // Damaged pools: the bundle shares with itself.
+        const auto self = ResourceBundleReader::open(*bundle, nullptr, error);
+        readAll(*bundle, self ? &*self : nullptr);
+    }
+    return 0;
+}
