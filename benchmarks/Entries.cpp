@@ -1,0 +1,302 @@
+#include "Entry.h"
+
+#include "Floor.h"
+#include "support/SettingsRoot.h"
+#include <chrono>
+#include <QtCore/QFile>
+#include <QtCore/QTimeZone>
+#include <thread>
+#include <zel/utility/i18n/CustomDateFormatter.h>
+#include <zel/utility/i18n/Formatting.h>
+#include <zel/utility/i18n/RelativeDateFormatter.h>
+
+namespace {
+
+using namespace zel::utility::i18n;
+using icu::DateFormat;
+
+const auto medium = zel::utility::i18n::DateFormat::Medium;
+
+/** A device in Berlin with a 24-hour clock. */
+class Device
+{
+public:
+    Device() : m_regionFile(QFile::encodeName(m_root.file(QStringLiteral("/pps/system/locale"))))
+    {
+        m_root.setClock("24");
+        m_root.setTimeZone("Europe/Berlin");
+        m_root.setRegion("en_US");
+        // A settings object that was written just now is read again until its time of change tells it from a later one.
+        std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    }
+
+    const char* regionFile() const { return m_regionFile.constData(); }
+
+private:
+    SettingsRoot m_root;
+    QByteArray m_regionFile;
+};
+
+const QLocale locale(QStringLiteral("en_US"));
+const QDateTime anchor(QDate(2012, 5, 16), QTime(10, 30), Qt::LocalTime);
+const QString dateSkeleton = QStringLiteral("yMMMd");
+const QString timeSkeleton = QStringLiteral("yMMMdhm");
+const QString zoneSkeleton = QStringLiteral("yMMMdhmz");
+
+const Device& device()
+{
+    static const Device theDevice;
+    return theDevice;
+}
+
+std::vector<Entry> patternEntries()
+{
+    const auto none = DateFormat::kNone;
+    const auto style = DateFormat::kMedium;
+    return {
+        {"dateFormat", [] { return dateFormat(locale, medium); }, [=] { return floors::pattern(locale, style, none); },
+         Entry::Different},
+        {"dateFormat (region)", [] { return dateFormat(medium); },
+         [=] {
+             floors::lookAtRegion(device().regionFile());
+             return floors::pattern(locale, style, none);
+         },
+         Entry::Different},
+        {"timeFormat", [] { return timeFormat(locale, medium); }, [=] { return floors::pattern(locale, none, style); },
+         Entry::Different},
+        {"dateTimeFormat", [] { return dateTimeFormat(locale, medium); },
+         [=] { return floors::pattern(locale, style, style); }, Entry::Different},
+        {"toPercentageString", [] { return toPercentageString(locale, 0.256, 1, 0); },
+         [] { return floors::percentage(locale, 0.256, 1, 0); }, Entry::Same},
+    };
+}
+
+/** Building and formatting with one skeleton; "H" is what the device makes of "h". */
+std::vector<Entry> customEntries(const std::string& title, const QString& skeleton)
+{
+    const QString clocked = QString(skeleton).replace(QLatin1Char('h'), QLatin1Char('H'));
+    const auto ours = std::make_shared<CustomDateFormatter>(skeleton);
+    const std::shared_ptr<icu::SimpleDateFormat> bare = floors::formatter(locale, clocked);
+    const bool zoned = skeleton.contains(QLatin1Char('z'));
+    return {
+        {"CustomDateFormatter() " + title,
+         [skeleton] { return CustomDateFormatter(skeleton).isValid() ? QString() : QStringLiteral("invalid"); },
+         [clocked] {
+             floors::lookAtRegion(device().regionFile());
+             return floors::formatter(locale, clocked) ? QString() : QStringLiteral("invalid");
+         },
+         Entry::Same},
+        {"CustomDateFormatter::format " + title, [ours] { return ours->format(anchor); },
+         [bare, zoned] {
+             floors::lookAtRegion(device().regionFile());
+             return zoned ? floors::formatInZone(*bare, anchor, QStringLiteral("Europe/Berlin"))
+                          : floors::format(*bare, anchor);
+         },
+         Entry::Same},
+    };
+}
+
+Entry setSkeletonEntry()
+{
+    const auto ours = std::make_shared<CustomDateFormatter>(dateSkeleton);
+    const auto isOdd = std::make_shared<bool>(false);
+    return {"CustomDateFormatter::setSkeleton",
+            [ours, isOdd] {
+                *isOdd = !*isOdd;
+                ours->setSkeleton(*isOdd ? timeSkeleton : dateSkeleton);
+                return QString();
+            },
+            [isOdd] {
+                *isOdd = !*isOdd;
+                floors::formatter(locale, *isOdd ? QStringLiteral("yMMMdHm") : dateSkeleton);
+                return QString();
+            },
+            Entry::Same};
+}
+
+/** The skeletons of the slots of the finer ladder, under a 24-hour clock. */
+const QStringList& ladderSkeletons()
+{
+    static const QStringList side = {QStringLiteral("yMMMM"), QStringLiteral("MMMd"), QStringLiteral("EHmm"),
+                                     QStringLiteral("EHmm"),  QStringLiteral("H"),    QStringLiteral("m")};
+    static const QStringList both = side + side;
+    return both;
+}
+
+void ladderPatterns(const QLocale& chosen)
+{
+    for (const QString& skeleton : ladderSkeletons()) {
+        floors::bestPattern(chosen, skeleton);
+    }
+}
+
+std::vector<Entry> ladderEntries()
+{
+    const auto ours = std::make_shared<RelativeDateFormatter>(RelativeDateFormat::TimeCritical);
+    const auto isOdd = std::make_shared<bool>(false);
+    const auto next = [isOdd] {
+        *isOdd = !*isOdd;
+        return *isOdd;
+    };
+    return {
+        {"RelativeDateFormatter()",
+         [] {
+             const RelativeDateFormatter formatter(RelativeDateFormat::TimeCritical);
+             return QString();
+         },
+         [] {
+             floors::lookAtRegion(device().regionFile());
+             const QDateTime now = QDateTime::currentDateTime();
+             ladderPatterns(locale);
+             return QString();
+         },
+         Entry::Same},
+        {"RelativeDateFormatter::setLocale",
+         [ours, next] {
+             ours->setLocale(next() ? QLocale(QStringLiteral("de_DE")) : locale);
+             return QString();
+         },
+         [next] {
+             ladderPatterns(next() ? QLocale(QStringLiteral("de_DE")) : locale);
+             return QString();
+         },
+         Entry::Same},
+        {"RelativeDateFormatter::setAnchorTime",
+         [ours, next] {
+             ours->setAnchorTime(next() ? anchor : anchor.addSecs(1));
+             return QString();
+         },
+         [next, copies = std::make_shared<std::vector<QDateTime>>(25)] {
+             const QDateTime newAnchor = next() ? anchor : anchor.addSecs(1);
+             if (newAnchor != copies->front()) {
+                 std::fill(copies->begin(), copies->end(), newAnchor);
+             }
+             return QString();
+         },
+         Entry::Same},
+    };
+}
+
+/** How the calls for one slot go: the tests up to its range, then its phrase and its pattern. */
+struct SlotCalls
+{
+    const char* name;
+    RelativeDateFormat::Type type;
+    QDateTime moment;
+    std::vector<floors::Distance> tests;
+    std::function<QString()> pattern;
+};
+
+QString quoted(QString phrase)
+{
+    const QLatin1Char apostrophe('\'');
+    return apostrophe + phrase.replace(apostrophe, QLatin1String("''")) + apostrophe;
+}
+
+std::function<QString()> fixedPattern(const QString& skeleton)
+{
+    return [pattern = floors::bestPattern(locale, skeleton)] { return pattern; };
+}
+
+std::vector<SlotCalls> slotCalls()
+{
+    const floors::Distance years = {UCAL_YEAR, false};
+    const floors::Distance days = {UCAL_DAY_OF_YEAR, false};
+    const floors::Distance hours = {UCAL_HOUR, true};
+    const floors::Distance minutes = {UCAL_MINUTE, true};
+    const floors::Distance wholeDays = {UCAL_DATE, true};
+    const auto dayPhrase = [=](const QDateTime& moment) {
+        return floors::dayPhrase(locale, floors::measure(days, anchor, moment));
+    };
+    const QDateTime yesterday = anchor.addDays(-1);
+    const QDateTime today = anchor.addSecs(-3600);
+    const QDateTime hoursAgo = anchor.addSecs(-3 * 3600);
+    const QDateTime minutesAgo = anchor.addSecs(-5 * 60);
+    const QDateTime minutesAhead = anchor.addSecs(5 * 60);
+    const auto critical = RelativeDateFormat::TimeCritical;
+    const auto coarse = RelativeDateFormat::NonTimeCritical;
+    const auto countedMinutes = [=](const QDateTime& moment) {
+        return quoted(floors::countedPhrase(locale, "minute-past", "minute-future",
+                                            floors::remainder(UCAL_HOUR, UCAL_MINUTE, anchor, moment)));
+    };
+    return {
+        {"another year", critical, anchor.addYears(-1), {years}, fixedPattern(QStringLiteral("yMMMM"))},
+        {"month and day", critical, anchor.addDays(-10), {years, days}, fixedPattern(QStringLiteral("MMMd"))},
+        {"weekday and time", critical, anchor.addDays(-3), {years, days, days}, fixedPattern(QStringLiteral("EHmm"))},
+        {"yesterday and time",
+         critical,
+         yesterday,
+         {years, days, days, days},
+         [=] { return quoted(dayPhrase(yesterday)) + QStringLiteral(" HH:mm"); }},
+        {"hours ago",
+         critical,
+         hoursAgo,
+         {years, days, days, days, hours},
+         [=] {
+             return quoted(floors::countedPhrase(locale, "hour-past", "hour-future",
+                                                 floors::remainder(UCAL_DATE, UCAL_HOUR, anchor, hoursAgo)));
+         }},
+        {"minutes ago",
+         critical,
+         minutesAgo,
+         {years, days, days, days, hours, minutes},
+         [=] { return countedMinutes(minutesAgo); }},
+        {"minutes ahead",
+         critical,
+         minutesAhead,
+         {years, days, days, days, hours, minutes},
+         [=] { return countedMinutes(minutesAhead); }},
+        {"weekday", coarse, anchor.addDays(-3), {years, days, days}, fixedPattern(QStringLiteral("EEEE"))},
+        {"today", coarse, today, {years, days, days, wholeDays}, [=] { return quoted(dayPhrase(today)); }},
+    };
+}
+
+Entry slotEntry(const SlotCalls& calls)
+{
+    const auto ours = std::make_shared<RelativeDateFormatter>(calls.type);
+    ours->setAnchorTime(anchor);
+    return {std::string("RelativeDateFormatter::format ") + calls.name,
+            [ours, moment = calls.moment] { return ours->format(moment); },
+            [calls] {
+                for (const floors::Distance& test : calls.tests) {
+                    floors::measure(test, anchor, calls.moment);
+                }
+                return floors::write(calls.pattern(), calls.moment, locale);
+            },
+            Entry::Same};
+}
+
+std::vector<Entry> makeEntries()
+{
+    device();
+    std::vector<Entry> all = patternEntries();
+    const auto add = [&all](const std::vector<Entry>& more) { all.insert(all.end(), more.begin(), more.end()); };
+    add(customEntries("yMMMd", dateSkeleton));
+    add(customEntries("yMMMdhm", timeSkeleton));
+    add(customEntries("yMMMdhmz", zoneSkeleton));
+    add({setSkeletonEntry()});
+    add(ladderEntries());
+    for (const SlotCalls& calls : slotCalls()) {
+        add({slotEntry(calls)});
+    }
+    return all;
+}
+
+} // namespace
+
+const std::vector<Entry>& entries()
+{
+    static const std::vector<Entry> all = makeEntries();
+    return all;
+}
+
+std::vector<std::string> mismatches()
+{
+    std::vector<std::string> names;
+    for (const Entry& entry : entries()) {
+        if (entry.texts == Entry::Same && entry.ours() != entry.floor()) {
+            names.push_back(entry.name);
+        }
+    }
+    return names;
+}

@@ -1,0 +1,24 @@
+#ifndef ZEL_BENCHMARKS_STOPWATCH_H
+#define ZEL_BENCHMARKS_STOPWATCH_H
+
+#include <chrono>
+#include <cstdio>
+#include <sys/resource.h>
+
+/** Tells on stderr how long the process took from main() to its first text, and its memory at that point. */
+class Stopwatch
+{
+public:
+    void stop() const
+    {
+        const std::chrono::duration<double, std::milli> passed = std::chrono::steady_clock::now() - m_start;
+        rusage usage = {};
+        getrusage(RUSAGE_SELF, &usage);
+        std::fprintf(stderr, "%.3f %ld\n", passed.count(), usage.ru_maxrss);
+    }
+
+private:
+    std::chrono::steady_clock::time_point m_start = std::chrono::steady_clock::now();
+};
+
+#endif

@@ -1,0 +1,49 @@
+// Counts the instructions of entries, library and floor, when run by callgrind: one dump a side, named after it.
+//
+// usage: valgrind --tool=callgrind count_instructions [ENTRY...]      (without a name: every entry)
+
+#include "Entry.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <valgrind/callgrind.h>
+
+namespace {
+
+constexpr int warmUp = 4;
+// Even, so that entries that alternate between two inputs see both equally often.
+constexpr int runs = 20;
+
+void repeat(const std::function<QString()>& side, int times)
+{
+    for (int i = 0; i < times; ++i) {
+        side();
+    }
+}
+
+void count(const std::string& name, const std::function<QString()>& side)
+{
+    repeat(side, warmUp);
+    CALLGRIND_ZERO_STATS;
+    repeat(side, runs);
+    CALLGRIND_DUMP_STATS_AT(name.c_str());
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    for (const std::string& name : mismatches()) {
+        std::fprintf(stderr, "%s: the two sides do not give the same text\n", name.c_str());
+        return 1;
+    }
+    std::printf("runs %d\n", runs);
+    const char* const* const chosen = argv + 1;
+    for (const Entry& entry : entries()) {
+        if (argc == 1 || std::find(chosen, chosen + argc - 1, entry.name) != chosen + argc - 1) {
+            count(entry.name + "/ours", entry.ours);
+            count(entry.name + "/floor", entry.floor);
+        }
+    }
+    return 0;
+}
