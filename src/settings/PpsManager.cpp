@@ -2,12 +2,6 @@
 
 namespace zel::utility::i18n {
 
-QVariant PpsManager::value() const
-{
-    const std::lock_guard lock(m_valueMutex);
-    return m_value;
-}
-
 void PpsManager::setValue(const QVariant& value)
 {
     {

@@ -7,14 +7,10 @@
 #include <QtCore/QVariant>
 #include <zel/utility/i18n/Global.h>
 
-namespace zel {
-class PpsObject;
-}
-
 namespace zel::utility::i18n {
 
 /**
- * Follows one attribute of one settings object.
+ * Follows one attribute of one settings object, or the setting of the host that stands for it.
  *
  * It belongs to the thread that created it and hears of changes through that thread's event loop; value() may be asked
  * on any thread. An object that cannot be opened leaves the value invalid for good; one that cannot be read or decoded
@@ -52,9 +48,12 @@ private Q_SLOTS:
     void onPpsUpdate();
 
 private:
+    /** What the platform has behind the attribute; each platform unit defines its own. */
+    class Source;
+
     void setValue(const QVariant& value);
 
-    std::unique_ptr<zel::PpsObject> m_ppsObject;
+    std::unique_ptr<Source> m_source;
     const char* m_path;
     const char* m_map;
     const char* m_key;

@@ -17,39 +17,51 @@ constexpr const char* constructorSignature =
 
 } // namespace
 
+class PpsManager::Source : public zel::PpsObject
+{
+public:
+    using PpsObject::PpsObject;
+};
+
 PpsManager::PpsManager(const char* path, const char* map, const char* key, QObject* parent)
     : QObject(parent),
-      m_ppsObject(std::make_unique<zel::PpsObject>(QString::fromLatin1(path), this)),
+      m_source(std::make_unique<Source>(QString::fromLatin1(path), this)),
       m_path(path),
       m_map(map),
       m_key(key)
 {
-    if (!m_ppsObject->open(zel::PpsOpenMode::Subscribe)) {
+    if (!m_source->open(zel::PpsOpenMode::Subscribe)) {
         Diagnostic::write(QtCriticalMsg, constructorSignature, "failed to open PPS at", m_path, " : ",
-                          m_ppsObject->errorString());
-        m_ppsObject.reset();
+                          m_source->errorString());
+        m_source.reset();
         return;
     }
-    if (!connect(m_ppsObject.get(), SIGNAL(readyRead()), this, SLOT(onPpsUpdate()))) {
+    if (!connect(m_source.get(), SIGNAL(readyRead()), this, SLOT(onPpsUpdate()))) {
         Diagnostic::write(QtCriticalMsg, constructorSignature, "failed to connect to PPS channel for", m_path);
-        m_ppsObject->setReadyReadEnabled(false);
+        m_source->setReadyReadEnabled(false);
     }
     onPpsUpdate();
 }
 
 PpsManager::~PpsManager() = default;
 
+QVariant PpsManager::value() const
+{
+    const std::lock_guard lock(m_valueMutex);
+    return m_value;
+}
+
 void PpsManager::onPpsUpdate()
 {
-    if (!m_ppsObject) {
+    if (!m_source) {
         Diagnostic::write(QtCriticalMsg, updateSignature, "called without a PpsObject");
         return;
     }
     bool ok = false;
-    const QByteArray payload = m_ppsObject->read(&ok);
+    const QByteArray payload = m_source->read(&ok);
     if (!ok) {
         Diagnostic::write(QtWarningMsg, updateSignature, "failed to read PPS at", m_path, " : ",
-                          m_ppsObject->errorString());
+                          m_source->errorString());
         return;
     }
     const QVariantMap record = zel::PpsObject::decode(payload, &ok);

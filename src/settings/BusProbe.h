@@ -1,0 +1,54 @@
+#ifndef ZEL_UTILITY_I18N_SETTINGS_BUSPROBE_H
+#define ZEL_UTILITY_I18N_SETTINGS_BUSPROBE_H
+
+#include <memory>
+#include <QtCore/QObject>
+#include <QtCore/QSocketNotifier>
+#include <QtCore/QString>
+
+namespace zel::utility::i18n {
+
+/**
+ * Tells whether there is somebody at the address of a message bus who answers. Qt D-Bus waits for half a minute for a
+ * bus that takes connections but is silent; this says a first word and lets its owner decide how long to wait.
+ */
+class BusProbe : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(BusProbe)
+
+public:
+    /** The address of the user's session bus; empty where there is none. */
+    static QString sessionAddress();
+
+    explicit BusProbe(const QString& address);
+    ~BusProbe() override;
+
+    /** Why nobody can be asked; empty otherwise. */
+    QString fault() const { return m_fault; }
+
+    /** Whether an answer comes within some milliseconds. An address that is not one of a local socket counts as good.
+     */
+    bool waitForAnswer(int milliseconds) const;
+
+    /** From now on answered() is emitted, once, when an answer has come. */
+    void listen();
+
+Q_SIGNALS:
+    void answered();
+
+private Q_SLOTS:
+    void startListening();
+    void onReadable();
+
+private:
+    void open(const QByteArray& name);
+
+    int m_socket = -1;
+    QString m_fault;
+    std::unique_ptr<QSocketNotifier> m_notifier;
+};
+
+} // namespace zel::utility::i18n
+
+#endif

@@ -1,0 +1,44 @@
+#include "settings/LocaleChangeFilter.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QEvent>
+
+namespace zel::utility::i18n {
+
+void LocaleChangeFilter::call(QObject* receiver, const char* member, QObject* owner)
+{
+    const QCoreApplication* const application = QCoreApplication::instance();
+    if (application == nullptr) {
+        return;
+    }
+    // An application's events can be filtered on its own thread only.
+    auto* const filter = new LocaleChangeFilter;
+    filter->moveToThread(application->thread());
+    connect(filter, SIGNAL(changed()), receiver, member);
+    connect(owner, SIGNAL(destroyed()), filter, SLOT(stop()));
+    QMetaObject::invokeMethod(filter, "start");
+}
+
+void LocaleChangeFilter::start()
+{
+    QCoreApplication* const application = QCoreApplication::instance();
+    application->installEventFilter(this);
+    setParent(application);
+}
+
+// Disconnects at once: deleteLater() alone would let changes through until the event loop runs.
+void LocaleChangeFilter::stop()
+{
+    disconnect();
+    deleteLater();
+}
+
+bool LocaleChangeFilter::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::LocaleChange) {
+        Q_EMIT changed();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace zel::utility::i18n

@@ -1,0 +1,33 @@
+#ifndef ZEL_UTILITY_I18N_SETTINGS_LOCALECHANGEFILTER_H
+#define ZEL_UTILITY_I18N_SETTINGS_LOCALECHANGEFILTER_H
+
+#include <QtCore/QObject>
+
+namespace zel::utility::i18n {
+
+/** Hears of the locale changes that the application hears of. It lives on the application's thread. */
+class LocaleChangeFilter : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(LocaleChangeFilter)
+
+public:
+    /** Calls a signal or slot at every locale change, for as long as the owner lives. Any thread may call. */
+    static void call(QObject* receiver, const char* member, QObject* owner);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+Q_SIGNALS:
+    void changed();
+
+private Q_SLOTS:
+    void start();
+    void stop();
+
+private:
+    LocaleChangeFilter() = default;
+};
+
+} // namespace zel::utility::i18n
+
+#endif
