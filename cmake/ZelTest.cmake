@@ -12,4 +12,8 @@ function(zel_add_test name)
     target_link_libraries(tst_${name} PRIVATE zelutilityi18n_static Qt::Test zel_warnings)
     add_test(NAME ${name} COMMAND tst_${name})
     set_tests_properties(${name} PROPERTIES TIMEOUT 300)
+    if(ZEL_SANITIZE MATCHES thread)
+        # Qt, ICU and the C library are not instrumented: the sanitizer cannot see their locks and atomics.
+        set_tests_properties(${name} PROPERTIES ENVIRONMENT "TSAN_OPTIONS=ignore_noninstrumented_modules=1")
+    endif()
 endfunction()

@@ -1,0 +1,240 @@
+// Formatters on several threads while the device changes, and what is left when a program ends.
+
+#include "settings/ClockSetting.h"
+#include "settings/TimeZoneSetting.h"
+#include "support/MessageLog.h"
+#include "support/SettingsRoot.h"
+#include <algorithm>
+#include <atomic>
+#include <memory>
+#include <optional>
+#include <QtCore/QCoreApplication>
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QEventLoop>
+#include <QtCore/QProcess>
+#include <QtTest/QTest>
+#include <thread>
+#include <vector>
+#include <zel/utility/i18n/CustomDateFormatter.h>
+#include <zel/utility/i18n/Formatting.h>
+#include <zel/utility/i18n/RelativeDateFormatter.h>
+
+using namespace zel::utility::i18n;
+
+namespace {
+
+const QDateTime anchor(QDate(2012, 5, 16), QTime(15, 5), Qt::UTC);
+
+/** The formatters of one thread. */
+class Formatters
+{
+public:
+    Formatters() { m_relative.setAnchorTime(anchor); }
+
+    /** What a thread shows of the device: its clock, its zone and its region. */
+    QStringList texts()
+    {
+        // The clock of relative dates is read when their patterns are built.
+        m_relative.setClockFormat(ClockFormat::ApplyLocaleFormat);
+        m_relative.setClockFormat(ClockFormat::ApplyUserFormat);
+        m_relative.applyUserRegionLocale();
+        return {m_time.format(anchor), m_zoned.format(anchor), m_relative.format(anchor.addDays(-1)),
+                dateFormat(DateFormat::Long)};
+    }
+
+private:
+    CustomDateFormatter m_time{QStringLiteral("hm")};
+    CustomDateFormatter m_zoned{QStringLiteral("yMMMdhmz")};
+    RelativeDateFormatter m_relative{RelativeDateFormat::TimeCritical};
+};
+
+const QStringList finalTexts{QStringLiteral("15:05"), QStringLiteral("17. Mai 2012, 00:05 GMT+9"),
+                             QStringLiteral("gestern, 15:05"), QStringLiteral("d. MMMM yyyy")};
+
+/** A thread that formats, with an event loop of its own, until it shows what the device says in the end or gives up. */
+class Worker
+{
+public:
+    explicit Worker(const std::atomic<bool>& settled) : m_thread([this, &settled] { run(settled); }) {}
+    ~Worker() { m_thread.join(); }
+    Q_DISABLE_COPY(Worker)
+
+    bool isDone() const { return m_done; }
+    /** Valid when it is done. */
+    QStringList texts() const { return m_texts; }
+
+private:
+    void run(const std::atomic<bool>& settled)
+    {
+        QEventLoop events;
+        Formatters formatters;
+        QElapsedTimer patience;
+        while (!patience.isValid() || (m_texts != finalTexts && !patience.hasExpired(10000))) {
+            if (settled && !patience.isValid()) {
+                patience.start();
+            }
+            events.processEvents();
+            m_texts = formatters.texts();
+        }
+        m_done = true;
+    }
+
+    QStringList m_texts;
+    std::atomic<bool> m_done{false};
+    std::thread m_thread;
+};
+
+/** Changes what the device says, a thousand times, and leaves it in Germany. */
+void flip(const SettingsRoot& root, bool onlyClock, std::atomic<bool>& settled)
+{
+    constexpr int flips = 1000;
+    for (int i = 0; i < flips; ++i) {
+        root.setClock(i % 2 == 0 ? "12" : "24");
+        if (!onlyClock && i % 10 == 0) {
+            root.setRegion(i % 20 == 0 ? "ja_JP" : "ar_EG");
+            root.setTimeZone(i % 20 == 0 ? "Europe/Berlin" : "Africa/Cairo");
+        }
+    }
+    root.setRegion("de_DE");
+    root.setTimeZone("Asia/Tokyo");
+    root.setClock("24");
+    settled = true;
+}
+
+// Programs that end in one way or another, each to be run in a process of its own.
+
+std::optional<CustomDateFormatter> outlivingFormatter;
+
+void formatSomething(const CustomDateFormatter& formatter)
+{
+    formatter.format(anchor);
+    RelativeDateFormatter(RelativeDateFormat::TimeCritical).format(anchor);
+    timeFormat(DateFormat::Short);
+}
+
+void endBeforeApplication(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    formatSomething(CustomDateFormatter(QStringLiteral("hmz")));
+}
+
+void endAfterApplication(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    outlivingFormatter.emplace(QStringLiteral("hmz"));
+    formatSomething(*outlivingFormatter);
+}
+
+void formatBeforeApplication(int argc, char** argv)
+{
+    formatSomething(outlivingFormatter.emplace(QStringLiteral("hmz")));
+    const QCoreApplication application(argc, argv);
+    QCoreApplication::processEvents();
+}
+
+void endAfterThread(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    std::thread([] { formatSomething(CustomDateFormatter(QStringLiteral("hmz"))); }).join();
+    formatSomething(CustomDateFormatter(QStringLiteral("hmz")));
+}
+
+struct Program
+{
+    const char* name;
+    void (*run)(int argc, char** argv);
+};
+
+constexpr Program programs[] = {{"last formatter before the application object", endBeforeApplication},
+                                {"last formatter after the application object", endAfterApplication},
+                                {"first formatter before the application object", formatBeforeApplication},
+                                {"first formatter on a thread that ends", endAfterThread}};
+
+} // namespace
+
+class ThreadsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void followTheDevice_data();
+    void followTheDevice();
+    void endsInSilence_data();
+    void endsInSilence();
+};
+
+void ThreadsTest::followTheDevice_data()
+{
+    QTest::addColumn<int>("threads");
+    QTest::addColumn<bool>("onlyClock");
+    QTest::newRow("two threads, the clock") << 2 << true;
+    QTest::newRow("eight threads, clock, zone and region") << 8 << false;
+}
+
+void ThreadsTest::followTheDevice()
+{
+    QFETCH(const int, threads);
+    QFETCH(const bool, onlyClock);
+    static const SettingsRoot root;
+    root.setRegion("de_DE");
+    root.setTimeZone("Asia/Tokyo");
+    root.setClock("24");
+    MessageLog log;
+    // The readers belong to this thread, whose event loop hears of the changes.
+    QVERIFY(QTest::qWaitFor([] { return ClockSetting::clockFormat() == ClockFormat::Use24hourClock; }));
+    QVERIFY(QTest::qWaitFor([] { return TimeZoneSetting::timeZone() == QLatin1String("Asia/Tokyo"); }));
+
+    std::atomic<bool> settled{false};
+    std::vector<std::unique_ptr<Worker>> workers;
+    std::generate_n(std::back_inserter(workers), threads, [&settled] { return std::make_unique<Worker>(settled); });
+    std::thread device(flip, std::cref(root), onlyClock, std::ref(settled));
+    const bool done = QTest::qWaitFor(
+        [&workers] {
+            return std::all_of(workers.cbegin(), workers.cend(), [](const auto& worker) { return worker->isDone(); });
+        },
+        240000);
+    device.join();
+
+    QVERIFY(done);
+    for (const auto& worker : workers) {
+        QCOMPARE(worker->texts(), finalTexts);
+    }
+    QCOMPARE(log.take(), QStringList());
+}
+
+void ThreadsTest::endsInSilence_data()
+{
+    QTest::addColumn<QString>("program");
+    for (const Program& program : programs) {
+        QTest::newRow(program.name) << QString::fromLatin1(program.name);
+    }
+}
+
+void ThreadsTest::endsInSilence()
+{
+    QFETCH(const QString, program);
+    const SettingsRoot root;
+    QVERIFY(root.setClock("24") && root.setTimeZone("Asia/Tokyo") && root.setRegion("de_DE"));
+    QProcess process;
+    process.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--end"), program});
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(QString::fromUtf8(process.readAllStandardError()), QString());
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 0);
+}
+
+int main(int argc, char** argv)
+{
+    if (argc == 3 && QByteArray(argv[1]) == "--end") {
+        const auto* const program =
+            std::find_if(std::begin(programs), std::end(programs),
+                         [&argv](const Program& each) { return QByteArray(argv[2]) == each.name; });
+        program->run(argc, argv);
+        return 0;
+    }
+    const QCoreApplication application(argc, argv);
+    ThreadsTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_threads.moc"
