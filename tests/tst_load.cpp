@@ -1,0 +1,87 @@
+// A million texts, and no more memory than ten thousand take.
+
+#include "support/MessageLog.h"
+#include "support/SettingsRoot.h"
+#include <QtCore/QFile>
+#include <QtTest/QTest>
+#include <zel/utility/i18n/CustomDateFormatter.h>
+#include <zel/utility/i18n/RelativeDateFormatter.h>
+
+using namespace zel::utility::i18n;
+
+// Writes one text for the moment.
+using Write = QString (*)(const QDateTime& moment);
+Q_DECLARE_METATYPE(Write)
+
+namespace {
+
+const QDateTime anchor(QDate(2012, 5, 16), QTime(12, 0), Qt::UTC);
+
+/** The resident size of this process in kilobytes. */
+qint64 residentSize()
+{
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (status.open(QIODevice::ReadOnly)) {
+        for (const QByteArray& line : status.readAll().split('\n')) {
+            if (line.startsWith("VmRSS:")) {
+                return line.simplified().split(' ').at(1).toLongLong();
+            }
+        }
+    }
+    qFatal("the resident size is unknown");
+}
+
+QString writeCustom(const QDateTime& moment)
+{
+    static const CustomDateFormatter formatter(QStringLiteral("yMMMdhmz"));
+    return formatter.format(moment);
+}
+
+QString writeRelative(const QDateTime& moment)
+{
+    static RelativeDateFormatter formatter(RelativeDateFormat::TimeCritical);
+    formatter.setAnchorTime(anchor);
+    return formatter.format(moment);
+}
+
+} // namespace
+
+class LoadTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void staysFlat_data();
+    void staysFlat();
+};
+
+void LoadTest::staysFlat_data()
+{
+    QTest::addColumn<Write>("write");
+    QTest::newRow("CustomDateFormatter") << Write(writeCustom);
+    QTest::newRow("RelativeDateFormatter") << Write(writeRelative);
+}
+
+void LoadTest::staysFlat()
+{
+    QFETCH(const Write, write);
+    const SettingsRoot root;
+    QVERIFY(root.setClock("24") && root.setRegion("pl_PL") && root.setTimeZone("Asia/Tokyo"));
+    MessageLog log;
+    constexpr int count = 1000000;
+    constexpr int warmUp = 10000;
+    constexpr int step = 1237; // seconds, so that all kinds of text are met
+    qint64 early = 0;
+    int written = 0;
+    for (int i = 0; i < count; ++i) {
+        written += write(anchor.addSecs((i % 1000 - 500) * step)).isEmpty() ? 0 : 1;
+        early = i == warmUp ? residentSize() : early;
+    }
+    const qint64 late = residentSize();
+    QCOMPARE(written, count);
+    QVERIFY2(late * 100 <= early * 102, qPrintable(QStringLiteral("%1 kB became %2 kB").arg(early).arg(late)));
+    QCOMPARE(log.take(), QStringList());
+}
+
+QTEST_GUILESS_MAIN(LoadTest)
+#include "tst_load.moc"

@@ -1,0 +1,257 @@
+// Every locale of ICU under both clocks: what must hold whatever the locale data says.
+
+#include "settings/ClockSetting.h"
+#include "support/MessageLog.h"
+#include "support/SettingsRoot.h"
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <QtCore/QLocale>
+#include <QtCore/QMap>
+#include <QtCore/QRegularExpression>
+#include <QtTest/QTest>
+#include <unicode/locid.h>
+#include <unicode/uchar.h>
+#include <utility>
+#include <vector>
+#include <zel/utility/i18n/CustomDateFormatter.h>
+#include <zel/utility/i18n/Formatting.h>
+#include <zel/utility/i18n/RelativeDateFormatter.h>
+
+using namespace zel::utility::i18n;
+
+namespace {
+
+constexpr std::array<DateFormat::Type, 4> lengths{DateFormat::Short, DateFormat::Medium, DateFormat::Long,
+                                                  DateFormat::Full};
+
+// No other number of it looks like its hour, its year is in the century that Qt takes two digits for, and in no locale
+// does the name of its weekday begin that of another one, which Qt would stop at.
+const QDateTime moment(QDate(1987, 11, 30), QTime(15, 8, 42), Qt::UTC);
+
+const QStringList skeletons{
+    QStringLiteral("y"),      QStringLiteral("yM"),      QStringLiteral("yMd"),         QStringLiteral("yMMM"),
+    QStringLiteral("yMMMd"),  QStringLiteral("yMMMM"),   QStringLiteral("yMMMMd"),      QStringLiteral("yMMMEd"),
+    QStringLiteral("yQQQ"),   QStringLiteral("GyMMMd"),  QStringLiteral("yMMMMEEEEd"),  QStringLiteral("M"),
+    QStringLiteral("MMM"),    QStringLiteral("MMMM"),    QStringLiteral("Md"),          QStringLiteral("MMMd"),
+    QStringLiteral("MMMEd"),  QStringLiteral("MMMMd"),   QStringLiteral("MMMMEEEEd"),   QStringLiteral("d"),
+    QStringLiteral("E"),      QStringLiteral("EEEE"),    QStringLiteral("ms"),          QStringLiteral("h"),
+    QStringLiteral("hm"),     QStringLiteral("Hm"),      QStringLiteral("hms"),         QStringLiteral("Ehm"),
+    QStringLiteral("MMMdhm"), QStringLiteral("yMMMdhm"), QStringLiteral("yMMMMEEEEdhm")};
+
+std::vector<QLocale> locales()
+{
+    int32_t count = 0;
+    const icu::Locale* const names = icu::Locale::getAvailableLocales(count);
+    std::vector<QLocale> all;
+    std::transform(names, names + count, std::back_inserter(all),
+                   [](const icu::Locale& name) { return QLocale(QString::fromLatin1(name.getName())); });
+    return all;
+}
+
+QString withoutQuoted(QString pattern)
+{
+    static const QRegularExpression quoted(QStringLiteral("'[^']*'"));
+    return pattern.remove(quoted);
+}
+
+bool showsAmPm(const QString& pattern)
+{
+    return withoutQuoted(pattern).contains(QLatin1String("ap"), Qt::CaseInsensitive);
+}
+
+/** Whether a letter stands outside quotes that is none of the fields that a pattern is translated to. */
+bool hasStrayLetter(const QString& pattern)
+{
+    static const QRegularExpression fields(QStringLiteral("d{1,4}|M{1,4}|yyyy|yy|h{1,2}|mm?|ss?|AP|ap|t"));
+    static const QRegularExpression letters(QStringLiteral("[A-Za-z]"));
+    return withoutQuoted(pattern).remove(fields).contains(letters);
+}
+
+/** The digits of a text, whatever script they are of. */
+QString digits(const QString& text)
+{
+    QString found;
+    for (const uint c : text.toUcs4()) {
+        if (u_charDigitValue(static_cast<UChar32>(c)) >= 0) {
+            found += QString::number(u_charDigitValue(static_cast<UChar32>(c)));
+        }
+    }
+    return found;
+}
+
+} // namespace
+
+class SweepTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void patterns_data() { clocks(); }
+    void patterns();
+    void customDates_data() { clocks(); }
+    void customDates();
+    void relativeDates_data() { clocks(); }
+    void relativeDates();
+    void cleanupTestCase();
+
+private:
+    static void clocks();
+    bool setClock(int hours);
+    void check(bool holds, const QLocale& locale, const QString& what);
+    void checkPattern(const QLocale& locale, const QString& pattern, const QString& qtPattern, bool hasTime);
+    void checkRoundTrip(const QLocale& locale, const QString& pattern);
+    void finish(const QStringList& messages);
+
+    SettingsRoot m_root;
+    bool m_is24Hour = false;
+    QStringList m_failures;
+    QMap<QString, int> m_messages;
+    const std::vector<QLocale> m_locales = locales();
+    int m_checks = 0;
+};
+
+void SweepTest::clocks()
+{
+    QTest::addColumn<int>("clock");
+    QTest::newRow("12") << 12;
+    QTest::newRow("24") << 24;
+}
+
+bool SweepTest::setClock(int hours)
+{
+    m_is24Hour = hours == 24;
+    return m_root.setClock(QByteArray::number(hours)) &&
+           QTest::qWaitFor([hours] { return ClockSetting::clockFormat() == hours; }, 2000);
+}
+
+void SweepTest::check(bool holds, const QLocale& locale, const QString& what)
+{
+    ++m_checks;
+    if (!holds) {
+        m_failures.append(locale.name() + QStringLiteral(": ") + what);
+    }
+}
+
+void SweepTest::checkPattern(const QLocale& locale, const QString& pattern, const QString& qtPattern, bool hasTime)
+{
+    check(!locale.toString(moment, pattern).isEmpty(), locale, QStringLiteral("no text"));
+    // Where ICU's pattern has a field that Qt lacks, Qt's own pattern answers, and it knows of no clock.
+    if (pattern == qtPattern) {
+        return;
+    }
+    check(!hasStrayLetter(pattern), locale, QStringLiteral("stray letter in ") + pattern);
+    if (hasTime) {
+        check(showsAmPm(pattern) != m_is24Hour, locale, QStringLiteral("wrong clock in ") + pattern);
+    }
+}
+
+/** What is written with a pattern of year, month and day is read again as the same date. */
+void SweepTest::checkRoundTrip(const QLocale& locale, const QString& pattern)
+{
+    // Qt writes digits beyond the BMP (Chakma, Adlam), but does not read them.
+    if (locale.toString(0).size() > 1) {
+        return;
+    }
+    check(locale.toDate(locale.toString(moment.date(), pattern), pattern) == moment.date(), locale,
+          QStringLiteral("%1 is not read with %2").arg(locale.toString(moment.date(), pattern), pattern));
+}
+
+void SweepTest::patterns()
+{
+    QFETCH(const int, clock);
+    QVERIFY(setClock(clock));
+    MessageLog log;
+    for (const QLocale& locale : m_locales) {
+        for (const DateFormat::Type length : lengths) {
+            const auto qtLength = length == DateFormat::Short || length == DateFormat::Medium ? QLocale::ShortFormat
+                                                                                              : QLocale::LongFormat;
+            checkPattern(locale, dateFormat(locale, length), locale.dateFormat(qtLength), false);
+            checkPattern(locale, timeFormat(locale, length), locale.timeFormat(qtLength), true);
+            checkPattern(locale, dateTimeFormat(locale, length), locale.dateTimeFormat(qtLength), true);
+            checkRoundTrip(locale, dateFormat(locale, length));
+        }
+    }
+    finish(log.take());
+}
+
+void SweepTest::customDates()
+{
+    QFETCH(const int, clock);
+    QVERIFY(setClock(clock));
+    MessageLog log;
+    CustomDateFormatter formatter(skeletons.first());
+    for (const QLocale& locale : m_locales) {
+        m_root.setRegion(locale.bcp47Name().toLatin1());
+        for (const QString& skeleton : skeletons) {
+            const bool hasHours = skeleton.contains(QLatin1Char('h'), Qt::CaseInsensitive);
+            if (m_is24Hour && !hasHours) {
+                continue; // the same as under the other clock
+            }
+            formatter.setSkeleton(skeleton);
+            const QString text = formatter.format(moment);
+            check(!text.isEmpty(), locale, QStringLiteral("no text for ") + skeleton);
+            if (hasHours) {
+                check(digits(text).contains(QLatin1String("15")) == m_is24Hour, locale,
+                      QStringLiteral("wrong clock in ") + text);
+            }
+        }
+    }
+    finish(log.take());
+}
+
+void SweepTest::relativeDates()
+{
+    QFETCH(const int, clock);
+    QVERIFY(setClock(clock));
+    MessageLog log;
+    constexpr qint64 minute = 60;
+    constexpr qint64 hour = 60 * minute;
+    constexpr qint64 day = 24 * hour;
+    constexpr std::array<qint64, 10> distances{0,        59,      minute,  59 * minute, hour,
+                                               6 * hour, 1 * day, 3 * day, 30 * day,    400 * day};
+    for (const auto type : {RelativeDateFormat::TimeCritical, RelativeDateFormat::NonTimeCritical}) {
+        RelativeDateFormatter formatter(type);
+        formatter.setAnchorTime(moment);
+        for (const QLocale& locale : m_locales) {
+            formatter.setLocale(locale);
+            for (const qint64 distance : distances) {
+                for (const qint64 seconds : {-distance, distance}) {
+                    check(!formatter.format(moment.addSecs(seconds)).isEmpty(), locale,
+                          QStringLiteral("no text for %1 s").arg(seconds));
+                }
+            }
+        }
+    }
+    finish(log.take());
+}
+
+void SweepTest::finish(const QStringList& messages)
+{
+    static const QString unsupported =
+        QStringLiteral("warning: zel::utility::i18n::Formatting::replaceWithSystemClockFormat() has encountered an "
+                       "unsupported time format! ");
+    for (const QString& message : messages) {
+        ++m_messages[message];
+        // A 12-hour pattern that has AM/PM where its language is not known to have it.
+        if (!m_is24Hour || message != unsupported) {
+            m_failures.append(message);
+        }
+    }
+    const QStringList failures = std::exchange(m_failures, {});
+    QVERIFY2(failures.isEmpty(), qPrintable(failures.mid(0, 10).join(QLatin1Char('\n'))));
+}
+
+void SweepTest::cleanupTestCase()
+{
+    std::printf("%zu locales, %d checks, messages by kind:\n", m_locales.size(), m_checks);
+    for (auto kind = m_messages.cbegin(); kind != m_messages.cend(); ++kind) {
+        std::printf("%6d  %s\n", kind.value(), qPrintable(kind.key()));
+    }
+    if (m_messages.isEmpty()) {
+        std::puts("     0");
+    }
+}
+
+QTEST_GUILESS_MAIN(SweepTest)
+#include "tst_sweep.moc"
