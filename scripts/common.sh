@@ -27,12 +27,17 @@ build_dir() {
     esac
 }
 
+configure() {
+    local output
+    output=$(cmake --preset "$1" 2>&1) || { printf '%s\n' "$output" >&2; fail "cannot configure preset $1"; }
+}
+
 # build PRESET [TARGET...]: configures and builds; silent on success except for progress on a terminal.
 build() {
     local preset=$1 targets=() output
     shift
     [ $# -eq 0 ] || targets=(--target "$@")
-    output=$(cmake --preset "$preset" 2>&1) || { printf '%s\n' "$output" >&2; fail "cannot configure preset $preset"; }
+    configure "$preset"
     if [ -t 1 ]; then
         cmake --build --preset "$preset" --parallel "$(nproc)" "${targets[@]}"
     else

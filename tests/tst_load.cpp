@@ -70,7 +70,7 @@ void LoadTest::staysFlat()
     MessageLog log;
     constexpr int count = 1000000;
     constexpr int warmUp = 10000;
-    constexpr int step = 1237; // seconds, so that all kinds of text are met
+    constexpr qint64 step = 1237; // seconds, so that all kinds of text are met
     qint64 early = 0;
     int written = 0;
     for (int i = 0; i < count; ++i) {

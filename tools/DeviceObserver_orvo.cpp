@@ -36,7 +36,8 @@ DeviceObserver::DeviceObserver(QObject* parent) : QObject(parent), m_values(valu
             throw Failure(object->errorString());
         }
     }
-    auto* const region = new system::LocaleHandler(system::LocaleType::Region, this);
+    auto* const region = new system::LocaleHandler(system::LocaleType::Region);
+    region->setParent(this);
     connect(region, SIGNAL(changed()), this, SLOT(look()));
 }
 

@@ -44,11 +44,11 @@ QDateTime moved(const QDateTime& anchor, Unit unit, int count)
     case Unit::Day:
         return anchor.addDays(count);
     case Unit::Hour:
-        return anchor.addSecs(count * 3600);
+        return anchor.addSecs(count * qint64(3600));
     case Unit::Minute:
         break;
     }
-    return anchor.addSecs(count * 60);
+    return anchor.addSecs(count * qint64(60));
 }
 
 } // namespace

@@ -128,7 +128,7 @@ QDateTime Moment::parse(std::string_view text)
     if (!scanner.isAtEnd() || !day.isValid() || !clock.isValid() || qAbs(distance.value_or(0)) > largestOffset) {
         throw Failure(shown(text) + QStringLiteral(" is not a moment such as 2012-05-16 or 2012-05-16T10:30:00+02:00"));
     }
-    const QDateTime moment = dateTime(day, clock, distance);
+    QDateTime moment = dateTime(day, clock, distance);
     if (!moment.isValid()) {
         throw Failure(shown(text) + QStringLiteral(" does not exist in local time, where clocks are put forward then"));
     }

@@ -77,7 +77,7 @@ std::string BundleList::toFile(std::uint32_t poolChecksum) const
 
 std::string BundleList::problemOf(const fs::path& directory)
 {
-    const std::string damagedList = std::string(fileName) + " is missing or damaged";
+    std::string damagedList = std::string(fileName) + " is missing or damaged";
     const fs::path path = directory / fileName;
     struct stat status = {};
     std::ifstream list(path);
