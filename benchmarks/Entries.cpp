@@ -4,6 +4,7 @@
 #include "support/SettingsRoot.h"
 #include <chrono>
 #include <QtCore/QFile>
+#include <QtCore/QObject>
 #include <QtCore/QTimeZone>
 #include <thread>
 #include <zel/utility/i18n/CustomDateFormatter.h>
@@ -166,10 +167,11 @@ std::vector<Entry> ladderEntries()
              ours->setAnchorTime(next() ? anchor : anchor.addSecs(1));
              return QString();
          },
-         [next, copies = std::make_shared<std::vector<QDateTime>>(25)] {
+         [next, copies = std::make_shared<std::vector<QDateTime>>(25), sender = std::make_shared<QObject>()] {
              const QDateTime newAnchor = next() ? anchor : anchor.addSecs(1);
              if (newAnchor != copies->front()) {
                  std::fill(copies->begin(), copies->end(), newAnchor);
+                 QMetaObject::activate(sender.get(), &QObject::staticMetaObject, 0, nullptr); // a signal nobody hears
              }
              return QString();
          },

@@ -2,11 +2,15 @@
 
 #include "ResourceBundleReader.h"
 
+#include <algorithm>
+#include <charconv>
+#include <fcntl.h>
 #include <fstream>
 #include <iterator>
 #include <sys/stat.h>
 #include <tuple>
 #include <unicode/udata.h>
+#include <unistd.h>
 
 namespace zel::icudata {
 
@@ -50,16 +54,53 @@ std::uint32_t checksumOfIcuPool()
     return words[static_cast<std::size_t>(IndexWord::PoolChecksum)];
 }
 
+/** A directory, opened so that each look at a file in it does not walk the whole path again. */
+class Directory
+{
+public:
+    explicit Directory(const fs::path& path) : m_descriptor(::open(path.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC)) {}
+    ~Directory() { ::close(m_descriptor); }
+    Directory(const Directory&) = delete;
+    Directory& operator=(const Directory&) = delete;
+
+    bool look(const char* file, struct stat& status) const { return ::fstatat(m_descriptor, file, &status, 0) == 0; }
+
+private:
+    int m_descriptor;
+};
+
+/** Takes the next word off a text; empty at the end. */
+std::string_view nextWord(std::string_view& text)
+{
+    text.remove_prefix(std::min(text.find_first_not_of(" \n"), text.size()));
+    const std::string_view word = text.substr(0, text.find_first_of(" \n"));
+    text.remove_prefix(word.size());
+    return word;
+}
+
+template <typename Number>
+bool nextNumber(std::string_view& text, Number& number)
+{
+    const std::string_view word = nextWord(text);
+    const char* const end = word.data() + word.size();
+    const auto [stop, error] = std::from_chars(word.data(), end, number);
+    return error == std::errc() && stop == end;
+}
+
+bool nextBundle(std::string_view& text, Bundle& bundle)
+{
+    bundle.name = nextWord(text);
+    return nextNumber(text, bundle.size) && nextNumber(text, bundle.checksum);
+}
+
 bool isNewer(const struct stat& one, const struct stat& other)
 {
     return std::tie(one.st_mtim.tv_sec, one.st_mtim.tv_nsec) > std::tie(other.st_mtim.tv_sec, other.st_mtim.tv_nsec);
 }
 
-bool isSound(const std::string& path, const Bundle& expected, const struct stat& list)
+std::string damaged(const std::string& file)
 {
-    struct stat status = {};
-    return ::stat(path.c_str(), &status) == 0 && static_cast<std::uintmax_t>(status.st_size) == expected.size &&
-           (!isNewer(status, list) || checksumOf(contentsOf(path)) == expected.checksum);
+    return file + " is missing or damaged";
 }
 
 } // namespace
@@ -75,27 +116,31 @@ std::string BundleList::toFile(std::uint32_t poolChecksum) const
     return std::to_string(m_count) + ' ' + std::to_string(poolChecksum) + '\n' + m_lines;
 }
 
-std::string BundleList::problemOf(const fs::path& directory)
+// This is done whenever a process starts: sizes and times are looked at, and contents only where the times are odd.
+std::string BundleList::problemOf(const fs::path& path)
 {
-    std::string damagedList = std::string(fileName) + " is missing or damaged";
-    const fs::path path = directory / fileName;
-    struct stat status = {};
-    std::ifstream list(path);
+    const Directory directory(path);
+    const std::string list = contentsOf(path / fileName);
+    std::string_view rest = list;
+    struct stat listed = {};
     std::size_t count = 0;
     std::uint32_t pool = 0;
-    if (::stat(path.c_str(), &status) != 0 || !(list >> count >> pool)) {
-        return damagedList;
+    if (!directory.look(fileName, listed) || !nextNumber(rest, count) || !nextNumber(rest, pool)) {
+        return damaged(fileName);
     }
     if (pool != checksumOfIcuPool()) {
         return "made for another ICU";
     }
+    Bundle bundle;
     for (; count > 0; --count) {
-        Bundle bundle;
-        if (!(list >> bundle.name >> bundle.size >> bundle.checksum)) {
-            return damagedList;
+        if (!nextBundle(rest, bundle)) {
+            return damaged(fileName);
         }
-        if (!isSound(directory / bundle.name, bundle, status)) {
-            return bundle.name + " is missing or damaged";
+        struct stat status = {};
+        if (!directory.look(bundle.name.c_str(), status) ||
+            static_cast<std::uintmax_t>(status.st_size) != bundle.size ||
+            (isNewer(status, listed) && checksumOf(contentsOf(path / bundle.name)) != bundle.checksum)) {
+            return damaged(bundle.name);
         }
     }
     return {};

@@ -15,11 +15,6 @@ DateOffsetRange::DateOffsetRange(const QDateTime& anchorTime, RelativeDateElemen
 {
 }
 
-void DateOffsetRange::setAnchorTime(const QDateTime& anchorTime)
-{
-    m_anchorTime = anchorTime;
-}
-
 bool DateOffsetRange::contains(const QDateTime& dateTime) const
 {
     const int count = m_absolute ? RelativeDate::offset(m_anchorTime, dateTime, m_element)

@@ -30,7 +30,7 @@ public:
                     bool past, QObject* parent);
     ~DateOffsetRange() override = default;
 
-    void setAnchorTime(const QDateTime& anchorTime);
+    void setAnchorTime(const QDateTime& anchorTime) { m_anchorTime = anchorTime; }
 
     bool contains(const QDateTime& dateTime) const;
 

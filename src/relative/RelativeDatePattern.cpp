@@ -58,11 +58,6 @@ void RelativeDatePattern::setLocale(const QLocale& locale)
     initPattern();
 }
 
-void RelativeDatePattern::setAnchorTime(const QDateTime& anchorTime)
-{
-    m_anchorTime = anchorTime;
-}
-
 QString RelativeDatePattern::format(const QDateTime& dateTime) const
 {
     QString text = m_pattern;

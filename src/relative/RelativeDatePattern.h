@@ -32,7 +32,7 @@ public:
 
     void setClockFormat(zel::utility::i18n::ClockFormat::Type clockFormat);
     void setLocale(const QLocale& locale);
-    void setAnchorTime(const QDateTime& anchorTime);
+    void setAnchorTime(const QDateTime& anchorTime) { m_anchorTime = anchorTime; }
 
     /** The text for a moment; a null string, with messages, on failure. */
     QString format(const QDateTime& dateTime) const;

@@ -94,7 +94,7 @@ public Q_SLOTS:
 
     /**
      * Changes the clock. ClockFormat::ApplyUserFormat reads the setting of the device now, and not again until the
-     * clock or the locale is changed.
+     * clock or the locale is changed. The value that is set already changes nothing and reads nothing.
      */
     void setClockFormat(zel::utility::i18n::ClockFormat::Type format);
 
