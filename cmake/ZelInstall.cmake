@@ -1,0 +1,43 @@
+# What is installed, and with which part: the library, its data, the files to develop with, the tool.
+# Applications see the public headers and one library. The platform libraries come along because it needs them;
+# they have neither headers nor a name to link with.
+
+include(CMakePackageConfigHelpers)
+
+set(packageDirectory "${CMAKE_INSTALL_LIBDIR}/cmake/ZelUtilityI18n")
+set(pkgConfigDirectory "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
+set(platformLibraries zelicudata)
+if(ZEL_PLATFORM STREQUAL orvo)
+    list(APPEND platformLibraries zel zelsystem)
+endif()
+
+install(TARGETS zelutilityi18n EXPORT ZelUtilityI18nTargets
+    LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT library NAMELINK_COMPONENT development)
+install(TARGETS ${platformLibraries} EXPORT ZelUtilityI18nTargets
+    LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT library NAMELINK_SKIP)
+install(TARGETS zel-i18n RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT tool)
+install(FILES "${PROJECT_SOURCE_DIR}/tools/zel-i18n.1"
+    DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT tool)
+install(FILES "${PROJECT_SOURCE_DIR}/tools/zel-i18n.bash-completion"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" RENAME zel-i18n COMPONENT tool)
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/include/zel/utility"
+    DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/zel" COMPONENT development FILES_MATCHING PATTERN "*.h")
+
+# The CMake package and the pkg-config module. ICU is behind the library: nobody needs it to build against it.
+set(qtVersion "${Qt${ZEL_QT_MAJOR}Core_VERSION_MAJOR}.${Qt${ZEL_QT_MAJOR}Core_VERSION_MINOR}")
+install(EXPORT ZelUtilityI18nTargets NAMESPACE Zel:: DESTINATION "${packageDirectory}" COMPONENT development)
+configure_package_config_file("${CMAKE_CURRENT_LIST_DIR}/ZelUtilityI18nConfig.cmake.in"
+    "${PROJECT_BINARY_DIR}/ZelUtilityI18nConfig.cmake"
+    INSTALL_DESTINATION "${packageDirectory}" NO_SET_AND_CHECK_MACRO)
+write_basic_package_version_file("${PROJECT_BINARY_DIR}/ZelUtilityI18nConfigVersion.cmake"
+    COMPATIBILITY SameMajorVersion)
+install(FILES
+    "${PROJECT_BINARY_DIR}/ZelUtilityI18nConfig.cmake"
+    "${PROJECT_BINARY_DIR}/ZelUtilityI18nConfigVersion.cmake"
+    DESTINATION "${packageDirectory}" COMPONENT development)
+
+file(RELATIVE_PATH prefixFromPkgConfig
+    "${CMAKE_INSTALL_PREFIX}/${pkgConfigDirectory}" "${CMAKE_INSTALL_PREFIX}")
+configure_file("${CMAKE_CURRENT_LIST_DIR}/zelutilityi18n.pc.in" "${PROJECT_BINARY_DIR}/zelutilityi18n.pc" @ONLY)
+install(FILES "${PROJECT_BINARY_DIR}/zelutilityi18n.pc"
+    DESTINATION "${pkgConfigDirectory}" COMPONENT development)
