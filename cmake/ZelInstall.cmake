@@ -38,6 +38,7 @@ install(FILES
 
 file(RELATIVE_PATH prefixFromPkgConfig
     "${CMAKE_INSTALL_PREFIX}/${pkgConfigDirectory}" "${CMAKE_INSTALL_PREFIX}")
+string(REGEX REPLACE "/$" "" prefixFromPkgConfig "${prefixFromPkgConfig}")
 configure_file("${CMAKE_CURRENT_LIST_DIR}/zelutilityi18n.pc.in" "${PROJECT_BINARY_DIR}/zelutilityi18n.pc" @ONLY)
 install(FILES "${PROJECT_BINARY_DIR}/zelutilityi18n.pc"
     DESTINATION "${pkgConfigDirectory}" COMPONENT development)

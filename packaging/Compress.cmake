@@ -1,0 +1,5 @@
+# Run before packages are made: compresses manuals and changelogs as Debian wants them.
+file(GLOB_RECURSE texts "${CPACK_TEMPORARY_DIRECTORY}/zel-i18n.1" "${CPACK_TEMPORARY_DIRECTORY}/changelog")
+foreach(text IN LISTS texts)
+    execute_process(COMMAND gzip -9n "${text}" COMMAND_ERROR_IS_FATAL ANY)
+endforeach()
