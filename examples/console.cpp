@@ -1,0 +1,83 @@
+// Every function of the library once, on the console.
+//
+// usage: example_console
+#include <QtCore/QTextStream>
+#include <zel/utility/i18n/CustomDateFormatter.h>
+#include <zel/utility/i18n/Formatting.h>
+#include <zel/utility/i18n/RelativeDateFormatter.h>
+
+using namespace zel::utility::i18n;
+
+namespace {
+
+const QDateTime moment(QDate(2012, 5, 16), QTime(22, 30));
+
+// A pattern is in Qt's syntax, and QLocale writes with it.
+void showPatterns(QTextStream& out)
+{
+    const QLocale french(QStringLiteral("fr_FR"));
+    out << "Patterns of France\n"
+        << "  " << french.toString(moment.date(), dateFormat(french, DateFormat::Full)) << '\n'
+        << "  " << french.toString(moment.time(), timeFormat(french, DateFormat::Short)) << '\n'
+        << "  " << french.toString(moment, dateTimeFormat(french, DateFormat::Medium)) << '\n'
+        << "Patterns of the user's region\n"
+        << "  " << dateFormat(DateFormat::Long) << '\n'
+        << "  " << timeFormat(DateFormat::Medium) << '\n'
+        << "  " << dateTimeFormat(DateFormat::Short) << '\n';
+}
+
+void showPercentages(QTextStream& out)
+{
+    out << "Percentages\n"
+        << "  " << toPercentageString(QLocale(QStringLiteral("de_DE")), 0.256, 1, 0) << '\n'
+        << "  " << toPercentageString(0.5, 2, 2) << '\n';
+}
+
+// A skeleton names the fields; the region decides how they are put together.
+void showCustomDates(QTextStream& out)
+{
+    CustomDateFormatter formatter(QStringLiteral("yMMMMEEEEd"));
+    out << "Custom dates\n"
+        << "  " << formatter.skeleton() << ": " << formatter.format(moment) << '\n';
+    formatter.setSkeleton(QStringLiteral("hm"));
+    if (formatter.isValid()) {
+        out << "  " << formatter.skeleton() << ": " << formatter.format(moment) << '\n';
+    }
+}
+
+void showRelativeDates(QTextStream& out)
+{
+    RelativeDateFormatter formatter(RelativeDateFormat::TimeCritical);
+    formatter.setAnchorTime(moment);
+    out << "Relative dates\n"
+        << "  " << formatter.format(moment.addSecs(-300)) << '\n'
+        << "  " << formatter.format(moment.addDays(-1)) << '\n';
+
+    formatter.setClockFormat(ClockFormat::Use12hourClock);
+    out << "  on a 12-hour clock: " << formatter.format(moment.addDays(-1)) << '\n';
+    formatter.setLocale(QLocale(QStringLiteral("fr_FR")));
+    out << "  in French: " << formatter.format(moment.addSecs(-300)) << '\n';
+    formatter.applyUserRegionLocale();
+    out << "  in the user's region again: " << formatter.format(moment.addSecs(-300)) << '\n';
+
+    // Another ladder starts from the defaults, the current time as its anchor too.
+    formatter.setType(RelativeDateFormat::NonTimeCritical);
+    formatter.setAnchorTime(moment);
+    out << "  in days, as type " << formatter.type() << ": " << formatter.format(moment.addSecs(-300)) << '\n';
+
+    // Whoever shows texts makes them anew when the formatter says that it has changed.
+    QObject::connect(&formatter, &RelativeDateFormatter::changed,
+                     [&] { out << "  as of now: " << formatter.format(QDateTime::currentDateTime()) << '\n'; });
+    formatter.applyCurrentTimeAsAnchor();
+}
+
+} // namespace
+
+int main()
+{
+    QTextStream out(stdout);
+    showPatterns(out);
+    showPercentages(out);
+    showCustomDates(out);
+    showRelativeDates(out);
+}

@@ -1,0 +1,57 @@
+// Eight threads write dates at the same time, each with formatters of its own.
+//
+// usage: example_threads
+#include <array>
+#include <QtCore/QTextStream>
+#include <thread>
+#include <zel/utility/i18n/CustomDateFormatter.h>
+#include <zel/utility/i18n/RelativeDateFormatter.h>
+
+using namespace zel::utility::i18n;
+
+namespace {
+
+const std::array<const char*, 8> locales = {"en_GB", "de_DE", "fr_FR", "pl_PL", "ar_EG", "ja_JP", "he_IL", "th_TH"};
+
+struct Result
+{
+    QString date;
+    QString text;
+    int written = 0;
+};
+
+// A formatter belongs to the thread that created it.
+void write(const char* locale, Result& result)
+{
+    const QDateTime anchor(QDate(2012, 5, 16), QTime(10, 30));
+    const CustomDateFormatter date(QStringLiteral("yMMMd"));
+    RelativeDateFormatter relative(RelativeDateFormat::TimeCritical);
+    relative.setLocale(QLocale(QLatin1String(locale)));
+    relative.setAnchorTime(anchor);
+
+    result.date = date.format(anchor);
+    result.text = relative.format(anchor.addSecs(-300));
+    for (int day = 0; day < 100; ++day) {
+        const QDateTime moment = anchor.addDays(-day);
+        if (!date.format(moment).isEmpty() && !relative.format(moment).isEmpty()) {
+            ++result.written;
+        }
+    }
+}
+
+} // namespace
+
+int main()
+{
+    std::array<Result, locales.size()> results;
+    std::array<std::thread, locales.size()> threads;
+    for (std::size_t i = 0; i < threads.size(); ++i) {
+        threads[i] = std::thread(write, locales[i], std::ref(results[i]));
+    }
+    QTextStream out(stdout);
+    for (std::size_t i = 0; i < threads.size(); ++i) {
+        threads[i].join();
+        const Result& result = results[i];
+        out << locales[i] << "  " << result.written << " dates  " << result.date << "  " << result.text << '\n';
+    }
+}
