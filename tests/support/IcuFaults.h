@@ -1,0 +1,73 @@
+#ifndef ZEL_TESTS_ICUFAULTS_H
+#define ZEL_TESTS_ICUFAULTS_H
+
+#include <array>
+#include <QtCore/QList>
+#include <QtCore/QScopeGuard>
+#include <unicode/utypes.h>
+
+/**
+ * Stands between the code under test and ICU, and makes chosen calls fail. The linker's --wrap sends there what the
+ * code under test calls, and nothing that ICU calls itself.
+ */
+class IcuFaults
+{
+public:
+    enum Function {
+        SetKeywordValue,
+        CreateDateTimeInstance,
+        CreatePercentInstance,
+        CreateGenerator,
+        GetBestPattern,
+        CreateDateFormat,
+        FormatDate,
+        OpenBundle,
+        GetResource,
+        GetString,
+        ForLocale,
+        CreateNumberFormat,
+        GetGMT,
+        CreateCalendar,
+        SetTime,
+        FunctionCount
+    };
+
+    /** What a call does: works, fails after its work was done, returns a null pointer and no error, or fails at once.
+     */
+    static constexpr int Works = U_ZERO_ERROR;
+    static constexpr int FailsLate = U_INTERNAL_PROGRAM_ERROR;
+    static constexpr int ReturnsNull = -1;
+    static constexpr int FailsAtOnce = U_MEMORY_ALLOCATION_ERROR;
+
+    /** The fate of the next calls of a function; later calls work. */
+    static void arm(Function function, const QList<int>& fates) { s_fates.at(function) = fates; }
+    static bool allTaken(Function function) { return s_fates.at(function).isEmpty(); }
+
+    static int next(Function function)
+    {
+        QList<int>& fates = s_fates.at(function);
+        return fates.isEmpty() ? Works : fates.takeFirst();
+    }
+
+    template <typename Real>
+    static auto call(Function function, UErrorCode& error, const Real& real)
+    {
+        const int fate = next(function);
+        // ICU does nothing for a status that is a failure already, except to delete what it was to adopt.
+        UErrorCode hidden = U_MEMORY_ALLOCATION_ERROR;
+        if (fate > Works && fate != FailsLate) {
+            error = static_cast<UErrorCode>(fate);
+        }
+        const auto fail = qScopeGuard([&error, fate] {
+            if (fate == FailsLate) {
+                error = U_INTERNAL_PROGRAM_ERROR;
+            }
+        });
+        return real(fate == ReturnsNull ? hidden : error);
+    }
+
+private:
+    inline static std::array<QList<int>, FunctionCount> s_fates;
+};
+
+#endif

@@ -1,0 +1,320 @@
+// Failures that ICU reports for reasons of its own, call by call: the messages, the result, and nothing left behind.
+
+#include "bridge/Locale.h"
+#include "patterns/DatePattern.h"
+#include "relative/RelativeDate.h"
+#include "resources/NumericResourceAccessor.h"
+#include "resources/PluralResourceAccessor.h"
+#include "support/IcuFaults.h"
+#include "support/MessageLog.h"
+#include "support/SettingsRoot.h"
+#include <memory>
+#include <QtTest/QTest>
+#include <zel/utility/i18n/CustomDateFormatter.h>
+#include <zel/utility/i18n/Formatting.h>
+
+using namespace zel::utility::i18n;
+using Call = QString (*)();
+
+Q_DECLARE_METATYPE(IcuFaults::Function)
+Q_DECLARE_METATYPE(Call)
+
+namespace {
+
+constexpr int works = IcuFaults::Works;
+constexpr int late = IcuFaults::FailsLate;
+constexpr int null = IcuFaults::ReturnsNull;
+constexpr int atOnce = IcuFaults::FailsAtOnce;
+constexpr int missing = U_MISSING_RESOURCE_ERROR;
+
+const QLocale austrian(QStringLiteral("de_AT"));
+const QDateTime moment(QDate(2012, 5, 1), QTime(12, 25), Qt::UTC);
+const QDateTime anchor(QDate(2012, 5, 1), QTime(10, 0), Qt::UTC);
+
+QString localeName()
+{
+    return QString::fromLatin1(Locale::toICU(austrian).getName());
+}
+
+QString mediumDate()
+{
+    return dateFormat(austrian, DateFormat::Medium);
+}
+
+QString shortTime()
+{
+    return timeFormat(austrian, DateFormat::Short);
+}
+
+QString mediumDateTime()
+{
+    return dateTimeFormat(austrian, DateFormat::Medium);
+}
+
+QString percentage()
+{
+    return toPercentageString(austrian, 0.5, 0, 0);
+}
+
+QString bestPattern()
+{
+    return DatePattern::patternFromSkeleton(QStringLiteral("yMd"), austrian);
+}
+
+QString formatted()
+{
+    return DatePattern::formatFromPattern(QStringLiteral("HH:mm"), moment, austrian);
+}
+
+QString bundle()
+{
+    const std::unique_ptr<icu::ResourceBundle> found(
+        ResourceAccessor::initResource(icu::Locale("de_AT"), {QStringLiteral("units"), QStringLiteral("minute-past")}));
+    return found ? QString::fromLatin1(found->getKey()) : QString();
+}
+
+QString today()
+{
+    return NumericResourceAccessor(austrian, RelativeDate::resourcePath(RelativeDateElement::NamedDays, true), nullptr)
+        .format(0);
+}
+
+QString fiveMinutesAgo()
+{
+    return PluralResourceAccessor(austrian, RelativeDate::resourcePath(RelativeDateElement::Minutes, true), nullptr)
+        .format(5);
+}
+
+QString hourOffset()
+{
+    return QString::number(RelativeDate::offset(anchor, moment, RelativeDateElement::Hours));
+}
+
+QString minuteDifference()
+{
+    return QString::number(RelativeDate::difference(anchor, moment, RelativeDateElement::Minutes, false));
+}
+
+QString custom()
+{
+    return CustomDateFormatter(QStringLiteral("yMd"), nullptr).format(moment);
+}
+
+/** What was valid before stays in use when the next skeleton cannot be had. */
+QString customAgain()
+{
+    CustomDateFormatter formatter(QStringLiteral("yMd"), nullptr);
+    formatter.setSkeleton(QStringLiteral("yMMMM"));
+    return formatter.format(moment);
+}
+
+/** The messages of a call that failed: each line is given without the space at its end. */
+QStringList lines(const char* text)
+{
+    QStringList result;
+    for (const QString& line : QString::fromLatin1(text).split(QLatin1Char('\n'))) {
+        result.append(line + QLatin1Char(' '));
+    }
+    return result;
+}
+
+} // namespace
+
+class IcuErrorsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void failures_data();
+    void failures();
+
+private:
+    SettingsRoot m_settings;
+};
+
+void IcuErrorsTest::initTestCase()
+{
+    QVERIFY(m_settings.setClock("12"));
+    QVERIFY(m_settings.setRegion("en_US"));
+}
+
+void IcuErrorsTest::failures_data()
+{
+    QTest::addColumn<IcuFaults::Function>("function");
+    QTest::addColumn<QList<int>>("fates");
+    QTest::addColumn<Call>("call");
+    QTest::addColumn<QString>("result");
+    QTest::addColumn<QStringList>("messages");
+
+    const auto row = [](const char* name, IcuFaults::Function function, const QList<int>& fates, Call call,
+                        const QString& result, const char* messages = nullptr) {
+        QTest::newRow(name) << function << fates << call << result
+                            << (messages == nullptr ? QStringList() : lines(messages));
+    };
+    const QString none;
+    const auto text = [](const char* ascii) { return QString::fromLatin1(ascii); };
+
+    // Without the keyword the locale serves all the same.
+    row("keyword", IcuFaults::SetKeywordValue, {atOnce}, localeName, text("de_AT"),
+        "warning: Error in calling icu::Locale::setKeywordValue( const char *, const char *, UErrorCode & ) : "
+        "U_MEMORY_ALLOCATION_ERROR\n"
+        "warning: static icu::Locale zel::utility::i18n::Locale::toICU(const QLocale&) could not set gregorian "
+        "calendar "
+        "on de_AT locale");
+    row("keyword of a format", IcuFaults::SetKeywordValue, {atOnce}, mediumDate, text("dd.MM.yyyy"),
+        "warning: Error in calling icu::Locale::setKeywordValue( const char *, const char *, UErrorCode & ): "
+        "U_MEMORY_ALLOCATION_ERROR\n"
+        "warning: zel::utility::i18n::getICULocale could not set gregorian calendar on de_AT locale");
+
+    // Qt's own formats, which do not follow the clock.
+    row("date", IcuFaults::CreateDateTimeInstance, {null}, mediumDate, austrian.dateFormat(QLocale::ShortFormat));
+    row("time", IcuFaults::CreateDateTimeInstance, {null}, shortTime, austrian.timeFormat(QLocale::ShortFormat));
+    row("date and time", IcuFaults::CreateDateTimeInstance, {null}, mediumDateTime,
+        austrian.dateTimeFormat(QLocale::ShortFormat));
+    row("percentage", IcuFaults::CreatePercentInstance, {atOnce}, percentage, none);
+    row("percentage, late", IcuFaults::CreatePercentInstance, {late}, percentage, none);
+    row("percentage, null", IcuFaults::CreatePercentInstance, {null}, percentage, none);
+
+#define GENERATOR "icu::DateTimePatternGenerator::createInstance( const icu::Locale &, UErrorCode & )"
+#define BEST_PATTERN "icu::DateTimePatternGenerator::getBestPattern( const icu::UnicodeString &, UErrorCode & )"
+#define DATE_FORMAT                                                                                                    \
+    "icu::SimpleDateFormat::SimpleDateFormat( const icu::UnicodeString &, const icu::Locale &, UErrorCode & )"
+#define FORMAT_DATE "icu::SimpleDateFormat::format( UDate, icu::UnicodeString &, UErrorCode & )"
+#define SKELETON                                                                                                       \
+    "\ndebug: static QString zel::utility::i18n::DatePattern::patternFromSkeleton(const QString&, const QLocale&) "
+#define PATTERN                                                                                                        \
+    "\nwarning: static QString zel::utility::i18n::DatePattern::formatFromPattern(const QString&, const QDateTime&, "  \
+    "const QLocale&) "
+    row("generator", IcuFaults::CreateGenerator, {atOnce}, bestPattern, none,
+        "warning: Error in calling " GENERATOR ": U_MEMORY_ALLOCATION_ERROR" SKELETON
+        "could not instantiate icu::DateTimePatternGenerator");
+    row("generator, late", IcuFaults::CreateGenerator, {late}, bestPattern, none,
+        "warning: Error in calling " GENERATOR ": U_INTERNAL_PROGRAM_ERROR" SKELETON
+        "could not instantiate icu::DateTimePatternGenerator");
+    row("generator, null", IcuFaults::CreateGenerator, {null}, bestPattern, none,
+        "warning: " GENERATOR " returned a NULL pointer without setting an error code!" SKELETON
+        "could not instantiate icu::DateTimePatternGenerator");
+    row("best pattern", IcuFaults::GetBestPattern, {late}, bestPattern, none,
+        "warning: Error in calling " BEST_PATTERN ": U_INTERNAL_PROGRAM_ERROR" SKELETON "could not parse the skeleton");
+    row("date format", IcuFaults::CreateDateFormat, {late}, formatted, none,
+        "warning: Error in calling " DATE_FORMAT ": U_INTERNAL_PROGRAM_ERROR" PATTERN
+        "could not instantiate date formatter");
+    row("formatting", IcuFaults::FormatDate, {late}, formatted, none,
+        "warning: Error in calling " FORMAT_DATE ": U_INTERNAL_PROGRAM_ERROR" PATTERN "failed to format date/time");
+
+#define INIT                                                                                                           \
+    "static icu::ResourceBundle* zel::utility::i18n::ResourceAccessor::initResource(const icu::Locale&, const "        \
+    "QStringList&) "
+#define GET_FAILED                                                                                                     \
+    "warning: Error in calling icu::ResourceBundle::get( const char *, UErrorCode & ) : U_INTERNAL_PROGRAM_ERROR\n"    \
+    "warning: " INIT "failed to access resource key "
+    row("bundle", IcuFaults::OpenBundle, {atOnce}, bundle, none,
+        "critical: " INIT "icu::ResourceBundle::ResourceBundle( const char *, const icu::Locale &, UErrorCode & )\n"
+        "critical: " INIT "failed to open resource bundle for locale de_AT");
+    row("first key", IcuFaults::GetResource, {late}, bundle, none, GET_FAILED "\"units\" in locale de_AT");
+    row("second key", IcuFaults::GetResource, {works, late}, bundle, none,
+        GET_FAILED "\"minute-past\" in locale de_AT");
+
+    // The next locale of the chain has the phrases, too.
+    row("named days", IcuFaults::GetString, {works, late}, today, text("heute"),
+        "warning: Error in calling icu::ResourceBundle::getStringEx( const char *, UErrorCode & ) : "
+        "U_INTERNAL_PROGRAM_ERROR");
+
+#define PLURAL                                                                                                         \
+    "zel::utility::i18n::PluralResourceAccessor::PluralResourceAccessor(const QLocale&, const QStringList&, "          \
+    "QObject*) "
+#define PLURAL_FORMAT "virtual QString zel::utility::i18n::PluralResourceAccessor::format(int) const "
+#define INVALID "\ncritical: " PLURAL_FORMAT "called on an invalid resource"
+#define RULES "icu::PluralRules::forLocale( const icu::Locale &, UErrorCode & )"
+#define NUMBERS "icu::NumberFormat::createInstance( const icu::Locale &, UErrorCode & )"
+#define FAILED(factory, error, consequence)                                                                            \
+    "critical: Error in calling " factory " : " error "\ncritical: " PLURAL consequence INVALID
+#define NOTHING(factory, consequence)                                                                                  \
+    "warning: " factory " returned a NULL pointer without setting an error code!\nwarning: " PLURAL consequence INVALID
+    row("plural rules", IcuFaults::ForLocale, {late}, fiveMinutesAgo, none,
+        FAILED(RULES, "U_INTERNAL_PROGRAM_ERROR", "failed to instantiate plural rules"));
+    row("plural rules, null", IcuFaults::ForLocale, {null}, fiveMinutesAgo, none,
+        NOTHING(RULES, "failed to instantiate plural rules"));
+    row("root numbers", IcuFaults::CreateNumberFormat, {atOnce}, fiveMinutesAgo, none,
+        FAILED(NUMBERS, "U_MEMORY_ALLOCATION_ERROR", "failed to instantiate root number formatting"));
+    row("root numbers, null", IcuFaults::CreateNumberFormat, {null}, fiveMinutesAgo, none,
+        NOTHING(NUMBERS, "failed to instantiate root number formatting"));
+    row("numbers", IcuFaults::CreateNumberFormat, {works, late}, fiveMinutesAgo, none,
+        FAILED(NUMBERS, "U_INTERNAL_PROGRAM_ERROR", "failed to instantiate number formatting"));
+    row("numbers, null", IcuFaults::CreateNumberFormat, {works, null}, fiveMinutesAgo, none,
+        NOTHING(NUMBERS, "failed to instantiate number formatting"));
+#define STRING_FAILED                                                                                                  \
+    "warning: Error in calling icu::ResourceBundle::getStringEx( const char *, UErrorCode & ): "                       \
+    "U_INTERNAL_PROGRAM_ERROR\nwarning: " PLURAL_FORMAT
+    row("keyword entry", IcuFaults::GetString, {late}, fiveMinutesAgo, none,
+        STRING_FAILED "failed to access resource table \"other\"");
+    row("number entry", IcuFaults::GetString, {missing, late}, fiveMinutesAgo, none,
+        STRING_FAILED "failed to access fall-back resource table \"other\"");
+    row("last entry", IcuFaults::GetString, {missing, missing, late}, fiveMinutesAgo, none,
+        STRING_FAILED "failed to access final fall-back resource table \"other\"");
+    row("last entry is there", IcuFaults::GetString, {missing, missing}, fiveMinutesAgo, text("vor 5 Minuten"));
+
+#define OFFSET                                                                                                         \
+    "static int zel::utility::i18n::RelativeDate::offset(const QDateTime&, const QDateTime&, "                         \
+    "zel::utility::i18n::RelativeDateElement::Type) "
+#define DIFFERENCE                                                                                                     \
+    "static int zel::utility::i18n::RelativeDate::difference(const QDateTime&, const QDateTime&, "                     \
+    "zel::utility::i18n::RelativeDateElement::Type, bool) "
+#define CALENDAR "icu::Calendar::createInstance( icu::TimeZone *, UErrorCode & )"
+#define CALENDAR_ROWS(name, call, signature, ...)                                                                      \
+    row(name ", zone", IcuFaults::GetGMT, {null}, call, text("0"),                                                     \
+        "warning: icu::TimeZone::getGMT() returned a NULL pointer!\ndebug: " signature                                 \
+        "failed to set up a time zone");                                                                               \
+    row(name ", zone's clone", IcuFaults::GetGMT, {atOnce}, call, text("0"),                                           \
+        "warning: icu::TimeZone::clone() returned a NULL pointer!\ndebug: " signature "failed to set up a time zone"); \
+    row(name ", calendar", IcuFaults::CreateCalendar, {__VA_ARGS__ atOnce}, call, text("0"),                           \
+        "warning: Error in calling " CALENDAR ": U_MEMORY_ALLOCATION_ERROR\nwarning: " signature                       \
+        "failed to instantiate a calendar");                                                                           \
+    row(name ", calendar, late", IcuFaults::CreateCalendar, {__VA_ARGS__ late}, call, text("0"),                       \
+        "warning: Error in calling " CALENDAR ": U_INTERNAL_PROGRAM_ERROR\nwarning: " signature                        \
+        "failed to instantiate a calendar");                                                                           \
+    row(name ", calendar, null", IcuFaults::CreateCalendar, {__VA_ARGS__ null}, call, text("0"),                       \
+        "warning: " CALENDAR " returned a NULL pointer without setting an error code!\ndebug: " signature              \
+        "failed to instantiate a calendar");                                                                           \
+    row(name ", time", IcuFaults::SetTime, {__VA_ARGS__ late}, call, text("0"),                                        \
+        "warning: Error in calling icu::Calendar::setTime( UDate, UErrorCode & ): "                                    \
+        "U_INTERNAL_PROGRAM_ERROR\nwarning: " signature "failed to set up a calendar")
+    CALENDAR_ROWS("offset", hourOffset, OFFSET, );
+    CALENDAR_ROWS("offset, second", hourOffset, OFFSET, works, );
+    CALENDAR_ROWS("difference", minuteDifference, DIFFERENCE, );
+
+#define UPDATE "\nwarning: void zel::utility::i18n::CustomDateFormatterPrivate::updateFormatter() const "
+#define CUSTOM_FORMAT "QString zel::utility::i18n::CustomDateFormatter::format(const QDateTime&) const "
+#define CUSTOM_ROWS(name, function, icu, consequence)                                                                  \
+    row(name, IcuFaults::function, {late}, custom, none,                                                               \
+        "warning: Error in calling " icu " : U_INTERNAL_PROGRAM_ERROR" UPDATE consequence "\ncritical: " CUSTOM_FORMAT \
+        "called on invalid formatter");                                                                                \
+    row(name ", second build", IcuFaults::function, {works, atOnce}, customAgain, text("5/1/2012"),                    \
+        "warning: Error in calling " icu " : U_MEMORY_ALLOCATION_ERROR" UPDATE consequence)
+    CUSTOM_ROWS("custom, generator", CreateGenerator, GENERATOR, "could not instantiate  the pattern generator");
+    CUSTOM_ROWS("custom, best pattern", GetBestPattern, BEST_PATTERN, "could not parse the skeleton");
+    CUSTOM_ROWS("custom, date format", CreateDateFormat, DATE_FORMAT, "could not instantiate the date format");
+    row("custom, formatting", IcuFaults::FormatDate, {late}, custom, none,
+        "warning: Error in calling " FORMAT_DATE " : U_INTERNAL_PROGRAM_ERROR\nwarning: " CUSTOM_FORMAT
+        "failed to format date/time");
+}
+
+void IcuErrorsTest::failures()
+{
+    QFETCH(IcuFaults::Function, function);
+    QFETCH(QList<int>, fates);
+    QFETCH(Call, call);
+    QFETCH(QString, result);
+    MessageLog log;
+
+    IcuFaults::arm(function, fates);
+    const QString actual = call();
+    QVERIFY(IcuFaults::allTaken(function));
+    QTEST(log.take(), "messages");
+    QCOMPARE(actual, result);
+    QCOMPARE(actual.isNull(), result.isNull());
+}
+
+QTEST_GUILESS_MAIN(IcuErrorsTest)
+#include "tst_icuerrors.moc"
