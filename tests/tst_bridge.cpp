@@ -4,7 +4,6 @@
 #include "bridge/Locale.h"
 #include "bridge/String.h"
 #include "support/MessageLog.h"
-#include "support/SettingsRoot.h"
 #include <QtCore/QDateTime>
 #include <QtTest/QTest>
 
@@ -23,7 +22,6 @@ class BridgeTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
     void textKeepsItsCodeUnits_data();
     void textKeepsItsCodeUnits();
     void missingTextIsNeitherBogusNorEmpty();
@@ -34,17 +32,8 @@ private Q_SLOTS:
     void fallbackWalksToTheBogusEnd_data();
     void fallbackWalksToTheBogusEnd();
     void fallbackOfTheEndIsFatal();
-    void regionFollowsTheDeviceWithoutAnEventLoop();
     void messagesAreTheirItemsEachWithOneSpace();
-
-private:
-    SettingsRoot m_root;
 };
-
-void BridgeTest::init()
-{
-    QVERIFY(m_root.setRegion("en_US"));
-}
 
 void BridgeTest::textKeepsItsCodeUnits_data()
 {
@@ -183,15 +172,6 @@ void BridgeTest::fallbackOfTheEndIsFatal()
                                  " called with bogus locale (crashing to avoid infinite recursion) ][" + signature +
                                  ']'),
              messages.constData());
-}
-
-void BridgeTest::regionFollowsTheDeviceWithoutAnEventLoop()
-{
-    QVERIFY(m_root.setRegion("de_AT"));
-    QCOMPARE(Locale::region(), QLocale(QStringLiteral("de_AT")));
-    QVERIFY(m_root.setRegion("ja_JP"));
-    QCOMPARE(Locale::region(), QLocale(QStringLiteral("ja_JP")));
-    QCOMPARE(Locale::regionForICU().getLanguage(), "ja");
 }
 
 void BridgeTest::messagesAreTheirItemsEachWithOneSpace()

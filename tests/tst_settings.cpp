@@ -1,5 +1,6 @@
 // Device settings: how they are read, followed and reported.
 
+#include "bridge/Locale.h"
 #include "settings/ClockSetting.h"
 #include "settings/PpsManager.h"
 #include "settings/RegionNotifier.h"
@@ -52,6 +53,7 @@ private Q_SLOTS:
     void clockAnswersTwelveOrTwentyFour();
     void manyClocksShareOneReader();
     void timeZoneIsTakenAsItStands();
+    void regionFollowsTheDeviceWithoutAnEventLoop();
     void regionNotifierCallsUntilItDies();
     void enumerationIsReadByName();
 
@@ -217,6 +219,15 @@ void SettingsTest::timeZoneIsTakenAsItStands()
     QVERIFY(m_root.setTimeZone("Nowhere/Atlantis"));
     QVERIFY(changes.wait(2000));
     QCOMPARE(TimeZoneSetting::timeZone(), QStringLiteral("Nowhere/Atlantis"));
+}
+
+void SettingsTest::regionFollowsTheDeviceWithoutAnEventLoop()
+{
+    QVERIFY(m_root.setRegion("de_AT"));
+    QCOMPARE(Locale::region(), QLocale(QStringLiteral("de_AT")));
+    QVERIFY(m_root.setRegion("ja_JP"));
+    QCOMPARE(Locale::region(), QLocale(QStringLiteral("ja_JP")));
+    QCOMPARE(Locale::regionForICU().getLanguage(), "ja");
 }
 
 void SettingsTest::regionNotifierCallsUntilItDies()
