@@ -108,6 +108,7 @@ private Q_SLOTS:
     void watchEndsOnSignal_data();
     void watchEndsOnSignal();
     void throwAwayDeviceLeavesNothing();
+    void galleryShowsBothClocks();
 
 private:
     /** The throw-away devices that exist. */
@@ -208,6 +209,10 @@ void ToolTest::refusals_data()
     row("format|y|--device|region=de_DE,region=fr_FR", 2,
         "region was given more than once; see 'zel-i18n format --help'");
 
+    row("gallery", 2, "no file given with --html or --tsv; see 'zel-i18n gallery --help'");
+    row("gallery|--tsv|x|--device|region=de_DE", 2, "--device makes no difference here; see 'zel-i18n gallery --help'");
+
+    row("gallery|--html|/nowhere/x|--locale|de_DE", 1, "cannot write '/nowhere/x': No such file or directory");
     row("formats|--locale|xx_YY", 1, "unknown locale 'xx_YY'");
     row("formats|--locale|de_XX", 1, "unknown locale 'de_XX'"); // Qt alone would answer with Germany
     row("formats|--locale|zh_Latn_TW", 1, "unknown locale 'zh_Latn_TW'");
@@ -518,6 +523,38 @@ void ToolTest::throwAwayDeviceLeavesNothing()
     QCOMPARE(format.process().exitStatus(), QProcess::CrashExit);
     QCOMPARE(format.process().exitCode(), SIGINT);
     QCOMPARE(devices(), QStringList());
+}
+
+void ToolTest::galleryShowsBothClocks()
+{
+    const SettingsRoot root;
+    QVERIFY(root.setClock("12"));
+    const QString file = m_temporary.filePath(QStringLiteral("gallery"));
+    const QByteArray line = "gallery|--locale|de_DE|--locale|th_TH|--locale|sq_AL|--locale|ar_EG|--html|" +
+                            file.toUtf8() + ".html|--tsv|" + file.toUtf8() + ".tsv";
+    const Result result = run(line.constData());
+    QCOMPARE(result.errors, QString());
+    QCOMPARE(result.output, QStringLiteral("4 locales, 2 of them with a mark\n"));
+    QCOMPARE(devices(), QStringList());
+
+    const QByteArray table = textOf(file + QStringLiteral(".tsv"));
+    for (const char* const row :
+         {"de_DE\t12-hour clock\ttime\tshort\th:mm AP\t10:30 PM\t\n",
+          "de_DE\t24-hour clock\ttime\tshort\thh:mm\t22:30\t\n",
+          "de_DE\t24-hour clock\tcustom\tyMMMMEEEEdhm\tyMMMMEEEEdhm\tMittwoch, 16. Mai 2012 um 22:30\t\n",
+          "de_DE\t24-hour clock\trelative, time-critical\t1 day before\t\tgestern, 10:30\t\n"}) {
+        QVERIFY2(table.contains(row), row);
+    }
+    QVERIFY(table.contains("\tQt's own pattern: ICU's has a field that Qt lacks\n"));
+    QVERIFY(table.contains("has encountered an unsupported time format!\n"));
+    QCOMPARE(table.count('\n'), 1 + 4 * 2 * (12 + 1 + 12 + 9));
+
+    const QByteArray page = textOf(file + QStringLiteral(".html"));
+    QVERIFY(page.contains("<section id=\"ar_EG\" lang=\"ar-EG\" dir=rtl>"));
+    QVERIFY(page.contains("<section id=\"de_DE\" lang=\"de-DE\" dir=ltr>"));
+    QVERIFY(page.contains("<tr class=mark>"));
+    QVERIFY(page.contains("<bdi>1 year before</bdi>")); // otherwise "year before 1" from right to left
+    QVERIFY(page.contains("Qt's own pattern: ICU's has"));
 }
 
 QTEST_GUILESS_MAIN(ToolTest)

@@ -34,6 +34,9 @@ public:
     /** A Failure where a setting cannot be read, so that no answer is given under a setting that nobody chose. */
     static void requireReadable();
 
+    /** The clocks among which a throw-away device can choose; none where the clock is the host's. */
+    static QStringList clocks();
+
     /** Takes settings from another root directory from now on. */
     static void useRoot(const QString& directory);
 

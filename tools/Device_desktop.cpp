@@ -88,6 +88,11 @@ QLocale Device::region()
 
 void Device::requireReadable() {}
 
+QStringList Device::clocks()
+{
+    return {};
+}
+
 void Device::useRoot(const QString& /*directory*/)
 {
     onlyHere = true;

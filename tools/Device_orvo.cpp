@@ -179,6 +179,11 @@ void Device::requireReadable()
     }
 }
 
+QStringList Device::clocks()
+{
+    return {QStringLiteral("12"), QStringLiteral("24")};
+}
+
 void Device::useRoot(const QString& directory)
 {
     qputenv("ZEL_PPS_ROOT", QFile::encodeName(directory));

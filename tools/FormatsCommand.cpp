@@ -3,77 +3,52 @@
 #include "Arguments.h"
 #include "Console.h"
 #include "Device.h"
+#include "Format.h"
 #include "LocaleTitle.h"
 #include "Moment.h"
 #include "Table.h"
-#include <array>
 #include <QtCore/QJsonArray>
-#include <zel/utility/i18n/Formatting.h>
+#include <utility>
 
 namespace zel::tool {
 
 namespace {
 
-using zel::utility::i18n::DateFormat::Type;
-
-struct Kind
+struct Line
 {
-    const char* name;
-    QString (*pattern)(const QLocale& locale, Type length);
-};
-
-struct Length
-{
-    const char* name;
-    Type type;
-};
-
-constexpr std::array<Kind, 3> kinds = {{{"date", &zel::utility::i18n::dateFormat},
-                                        {"time", &zel::utility::i18n::timeFormat},
-                                        {"date-time", &zel::utility::i18n::dateTimeFormat}}};
-
-constexpr std::array<Length, 4> lengths = {
-    {{"short", Type::Short}, {"medium", Type::Medium}, {"long", Type::Long}, {"full", Type::Full}}};
-
-struct Format
-{
-    QString kind;
-    QString length;
+    Format format;
     QString pattern;
     QString text;
 };
 
-QList<Format> formatsOf(const QLocale& locale, const QDateTime& moment)
+QList<Line> linesOf(const QLocale& locale, const QDateTime& moment)
 {
-    QList<Format> formats;
-    for (const Kind& kind : kinds) {
-        for (const Length& length : lengths) {
-            const QString pattern = kind.pattern(locale, length.type);
-            formats.append({QString::fromLatin1(kind.name), QString::fromLatin1(length.name), pattern,
-                            locale.toString(moment, pattern)});
-        }
+    QList<Line> lines;
+    for (const Format& format : Format::all()) {
+        const QString pattern = format.pattern(locale);
+        lines.append({format, pattern, locale.toString(moment, pattern)});
     }
-    return formats;
+    return lines;
 }
 
-void writeTable(const NamedLocale& locale, const QList<Format>& formats, Console& console)
+void writeTable(const NamedLocale& locale, const QList<Line>& lines, Console& console)
 {
     Table table;
-    for (const Format& format : formats) {
-        table.add({format.kind, format.length, format.pattern, format.text});
+    for (const Line& line : lines) {
+        table.add({line.format.kind(), line.format.length(), line.pattern, line.text});
     }
     console.line(locale.name + QLatin1String("  ") + localeTitle(locale.name));
     table.write(console);
 }
 
-void writeJson(const NamedLocale& locale, const QList<Format>& formats, const QDateTime& moment, Console& console)
+void writeJson(const NamedLocale& locale, const QList<Line>& lines, const QDateTime& moment, Console& console)
 {
     QJsonArray entries;
-    for (const Format& format : formats) {
-        entries.append(QJsonObject{{QStringLiteral("kind"), format.kind},
-                                   {QStringLiteral("length"), format.length},
-                                   {QStringLiteral("pattern"), format.pattern},
-                                   {QStringLiteral("text"), format.text}});
+    for (const Line& line : lines) {
+        entries.append(QJsonObject{{QStringLiteral("kind"), line.format.kind()},
+                                   {QStringLiteral("length"), line.format.length()},
+                                   {QStringLiteral("pattern"), line.pattern},
+                                   {QStringLiteral("text"), line.text}});
     }
     console.json({{QStringLiteral("locale"), locale.name},
                   {QStringLiteral("moment"), Moment::write(moment)},
@@ -112,15 +87,15 @@ ExitStatus FormatsCommand::run(const Arguments& arguments, Console& console) con
     Device::requireReadable();
     bool first = true;
     for (const NamedLocale& locale : locales) {
-        const QList<Format> formats = formatsOf(locale.locale, moment);
+        const QList<Line> lines = linesOf(locale.locale, moment);
         if (arguments.json()) {
-            writeJson(locale, formats, moment, console);
+            writeJson(locale, lines, moment, console);
             continue;
         }
         if (!std::exchange(first, false)) {
             console.line({});
         }
-        writeTable(locale, formats, console);
+        writeTable(locale, lines, console);
     }
     return Worked;
 }

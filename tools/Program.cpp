@@ -6,6 +6,7 @@
 #include "DoctorCommand.h"
 #include "FormatCommand.h"
 #include "FormatsCommand.h"
+#include "GalleryCommand.h"
 #include "PercentCommand.h"
 #include "RelativeCommand.h"
 #include "ThrowAwayDevice.h"
@@ -55,6 +56,7 @@ Program::Program()
     m_commands.push_back(std::make_unique<RelativeCommand>());
     m_commands.push_back(std::make_unique<PercentCommand>());
     m_commands.push_back(std::make_unique<WatchCommand>());
+    m_commands.push_back(std::make_unique<GalleryCommand>());
     m_commands.push_back(std::make_unique<DeviceCommand>());
     m_commands.push_back(std::make_unique<DoctorCommand>());
 }
