@@ -414,7 +414,7 @@ void FaultsTest::answersWithIcuDataNamed_data()
     QTest::newRow("another version") << QStringLiteral("another");
 }
 
-// What ICU_DATA names is taken as it is.
+// What ICU_DATA names is taken as it is, unless it is a copy of these bundles that is damaged or of another version.
 void FaultsTest::answersWithIcuDataNamed()
 {
     QFETCH(const QString, directory);

@@ -2,6 +2,7 @@
 
 #include "bridge/Locale.h"
 #include "relative/RelativeDate.h"
+#include "relative/RelativeDatePattern.h"
 #include "resources/NumericResourceAccessor.h"
 #include "resources/PluralResourceAccessor.h"
 #include "resources/ResourceFormatter.h"
@@ -49,6 +50,7 @@ constexpr const char* oddGerman = R"(de {
     numberNotText { 5:int { 5 } }
     otherNotText { other:int { 5 } }
     text { "a string" }
+    calendar { gregorian { fields { day { relative { "-1" { "d\u0027hier" } 0 { "o\u0027\u0027clock" } 1 { "morgen" } } } } } }
     units {
         minute-past { other { "vor {0}" } }
         minute-future { other { "in {0}" } }
@@ -71,6 +73,7 @@ private Q_SLOTS:
     void initTestCase();
     void walksAKeyPath_data();
     void walksAKeyPath();
+    void apostrophesStandAsTheyAre();
     void fixedPhrases_data();
     void fixedPhrases();
     void fixedPhrasesByCount();
@@ -121,6 +124,15 @@ void ResourcesTest::walksAKeyPath()
         ResourceAccessor::initResource(Locale::toICU(QLocale(QStringLiteral("de"))), keys));
     QTEST(bundle ? static_cast<int>(bundle->getType()) : -1, "type");
     QTEST(log.take(), "messages");
+}
+
+void ResourcesTest::apostrophesStandAsTheyAre()
+{
+    const QDateTime anchor(QDate(2012, 5, 16), QTime(12, 0), Qt::UTC);
+    const RelativeDatePattern pattern(QLocale(QStringLiteral("de_DE")), ClockFormat::Use24hourClock, anchor,
+                                      QStringLiteral("E"), {RelativeDateElement::NamedDays}, nullptr);
+    QCOMPARE(pattern.format(anchor.addDays(-1)), QStringLiteral("d'hier"));
+    QCOMPARE(pattern.format(anchor), QStringLiteral("o''clock"));
 }
 
 void ResourcesTest::fixedPhrases_data()

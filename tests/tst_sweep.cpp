@@ -1,5 +1,7 @@
 // Every locale of ICU under both clocks: what must hold whatever the locale data says.
 
+#include "bridge/Locale.h"
+#include "bridge/String.h"
 #include "settings/ClockSetting.h"
 #include "support/MessageLog.h"
 #include "support/SettingsRoot.h"
@@ -11,6 +13,7 @@
 #include <QtCore/QRegularExpression>
 #include <QtTest/QTest>
 #include <unicode/locid.h>
+#include <unicode/reldatefmt.h>
 #include <unicode/uchar.h>
 #include <utility>
 #include <vector>
@@ -100,8 +103,10 @@ private:
     bool setClock(int hours);
     void check(bool holds, const QLocale& locale, const QString& what);
     void checkPattern(const QLocale& locale, const QString& pattern, const QString& qtPattern, bool hasTime);
+    void checkPhrases(const QLocale& locale, const RelativeDateFormatter& formatter);
     void checkRoundTrip(const QLocale& locale, const QString& pattern);
     void finish(const QStringList& messages);
+    void failIfAny();
 
     SettingsRoot m_root;
     bool m_is24Hour = false;
@@ -200,6 +205,22 @@ void SweepTest::customDates()
     finish(log.take());
 }
 
+/** The phrases are those of ICU's own formatter, and stand alone. */
+void SweepTest::checkPhrases(const QLocale& locale, const RelativeDateFormatter& formatter)
+{
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::RelativeDateTimeFormatter phrases(Locale::toICU(locale), status);
+    for (const auto& [unit, seconds] : {std::pair{UDAT_REL_UNIT_MINUTE, 60}, std::pair{UDAT_REL_UNIT_HOUR, 3600}}) {
+        for (const int count : {-6, -1, 1, 5}) {
+            icu::UnicodeString expected;
+            phrases.formatNumeric(count, unit, expected, status);
+            const QString text = formatter.format(moment.addSecs(qint64(count) * seconds));
+            check(U_SUCCESS(status) && text == String::toQt(expected), locale,
+                  text + QStringLiteral(" instead of ") + String::toQt(expected));
+        }
+    }
+}
+
 void SweepTest::relativeDates()
 {
     QFETCH(const int, clock);
@@ -208,13 +229,16 @@ void SweepTest::relativeDates()
     constexpr qint64 minute = 60;
     constexpr qint64 hour = 60 * minute;
     constexpr qint64 day = 24 * hour;
-    constexpr std::array<qint64, 10> distances{0,        59,      minute,  59 * minute, hour,
-                                               6 * hour, 1 * day, 3 * day, 30 * day,    400 * day};
+    constexpr std::array<qint64, 10> distances{364 * day, 59,      minute,  59 * minute, hour,
+                                               6 * hour,  1 * day, 3 * day, 30 * day,    400 * day};
     for (const auto type : {RelativeDateFormat::TimeCritical, RelativeDateFormat::NonTimeCritical}) {
         RelativeDateFormatter formatter(type);
         formatter.setAnchorTime(moment);
         for (const QLocale& locale : m_locales) {
             formatter.setLocale(locale);
+            if (type == RelativeDateFormat::TimeCritical) {
+                checkPhrases(locale, formatter);
+            }
             for (const qint64 distance : distances) {
                 for (const qint64 seconds : {-distance, distance}) {
                     check(!formatter.format(moment.addSecs(seconds)).isEmpty(), locale,
@@ -223,7 +247,8 @@ void SweepTest::relativeDates()
             }
         }
     }
-    finish(log.take());
+    QCOMPARE(log.take(), QStringList());
+    failIfAny();
 }
 
 void SweepTest::finish(const QStringList& messages)
@@ -238,6 +263,11 @@ void SweepTest::finish(const QStringList& messages)
             m_failures.append(message);
         }
     }
+    failIfAny();
+}
+
+void SweepTest::failIfAny()
+{
     const QStringList failures = std::exchange(m_failures, {});
     QVERIFY2(failures.isEmpty(), qPrintable(failures.mid(0, 10).join(QLatin1Char('\n'))));
 }

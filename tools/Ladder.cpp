@@ -51,15 +51,24 @@ QDateTime moved(const QDateTime& anchor, Unit unit, int count)
     return anchor.addSecs(count * qint64(60));
 }
 
+/** A shorter distance where the usual one leaves the day of the anchor, on which hours and minutes are told. */
+Distance fitting(const QDateTime& anchor, const Distance& distance, int sign)
+{
+    const bool leavesDay = moved(anchor, distance.unit, sign * distance.count).date() != anchor.date();
+    return leavesDay && distance.unit >= Unit::Hour ? Distance{distance.unit, 1} : distance;
+}
+
 } // namespace
 
 QList<Rung> Ladder::rungs(int type, const QDateTime& anchor)
 {
     QList<Rung> before;
     QList<Rung> after;
-    for (const Distance& distance : distances(type)) {
-        before.append({name(distance) + QStringLiteral(" before"), moved(anchor, distance.unit, -distance.count)});
-        after.prepend({name(distance) + QStringLiteral(" after"), moved(anchor, distance.unit, distance.count)});
+    for (const Distance& usual : distances(type)) {
+        const Distance earlier = fitting(anchor, usual, -1);
+        const Distance later = fitting(anchor, usual, 1);
+        before.append({name(earlier) + QStringLiteral(" before"), moved(anchor, earlier.unit, -earlier.count)});
+        after.prepend({name(later) + QStringLiteral(" after"), moved(anchor, later.unit, later.count)});
     }
     if (type == RelativeDateFormat::NonTimeCritical) {
         before.append({QStringLiteral("the same day"), anchor});

@@ -58,7 +58,7 @@ constexpr Slot nonTimeCritical[] = {
 struct Ladder
 {
     const Slot* slots;
-    std::size_t count;
+    int count;
 
     const Slot* begin() const { return slots; }
     const Slot* end() const { return slots + count; }
@@ -101,7 +101,7 @@ RelativeDateFormatterPrivate::RelativeDateFormatterPrivate(RelativeDateFormatter
                                                            slot.counting == Counting::Calendar,
                                                            slot.side == Side::AtOrBefore, this));
     }
-    if (ranges.size() < count) {
+    if (static_cast<int>(ranges.size()) < count) {
         Diagnostic::write(QtCriticalMsg, constructorSignature, "not enough ranges!");
     }
     for (const Slot& slot : ladder) {
@@ -112,7 +112,7 @@ RelativeDateFormatterPrivate::RelativeDateFormatterPrivate(RelativeDateFormatter
         patterns.push_back(std::make_unique<RelativeDatePattern>(locale, clockFormat, anchorTime,
                                                                  QString::fromLatin1(slot.skeleton), elements, this));
     }
-    if (patterns.size() < count) {
+    if (static_cast<int>(patterns.size()) < count) {
         Diagnostic::write(QtCriticalMsg, constructorSignature, "not enough patterns!");
     }
 }
@@ -125,7 +125,7 @@ bool RelativeDateFormatterPrivate::setAnchorTime(const QDateTime& newAnchorTime)
         return false;
     }
     anchorTime = newAnchorTime;
-    for (std::size_t slot = 0; slot < count; ++slot) {
+    for (std::size_t slot = 0; slot < ranges.size(); ++slot) {
         ranges[slot]->setAnchorTime(anchorTime);
         patterns[slot]->setAnchorTime(anchorTime);
     }
@@ -165,7 +165,7 @@ QString RelativeDateFormatterPrivate::format(const QDateTime& dateTime) const
     // Day offsets compare days of the year: last November would pass for a later day than this May.
     const bool later = DateTime::wallClock(dateTime) > DateTime::wallClock(anchorTime);
     const Ladder ladder = ladderOf(type);
-    for (std::size_t slot = 0; slot < count; ++slot) {
+    for (std::size_t slot = 0; slot < ranges.size(); ++slot) {
         if (ladder.slots[slot].side == Side::After && !later) {
             continue;
         }

@@ -40,7 +40,7 @@ public:
     QDateTime anchorTime;
     QLocale locale;
     ClockFormat::Type clockFormat = ClockFormat::ApplyUserFormat;
-    std::size_t count = 0;
+    int count = 0;
     std::vector<std::unique_ptr<DateOffsetRange>> ranges;
     std::vector<std::unique_ptr<RelativeDatePattern>> patterns;
 };

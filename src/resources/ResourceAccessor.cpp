@@ -2,6 +2,7 @@
 
 #include "bridge/Diagnostic.h"
 #include <unicode/errorcode.h>
+#include <zel/icu/DataDirectory.h>
 
 namespace zel::utility::i18n {
 
@@ -10,6 +11,10 @@ namespace {
 constexpr const char* signature =
     "static icu::ResourceBundle* zel::utility::i18n::ResourceAccessor::initResource(const "
     "icu::Locale&, const QStringList&)";
+
+// The phrases are in the data of a library that does its work by being loaded. Without a use of it the linker would
+// leave it out.
+[[gnu::used]] constexpr auto phraseData = &zel::icudata::dataDirectory;
 
 } // namespace
 

@@ -73,7 +73,7 @@ public:
     /**
      * The text for a moment.
      *
-     * @param dateTime the moment to tell
+     * @param dateTime the moment to tell; an invalid one reads as 1 January 1970
      * @return the text; a null string, with a message, when the type is invalid or ICU cannot format the moment
      */
     Q_INVOKABLE QString format(const QDateTime& dateTime) const;
@@ -83,7 +83,10 @@ public:
     Q_SIGNAL void changed();
 
 public Q_SLOTS:
-    /** Changes the moment from which distances are counted. */
+    /**
+     * Changes the moment from which distances are counted. The same instant under another time zone is equal, and an
+     * equal anchor changes nothing.
+     */
     void setAnchorTime(const QDateTime& anchorTime);
 
     /** Takes the current time as anchor. */
