@@ -28,11 +28,11 @@ public:
     std::string toFile(std::uint32_t poolChecksum) const;
 
     /**
-     * What is wrong with a directory, or with it for the ICU in use; empty where nothing is.
+     * What is wrong with the directory at a path, or with it for the ICU in use; empty where nothing is.
      *
      * Costs one look at the status of each file. Only the contents of those changed after the list are read.
      */
-    static std::string problemOf(const std::filesystem::path& directory);
+    static std::string problemOf(const std::filesystem::path& path);
 
 private:
     std::size_t m_count = 0;
