@@ -23,6 +23,10 @@ endif()
 
 add_library(zel_warnings INTERFACE)
 target_compile_options(zel_warnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion)
+if(CMAKE_UNITY_BUILD)
+    # What shadows a name of another file shadows nothing.
+    target_compile_options(zel_warnings INTERFACE -Wno-shadow)
+endif()
 if(ZEL_WERROR)
     target_compile_options(zel_warnings INTERFACE -Werror)
 endif()
