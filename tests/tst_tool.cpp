@@ -76,6 +76,13 @@ QByteArray textOf(const QString& file)
     return device.open(QIODevice::ReadOnly) ? device.readAll() : QByteArray("(none)");
 }
 
+void expectRefusal(const char* line, const QString& error)
+{
+    const Result result = run(line);
+    QCOMPARE(result.errors, QStringLiteral("zel-i18n: %1\n").arg(error));
+    QCOMPARE(result.status, 1);
+}
+
 const QString settings = QStringLiteral("/pps/system/settings");
 
 } // namespace
@@ -98,14 +105,12 @@ private Q_SLOTS:
     void columnsStandBelowEachOther();
     void badLinesAreReported();
     void answersLineByLine();
-    void endsQuietlyWhenNobodyReads();
     void deviceRoundTrip();
     void nothingIsWrittenBeforeAllIsChecked();
     void tornObject();
     void rootThatCannotBeRead();
     void doctorFindsWhatIsWrong();
     void watchFollowsTheDevice();
-    void watchEndsOnSignal_data();
     void watchEndsOnSignal();
     void throwAwayDeviceLeavesNothing();
     void galleryShowsBothClocks();
@@ -132,18 +137,15 @@ void ToolTest::answers_data()
     const auto row = [](const char* line, const char* output) {
         QTest::newRow(line) << QByteArray(line) << QString::fromUtf8(output) + QLatin1Char('\n');
     };
-    row("percent|--locale|en_US|0.256", "26%");
     row("percent|--locale|en_US|--max|1|0.256|-0.5", "25.6%\n-50%");
     row("percent|--locale|en_US|--min|2|0.5|-.5", "50.00%\n-50.00%");
     row("percent|--locale|en_US|--min|3|--max|0|0.5", "50%");
-    row("percent|--locale|ar_EG|0.25", "٢٥٪؜");
     row("percent|--device|region=de_DE|12.5", "1.250\u00a0%");
     row("percent|--locale|en_US|--json|0.25", R"({"locale":"en_US","text":"25%","value":0.25})");
 
     row("format|yMMMd|2012-05-16|--device|region=en_US", "May 16, 2012");
     row("format|hm|2012-05-16T22:30:15.5|--device|region=de_DE,hour-format=24", "22:30");
     row("format|hm|2012-05-16 22:30|--device|region=de_DE,hour-format=12", "10:30\u202fPM");
-    row("format|yMMMMd|2012-05-16|--device|region=ja_JP", "2012年5月16日");
     row("format|hm|2012-05-16T10:30+02:00|2012-05-16T10:30Z|--device|hour-format=24,region=en_GB", "10:30\n10:30");
     row("format|hmz|2012-05-16T10:30+02:00|2012-05-16T10:30-0530|--device|"
         "hour-format=24,region=en_GB,time-zone=Europe/London",
@@ -155,9 +157,7 @@ void ToolTest::answers_data()
         "vor 3 Stunden\ngestern, 09:00");
     row("relative|--anchor|2012-05-16T10:30|--locale|de|2012-05-15T09:00|--device|hour-format=12",
         "gestern 9:00\u202fAM");
-    row("relative|--anchor|2012-05-16T10:30|--locale|fr|2012-05-16T10:35", "dans 5 minutes");
     row("relative|--anchor|2012-05-16T10:30|--type|non-time-critical|2012-05-16T07:30|--device|region=zh_TW", "今天");
-    row("relative|--anchor|2012-05-16T10:30|--locale|ar_EG|2012-05-16T07:30", "قبل ٣ ساعات");
     row("relative|--anchor|2012-05-16T10:30|--locale|en|--json|2011-12-31",
         R"({"moment":"2011-12-31T00:00:00","text":"December 2011"})");
 
@@ -192,16 +192,12 @@ void ToolTest::refusals_data()
     row("percent", 2, "no value given; see 'zel-i18n percent --help'");
     row("percent|--min|-1|1", 2, "--min takes a number from 0 to 340, not '-1'; see 'zel-i18n percent --help'");
     row("percent|--locale|de|--locale|fr|1", 2, "--locale was given more than once; see 'zel-i18n percent --help'");
-    row("format", 2, "no skeleton given; see 'zel-i18n format --help'");
     row("format|y|2012-05-16|-", 2,
         "'-' for standard input does not go with other moments; "
         "see 'zel-i18n format --help'");
     row("watch|y|2012-05-16|2012-05-17", 2, "one moment at most, not also '2012-05-17'; see 'zel-i18n watch --help'");
-    row("relative", 2, "no moment given; see 'zel-i18n relative --help'");
     row("relative|--clock|13|2012-05-16", 2,
         "--clock takes 12, 24, locale, user, not '13'; see 'zel-i18n relative --help'");
-    row("relative|--type|x|2012-05-16", 2,
-        "--type takes non-time-critical, time-critical, not 'x'; see 'zel-i18n relative --help'");
     row("device|put", 2, "'put' is neither get, set nor unset; see 'zel-i18n device --help'");
     row("device|set|hour-format", 2, "'hour-format' is not of the form KEY=VALUE; see 'zel-i18n device --help'");
     row("device|unset|clock", 2,
@@ -216,16 +212,14 @@ void ToolTest::refusals_data()
     row("formats|--locale|xx_YY", 1, "unknown locale 'xx_YY'");
     row("formats|--locale|de_XX", 1, "unknown locale 'de_XX'"); // Qt alone would answer with Germany
     row("formats|--locale|zh_Latn_TW", 1, "unknown locale 'zh_Latn_TW'");
-    row("percent|abc", 1, "'abc' is not a number such as 0.256");
     row("percent|nan", 1, "'nan' is not a number such as 0.256");
     row("format|foo!", 1, "'foo!' is not a skeleton such as yMMMd or hm");
-    row("format|y|--device|region=xx", 1, "unknown locale 'xx'");
     row("format|y|--device|hour-format=13", 1, "hour-format is 12 or 24, not '13'");
     row("format|y|--device|time-zone=Mars/Base", 1, "unknown time zone 'Mars/Base'");
     row("device|get|region", 1, "region is not set");
     for (const char* const moment :
          {"2012-02-30", "2012-5-16", "2012-05-16T24:00", "2012-05-16T10:30+15:00", "2012-05-16T10:30Zx", "2012-05-16T",
-          "2012-05-16Z", "0000-01-01", "2012-05-16T10:30:00.", "noon"}) {
+          "2012-05-16Z", "0000-01-01", "2012-05-16T10:30:00."}) {
         row(QByteArray("format|y|2012-05-16|").append(moment).constData(), 1,
             QByteArray("'")
                 .append(moment)
@@ -267,12 +261,8 @@ void ToolTest::json_data()
         QTest::newRow(line) << QByteArray(line) << wordsOf(keys) << lines;
     };
     row("formats|--json|--locale|ja_JP|--locale|he_IL", "formats|locale|moment", 2);
-    row("percent|--json|0.1|0.2", "locale|text|value", 2);
     row("doctor|--json", "advice|status|subject|text", 12);
-    row("format|yMd|--json", "moment|text", 1);
-    row("relative|--json|2012-05-16|2012-05-17", "moment|text", 2);
     row("relative|--table|--json|--locale|pl|--locale|hi", "anchor|distance|locale|moment|text|type", 42);
-    row("device|--json", "hour-format|region|time-zone", 1);
 }
 
 void ToolTest::json()
@@ -344,18 +334,10 @@ void ToolTest::answersLineByLine()
     QCOMPARE(relative.line(), QStringLiteral("5 minutes ago"));
     relative.feed("2012-05-16T13:30\n");
     QCOMPARE(relative.line(), QStringLiteral("in 3 hours"));
-    QCOMPARE(finished(relative.process()).status, 0);
-}
-
-void ToolTest::endsQuietlyWhenNobodyReads()
-{
-    const SettingsRoot root;
-    Running format("format|y|-|--device|region=en_US");
-    format.feed("2012-05-16\n");
-    QCOMPARE(format.line(), QStringLiteral("2012"));
-    format.stopReading();
-    format.feed(QByteArray("2012-05-16\n").repeated(100000));
-    const Result result = finished(format.process());
+    // It ends quietly when nobody reads.
+    relative.stopReading();
+    relative.feed(QByteArray("2012-05-16\n").repeated(100000));
+    const Result result = finished(relative.process());
     QCOMPARE(result.errors, QString());
     QCOMPARE(result.status, 0);
 }
@@ -400,13 +382,9 @@ void ToolTest::tornObject()
     QVERIFY(root.write(settings, "@settings\nringer::loud\nhourFormat:n:twelve\n"));
     const QString reason = root.file(settings) + QStringLiteral(": line 3: not a number");
     for (const char* const line : {"device", "format|hm", "formats|--locale|de", "relative|2012-05-16", "watch|hm"}) {
-        const Result result = run(line);
-        QCOMPARE(result.errors, QStringLiteral("zel-i18n: %1\n").arg(reason));
-        QCOMPARE(result.status, 1);
+        expectRefusal(line, reason);
     }
-    const Result refused = run("device|set|hour-format=24");
-    QCOMPARE(refused.errors, QStringLiteral("zel-i18n: %1; --replace writes it anew\n").arg(reason));
-    QCOMPARE(refused.status, 1);
+    expectRefusal("device|set|hour-format=24", reason + QStringLiteral("; --replace writes it anew"));
     QCOMPARE(run("device|set|--replace|hour-format=24").status, 0);
     QCOMPARE(textOf(root.file(settings)), QByteArray("@settings\nhourFormat:n:24\n"));
 }
@@ -415,13 +393,10 @@ void ToolTest::rootThatCannotBeRead()
 {
     const SettingsRoot root;
     QVERIFY(root.write(QStringLiteral("/file"), "no directory"));
-    qputenv("ZEL_PPS_ROOT", QFile::encodeName(root.file(QStringLiteral("/file"))));
-    const QString error =
-        QStringLiteral("zel-i18n: %1/pps/system/settings: Not a directory\n").arg(root.file(QStringLiteral("/file")));
+    const QString file = root.file(QStringLiteral("/file"));
+    qputenv("ZEL_PPS_ROOT", QFile::encodeName(file));
     for (const char* const line : {"format|hm", "device|get|hour-format", "device|set|--replace|hour-format=24"}) {
-        const Result result = run(line);
-        QCOMPARE(result.errors, error);
-        QCOMPARE(result.status, 1);
+        expectRefusal(line, file + settings + QStringLiteral(": Not a directory"));
     }
     QCOMPARE(run("doctor").status, 1);
     QCOMPARE(run("percent|--locale|en|1").output, QStringLiteral("100%\n")); // needs no settings
@@ -487,24 +462,18 @@ void ToolTest::watchFollowsTheDevice()
     QCOMPARE(result.output, QString());
 }
 
-void ToolTest::watchEndsOnSignal_data()
-{
-    QTest::addColumn<int>("number");
-    QTest::newRow("interrupt") << SIGINT;
-    QTest::newRow("terminate") << SIGTERM;
-}
-
 void ToolTest::watchEndsOnSignal()
 {
-    QFETCH(int, number);
-    Running watch("watch|yMd|--device|region=en_US");
-    QVERIFY(!watch.line().isEmpty());
-    QCOMPARE(devices().size(), 1);
-    watch.signal(number);
-    const Result result = finished(watch.process());
-    QCOMPARE(result.errors, QString());
-    QCOMPARE(result.status, 0);
-    QCOMPARE(devices(), QStringList());
+    for (const int number : {SIGINT, SIGTERM}) {
+        Running watch("watch|yMd|--device|region=en_US");
+        QVERIFY(!watch.line().isEmpty());
+        QCOMPARE(devices().size(), 1);
+        watch.signal(number);
+        const Result result = finished(watch.process());
+        QCOMPARE(result.errors, QString());
+        QCOMPARE(result.status, 0);
+        QCOMPARE(devices(), QStringList());
+    }
 }
 
 void ToolTest::throwAwayDeviceLeavesNothing()
