@@ -310,8 +310,6 @@ private Q_SLOTS:
     void followsWithoutInotify_data();
     void followsWithoutInotify();
     void seesNoTornValue();
-    void answersWithIcuDataNamed_data();
-    void answersWithIcuDataNamed();
     void answersWithIcuDataDamaged_data();
     void answersWithIcuDataDamaged();
 };
@@ -361,25 +359,23 @@ void FaultsTest::followsThroughFault()
 
 void FaultsTest::followsWithoutInotify_data()
 {
-    QTest::addColumn<bool>("instances");
-    QTest::addColumn<bool>("watches");
+    QTest::addColumn<bool>("hasInstances");
     QTest::addColumn<QStringList>("messages");
-    QTest::newRow("no instance left") << false << true << QStringList();
-    QTest::newRow("no watch left") << true << false
+    QTest::newRow("no instance left") << false << QStringList();
+    QTest::newRow("no watch left") << true
                                    << QStringList(QStringLiteral("critical: inotify_add_watch(/) failed: (No space "
                                                                  "left on device)"));
 }
 
 void FaultsTest::followsWithoutInotify()
 {
-    QFETCH(const bool, instances);
-    QFETCH(const bool, watches);
+    QFETCH(const bool, hasInstances);
     QFETCH(const QStringList, messages);
     const SettingsRoot root;
     QVERIFY(root.setClock("12"));
     MessageLog log;
-    noInstances = !instances;
-    noWatches = !watches;
+    noInstances = !hasInstances;
+    noWatches = hasInstances;
     const PpsManager manager("/pps/system/settings", "@settings", "hourFormat", nullptr);
     QTest::qWait(longerThanQuiet);
     QVERIFY(root.setClock("24"));
@@ -404,29 +400,6 @@ void FaultsTest::seesNoTornValue()
     QVERIFY2(reader.seen.size() > kills / 4, qPrintable(QString::number(reader.seen.size())));
     QVERIFY(root.write(path, generation(kills * kills)));
     QTRY_VERIFY(reader.announced > 0);
-}
-
-void FaultsTest::answersWithIcuDataNamed_data()
-{
-    QTest::addColumn<QString>("directory");
-    QTest::newRow("missing") << QStringLiteral("missing");
-    QTest::newRow("empty") << QStringLiteral("empty");
-    QTest::newRow("another version") << QStringLiteral("another");
-}
-
-// What ICU_DATA names is taken as it is, unless it is a copy of these bundles that is damaged or of another version.
-void FaultsTest::answersWithIcuDataNamed()
-{
-    QFETCH(const QString, directory);
-    const QTemporaryDir tree;
-    QDir(tree.path()).mkpath(QStringLiteral("empty"));
-    QDir(tree.path()).mkpath(QStringLiteral("another"));
-    QFile::link(QFile::decodeName(zel::icudata::dataDirectory()) + QLatin1Char('/') + current,
-                tree.filePath(QStringLiteral("another/icudt1l")));
-    const Run run("ICU_DATA", tree.filePath(directory));
-    QVERIFY(run.succeeded);
-    QCOMPARE(run.errors, QString());
-    QCOMPARE(run.lines, withoutPhrases());
 }
 
 void FaultsTest::answersWithIcuDataDamaged_data()
@@ -454,10 +427,8 @@ void FaultsTest::answersWithIcuDataDamaged_data()
         [](const QDir& bundles) { QFile::remove(bundles.filePath(QStringLiteral("ak.res"))); });
     row("bundle cut short", "%1/" U_ICUDATA_NAME ": de.res is missing or damaged",
         [](const QDir& bundles) { change(bundles.filePath(QStringLiteral("de.res")), half); });
-    row("bundle of zeros", "%1/" U_ICUDATA_NAME ": de.res is missing or damaged",
-        [](const QDir& bundles) { change(bundles.filePath(QStringLiteral("de.res")), zeroed); });
-    row("root cut short", "%1/" U_ICUDATA_NAME ": root.res is missing or damaged",
-        [](const QDir& bundles) { change(bundles.filePath(QStringLiteral("root.res")), half); });
+    row("root of zeros", "%1/" U_ICUDATA_NAME ": root.res is missing or damaged",
+        [](const QDir& bundles) { change(bundles.filePath(QStringLiteral("root.res")), zeroed); });
 }
 
 // Beside a copy of the library, and named by ICU_DATA. ICU alone would show English, or read past the end of a bundle.
@@ -481,7 +452,7 @@ void FaultsTest::answersWithIcuDataDamaged()
 
     const Run named("ICU_DATA", data);
     QVERIFY(named.succeeded);
-    QCOMPARE(named.lines.first(), beside.lines.first());
+    QCOMPARE(named.lines, beside.lines);
 }
 
 int main(int argc, char** argv)
