@@ -453,6 +453,9 @@ void FaultsTest::answersWithIcuDataDamaged()
     const Run named("ICU_DATA", data);
     QVERIFY(named.succeeded);
     QCOMPARE(named.lines, beside.lines);
+    // Whoever names a directory without our list means another kind of data, and hears nothing.
+    const QString list = data + QLatin1Char('/') + current + QStringLiteral("/bundles.list");
+    QCOMPARE(named.errors, QFile::exists(list) ? errors : QString());
 }
 
 int main(int argc, char** argv)
