@@ -8,7 +8,6 @@
 #include <QtCore/QDir>
 #include <QtCore/QMap>
 #include <QtCore/QProcess>
-#include <QtCore/QRandomGenerator>
 #include <QtCore/QRegularExpression>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
@@ -347,7 +346,6 @@ private Q_SLOTS:
     void additionsReplaceNothing();
     void damageIsReported_data();
     void damageIsReported();
-    void noDamageIsReadThrough();
     void namedDirectoryIsKept();
     void environmentComesFirst();
 
@@ -560,30 +558,6 @@ void TestIcuData::damageIsReported()
     const auto data = BundleData::fromFile(view(file), error);
     QVERIFY(!data || !ResourceBundleReader::open(*data, &*m_poolReader, error));
     QCOMPARE(QByteArray::fromStdString(error), expected);
-}
-
-// Whatever a bundle has been through: it is refused, or a copy of it can be made and opens again.
-void TestIcuData::noDamageIsReadThrough()
-{
-    QRandomGenerator random(20121);
-    const QByteArray sound = copyOf("en_AU");
-    ResourceTree additions;
-    additions.children["units"].children["minute-past"].children["some"].text = u"{0}";
-    int opened = 0;
-    for (int round = 0; round < 5000; ++round) {
-        QByteArray file = sound;
-        for (int i = 0; i <= round % 3; ++i) {
-            file[random.bounded(32, file.size())] = static_cast<char>(random.generate());
-        }
-        std::string error;
-        const auto copy = withAdditions(file, additions, error);
-        QCOMPARE(error.empty(), copy.has_value());
-        if (copy) {
-            ++opened;
-            QVERIFY(ResourceBundleReader::open(*BundleData::fromFile(*copy, error), &*m_poolReader, error));
-        }
-    }
-    QVERIFY(opened > 100 && opened < 4900);
 }
 
 // Loads a copy of the library from an installed tree of its own.
