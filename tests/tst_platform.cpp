@@ -3,14 +3,11 @@
 #include "support/MessageLog.h"
 #include "support/SettingsRoot.h"
 #include <algorithm>
-#include <array>
-#include <atomic>
 #include <limits>
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QTimer>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
-#include <thread>
 #include <unistd.h>
 #include <zel/PpsObject.h>
 #include <zel/system/LocaleHandler.h>
@@ -110,7 +107,6 @@ private Q_SLOTS:
     void seesChangeWithinOneTick();
     void doesNotReadAgain();
     void tellsChangedRegion();
-    void answersOnManyThreads();
 };
 
 void PlatformTest::decodes_data()
@@ -605,32 +601,6 @@ void PlatformTest::tellsChangedRegion()
     removeDirectory(root, "/pps");
     QTRY_COMPARE(spy.count(), 2);
     QCOMPARE(handler.locale().name(), QStringLiteral("nl_BE"));
-}
-
-void PlatformTest::answersOnManyThreads()
-{
-    const SettingsRoot root;
-    QVERIFY(root.setRegion("de_DE"));
-    std::atomic<bool> done{false};
-    std::atomic<int> strange{0};
-    std::array<std::thread, 4> threads;
-    for (std::thread& thread : threads) {
-        thread = std::thread([&] {
-            while (!done) {
-                const QLocale::Language language = region().language();
-                strange += language != QLocale::German && language != QLocale::French ? 1 : 0;
-            }
-        });
-    }
-    for (int i = 0; i < 300; ++i) {
-        root.setRegion(i % 2 == 0 ? "fr_FR" : "de_DE");
-    }
-    done = true;
-    for (std::thread& thread : threads) {
-        thread.join();
-    }
-    QCOMPARE(strange.load(), 0);
-    QCOMPARE(region().name(), QStringLiteral("de_DE"));
 }
 
 QTEST_GUILESS_MAIN(PlatformTest)
