@@ -73,7 +73,12 @@ Finding examineData()
                                                                        : QStringLiteral("from ICU_DATA");
         return {Finding::Note, subject, used + QLatin1String(", ") + source, {}};
     }
-    return {Finding::Wrong, subject, QStringLiteral("ICU's own; none beside the library for this version of ICU"),
+    if (!ours.isEmpty()) {
+        return {Finding::Wrong, subject,
+                QStringLiteral("ICU's own, as what ICU_DATA names is damaged or made for another"),
+                QStringLiteral("unset ICU_DATA, or mend what it names")};
+    }
+    return {Finding::Wrong, subject, QStringLiteral("ICU's own; ") + QFile::decodeName(icudata::dataDirectoryProblem()),
             QStringLiteral("build or install the library's data anew")};
 }
 
