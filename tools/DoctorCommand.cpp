@@ -95,7 +95,11 @@ Finding examinePhrases()
                 QStringLiteral("no phrases in ICU's data (%1)").arg(QLatin1String(u_errorName(status))),
                 QStringLiteral("unset ICU_DATA, or let it name a directory that has them")};
     }
-    return {Finding::Good, subject, QStringLiteral("phrases in place: ") + QString::fromStdString(text), {}};
+    return {Finding::Good,
+            subject,
+            QStringLiteral("phrases in place: ") +
+                QString::fromStdString(text).replace(QLatin1String("{0}"), QLatin1String("5")),
+            {}};
 }
 
 QString statusText(Finding::Status status)

@@ -1,6 +1,7 @@
 #include "FormatsCommand.h"
 
 #include "Arguments.h"
+#include "Assignments.h"
 #include "Console.h"
 #include "Device.h"
 #include "Format.h"
@@ -8,11 +9,20 @@
 #include "Moment.h"
 #include "Table.h"
 #include <QtCore/QJsonArray>
+#include <QtCore/QTimeZone>
 #include <utility>
 
 namespace zel::tool {
 
 namespace {
+
+/** The current time as a clock in the device's time zone shows it. */
+QDateTime now()
+{
+    const QTimeZone zone(Device::get(Assignments::timeZone()).value_or(QString()).toLatin1());
+    const QDateTime current = QDateTime::currentDateTime();
+    return zone.isValid() ? current.toTimeZone(zone) : current;
+}
 
 struct Line
 {
@@ -82,9 +92,9 @@ ExitStatus FormatsCommand::run(const Arguments& arguments, Console& console) con
         throw Failure::usage(quoted(arguments.positional().first()) +
                              QStringLiteral(" is no option; name a locale with --locale"));
     }
-    const QDateTime moment = arguments.moment(QStringLiteral("at"), QDateTime::currentDateTime());
     const QList<NamedLocale> locales = arguments.locales();
     Device::requireReadable();
+    const QDateTime moment = arguments.moment(QStringLiteral("at"), now());
     bool first = true;
     for (const NamedLocale& locale : locales) {
         const QList<Line> lines = linesOf(locale.locale, moment);

@@ -17,10 +17,14 @@ namespace zel::utility::i18n {
 
 namespace {
 
-/** Reports a failed ICU call and what could not be done for it. */
+/** Reports a failed ICU call, or one that returned nothing, and what could not be done for it. */
 void reportFailure(const char* call, const icu::ErrorCode& status, const char* signature, const char* consequence)
 {
-    Diagnostic::write(QtWarningMsg, "Error in calling", call, ":", status.errorName());
+    if (status.isFailure()) {
+        Diagnostic::write(QtWarningMsg, "Error in calling", call, ":", status.errorName());
+    } else {
+        Diagnostic::write(QtWarningMsg, call, "returned a NULL pointer without setting an error code!");
+    }
     Diagnostic::write(QtWarningMsg, signature, consequence);
 }
 
@@ -104,7 +108,7 @@ void CustomDateFormatterPrivate::updateFormatter() const
         return;
     }
     auto created = std::make_unique<icu::SimpleDateFormat>(pattern, icuLocale, status);
-    if (status.isFailure() || !created) {
+    if (status.isFailure()) {
         reportFailure("icu::SimpleDateFormat::SimpleDateFormat( const icu::UnicodeString &, const icu::Locale &, "
                       "UErrorCode & )",
                       status, signature, "could not instantiate the date format");

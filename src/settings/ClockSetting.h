@@ -21,6 +21,7 @@ class ClockSetting : public QObject
     Q_DISABLE_COPY_MOVE(ClockSetting)
 
 public:
+    /** One made while the reader is being created, by a message handler that is called then, hears of no change. */
     explicit ClockSetting(QObject* parent);
     ~ClockSetting() override = default;
 

@@ -21,6 +21,7 @@ class TimeZoneSetting : public QObject
     Q_DISABLE_COPY_MOVE(TimeZoneSetting)
 
 public:
+    /** One made while the reader is being created, by a message handler that is called then, hears of no change. */
     explicit TimeZoneSetting(QObject* parent);
     ~TimeZoneSetting() override = default;
 
