@@ -396,6 +396,8 @@ void DesktopTest::tellsOfLocaleChanges()
         QCoreApplication::sendEvent(QCoreApplication::instance(), &change);
         QVERIFY(receiver.isActive());
         receiver.stop();
+        QCoreApplication::sendEvent(this, &change);
+        QVERIFY(!receiver.isActive());
     }
     QCoreApplication::sendEvent(QCoreApplication::instance(), &change);
     QVERIFY(!receiver.isActive());

@@ -22,6 +22,10 @@ void LocaleChangeFilter::call(QObject* receiver, const char* member, QObject* ow
 void LocaleChangeFilter::start()
 {
     QCoreApplication* const application = QCoreApplication::instance();
+    if (application == nullptr) {
+        deleteLater();
+        return;
+    }
     application->installEventFilter(this);
     setParent(application);
 }
@@ -33,9 +37,10 @@ void LocaleChangeFilter::stop()
     deleteLater();
 }
 
+// The application shows its filters the events of all objects of its thread.
 bool LocaleChangeFilter::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::LocaleChange) {
+    if (watched == parent() && event->type() == QEvent::LocaleChange) {
         Q_EMIT changed();
     }
     return QObject::eventFilter(watched, event);
