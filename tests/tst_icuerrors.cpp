@@ -293,6 +293,9 @@ void IcuErrorsTest::failures_data()
     row(name ", second build", IcuFaults::function, {works, atOnce}, customAgain, text("5/1/2012"),                    \
         "warning: Error in calling " icu " : U_MEMORY_ALLOCATION_ERROR" UPDATE consequence)
     CUSTOM_ROWS("custom, generator", CreateGenerator, GENERATOR, "could not instantiate  the pattern generator");
+    row("custom, generator, null", IcuFaults::CreateGenerator, {works, null}, customAgain, text("5/1/2012"),
+        "warning: " GENERATOR " returned a NULL pointer without setting an error code!" UPDATE
+        "could not instantiate  the pattern generator");
     CUSTOM_ROWS("custom, best pattern", GetBestPattern, BEST_PATTERN, "could not parse the skeleton");
     CUSTOM_ROWS("custom, date format", CreateDateFormat, DATE_FORMAT, "could not instantiate the date format");
     row("custom, formatting", IcuFaults::FormatDate, {late}, custom, none,
