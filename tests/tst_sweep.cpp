@@ -46,7 +46,7 @@ std::vector<QLocale> locales()
 {
     int32_t count = 0;
     const icu::Locale* const names = icu::Locale::getAvailableLocales(count);
-    // A sanitizer slows everything down so much that every seventh has to do.
+    // Where everything is slow, or done for the second time, every seventh has to do.
     const int step = qEnvironmentVariableIsSet("ZEL_SWEEP_SAMPLE") ? 7 : 1;
     std::vector<QLocale> all;
     for (int i = 0; i < count; i += step) {
@@ -157,8 +157,9 @@ void SweepTest::checkPattern(const QLocale& locale, const QString& pattern, cons
 /** What is written with a pattern of year, month and day is read again as the same date. */
 void SweepTest::checkRoundTrip(const QLocale& locale, const QString& pattern)
 {
-    // Qt writes digits beyond the BMP (Chakma, Adlam), but does not read them.
-    if (locale.toString(0).size() > 1) {
+    // Qt 5 reads ASCII digits only, and Qt 6 none beyond the BMP (Chakma, Adlam).
+    const QString plain = QStringLiteral("yyyy-MM-dd");
+    if (locale.toDate(locale.toString(moment.date(), plain), plain) != moment.date()) {
         return;
     }
     check(locale.toDate(locale.toString(moment.date(), pattern), pattern) == moment.date(), locale,
