@@ -1,5 +1,6 @@
 #include "PpsContents.h"
 
+#include "PpsCodec.h"
 #include <cerrno>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
@@ -20,27 +21,35 @@ QString errorText(int error)
 
 PpsContents PpsContents::read(const QString& file)
 {
-    struct stat status = {};
-    if (::stat(QFile::encodeName(file).constData(), &status) != 0) {
-        const int error = errno;
-        return {{}, errorText(error), error != ENOENT};
+    const FileStamp stamp(QFile::encodeName(file).constData());
+    if (stamp.error() != 0) {
+        return {{}, errorText(stamp.error()), !stamp.isMissing(), stamp};
     }
     // Opening anything else could wait for ever.
-    if (!S_ISREG(status.st_mode)) {
-        return {{}, S_ISDIR(status.st_mode) ? errorText(EISDIR) : QStringLiteral("Not a regular file"), true};
+    if (!S_ISREG(stamp.mode())) {
+        return {{}, S_ISDIR(stamp.mode()) ? errorText(EISDIR) : QStringLiteral("Not a regular file"), true, stamp};
     }
     QFile device(file);
     if (!device.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
-        return {{}, device.errorString(), QFileInfo::exists(file)};
+        return {{}, device.errorString(), QFileInfo::exists(file), stamp};
     }
     const QByteArray bytes = device.read(PpsObject::maximumSize + 1);
     if (device.error() != QFileDevice::NoError) {
-        return {{}, device.errorString(), false};
+        return {{}, device.errorString(), false, stamp};
     }
     if (bytes.size() > PpsObject::maximumSize) {
-        return {{}, QStringLiteral("larger than %1 bytes").arg(PpsObject::maximumSize), false};
+        return {{}, QStringLiteral("larger than %1 bytes").arg(PpsObject::maximumSize), false, stamp};
     }
-    return {bytes, {}, false};
+    return {bytes, {}, false, stamp};
+}
+
+bool PpsContents::isWhole() const
+{
+    QString fault = error;
+    if (fault.isEmpty()) {
+        PpsCodec::decode(bytes, fault);
+    }
+    return fault.isEmpty();
 }
 
 } // namespace zel

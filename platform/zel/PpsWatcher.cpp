@@ -57,7 +57,8 @@ void PpsWatcher::look()
     if (first) {
         m_row.start();
     }
-    if (first || (m_contents != previous && !m_row.hasExpired(longestRow))) {
+    const bool quiet = !first && m_contents == previous && m_contents.stamp == previous.stamp;
+    if (!quiet && !(m_row.hasExpired(longestRow) && m_contents.isWhole())) {
         // Not a member timer: one that is still active could not be destroyed on another thread, as at process exit.
         QTimer::singleShot(lookInterval, this, SLOT(look()));
         return;

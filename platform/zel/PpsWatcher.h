@@ -14,7 +14,7 @@ namespace zel {
  * Follows an object's file, whatever is done to it and to the directories above it.
  *
  * A file that is rewritten in place is empty for a moment. So the first sign of a change starts a row of looks; it ends
- * when two looks in a row find the same, or after a while where the changes never cease.
+ * when nothing was done to the file between two looks, or with a whole object after a while where changes never cease.
  *
  * Everything starts with the first turn of the thread's event loop. Until then nothing is watched, so that neither
  * a thread without an event loop nor an application object that is created later is a reason for a warning.

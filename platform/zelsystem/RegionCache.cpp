@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <memory>
 #include <QtCore/QVariantMap>
+#include <utility>
 #include <zel/PpsObject.h>
 
 namespace zel::system {
@@ -86,10 +87,11 @@ RegionCache::Answer RegionCache::answer()
         m_root = root;
         m_file = m_root + objectPath;
         m_stamp = FileStamp();
+        m_set = false;
     }
     const FileStamp stamp(m_file.constData());
     QString complaint;
-    if (m_racy || !(stamp == m_stamp) || (!m_posix.isEmpty() && m_posix != posixLocaleName())) {
+    if (m_racy || !(stamp == m_stamp) || (!m_set && m_posix != posixLocaleName())) {
         m_stamp = stamp;
         m_racy = stamp.isFresh();
         complaint = update();
@@ -101,11 +103,15 @@ RegionCache::Answer RegionCache::answer()
 QString RegionCache::update()
 {
     Region region = m_stamp.isMissing() ? Region() : readRegion();
+    if (m_set && !region.fault.isEmpty()) {
+        return complaintOf(region.fault, region.contents);
+    }
+    m_set = false;
     if (region.value.isValid()) {
         const QString name = region.value.toString();
         if (const auto locale = LocaleName::find(name)) {
             m_locale = *locale;
-            m_posix.clear();
+            m_set = true;
             m_reported.clear();
             return {};
         }
@@ -113,10 +119,14 @@ QString RegionCache::update()
     }
     m_posix = posixLocaleName();
     m_locale = LocaleName::closest(QString::fromLocal8Bit(m_posix));
-    const QByteArray report = region.fault.toUtf8() + region.contents;
-    const bool news = !region.fault.isEmpty() && report != m_reported;
-    m_reported = region.fault.isEmpty() ? QByteArray() : report;
-    return news ? region.fault + QLatin1String("; using the locale ") + m_locale.name() : QString();
+    return complaintOf(region.fault, region.contents);
+}
+
+QString RegionCache::complaintOf(const QString& fault, const QByteArray& contents)
+{
+    const QByteArray report = fault.isEmpty() ? QByteArray() : fault.toUtf8() + contents;
+    const bool news = report != std::exchange(m_reported, report);
+    return news && !fault.isEmpty() ? fault + QLatin1String("; using the locale ") + m_locale.name() : QString();
 }
 
 } // namespace zel::system

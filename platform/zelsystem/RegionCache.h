@@ -11,7 +11,8 @@ namespace zel::system {
 
 /**
  * The region and what it was made from. The settings object is parsed again only when its file's status or the
- * environment has changed, and each bad content of it is reported once. Any thread may ask.
+ * environment has changed, and each bad content of it is reported once. An object that is torn, as while it is
+ * rewritten in place, takes nothing from the region that it gave before. Any thread may ask.
  */
 class RegionCache
 {
@@ -30,11 +31,13 @@ private:
 
     Answer answer();
     QString update();
+    QString complaintOf(const QString& fault, const QByteArray& contents);
 
     std::mutex m_mutex;
     QByteArray m_root;
     QByteArray m_file;
-    QByteArray m_posix; // the name that stands in for the region; empty where that is set
+    bool m_set = false; // the locale is the region that the object gave
+    QByteArray m_posix; // the name that stands in where it gave none
     FileStamp m_stamp;
     bool m_racy = false; // the stamp was taken too soon after a change to show a further one
     QLocale m_locale = QLocale::c();

@@ -20,7 +20,8 @@ enum Type : int {
  *
  * The region is the attribute `region` of the settings object `/pps/system/locale`, as a BCP 47 or POSIX name. Where
  * that is not set, it is the process's POSIX locale for times: the first of `LC_ALL`, `LC_TIME` and `LANG` that is not
- * empty. A region that is not a locale is reported with one warning and answered like one that is not set.
+ * empty. A region that is not a locale is reported with one warning and answered like one that is not set;
+ * an object that cannot be read is reported as well, and the region that it gave before stays.
  *
  * Made to be constructed anew for every question: that and locale() together cost one look at a file's status and
  * little else.

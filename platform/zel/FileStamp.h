@@ -1,12 +1,12 @@
-#ifndef ZEL_SYSTEM_FILESTAMP_H
-#define ZEL_SYSTEM_FILESTAMP_H
+#ifndef ZEL_FILESTAMP_H
+#define ZEL_FILESTAMP_H
 
 #include <cerrno>
 #include <cstdlib>
 #include <ctime>
 #include <sys/stat.h>
 
-namespace zel::system {
+namespace zel {
 
 /** By which a file is known to be the same with the same contents, at the price of one look at its status. */
 class FileStamp
@@ -16,7 +16,10 @@ public:
     FileStamp() = default;
     explicit FileStamp(const char* file) : m_error(::stat(file, &m_status) == 0 ? 0 : errno) {}
 
+    /** Why there is no status, as an errno; 0 where there is one. */
+    int error() const { return m_error; }
     bool isMissing() const { return m_error == ENOENT; }
+    mode_t mode() const { return m_status.st_mode; }
 
     bool operator==(const FileStamp& other) const
     {
@@ -48,6 +51,6 @@ private:
     int m_error = -1;
 };
 
-} // namespace zel::system
+} // namespace zel
 
 #endif
