@@ -150,6 +150,7 @@ void ToolTest::answers_data()
     row("format|hmz|2012-05-16T10:30+02:00|2012-05-16T10:30-0530|--device|"
         "hour-format=24,region=en_GB,time-zone=Europe/London",
         "09:30 BST\n17:00 BST");
+    row("format|hmz|2012-05-16T10:30|--device|hour-format=24,region=en_GB,time-zone=Asia/Tokyo", "10:30 GMT+9");
     row("format|Hm|2012-05-16T10:30|--json|--device|hour-format=24,region=en_GB",
         R"({"moment":"2012-05-16T10:30:00","text":"10:30"})");
 
@@ -384,6 +385,7 @@ void ToolTest::tornObject()
     for (const char* const line : {"device", "format|hm", "formats|--locale|de", "relative|2012-05-16", "watch|hm"}) {
         expectRefusal(line, reason);
     }
+    QCOMPARE(run("percent|1").status, 0); // asks for the region only
     expectRefusal("device|set|hour-format=24", reason + QStringLiteral("; --replace writes it anew"));
     QCOMPARE(run("device|set|--replace|hour-format=24").status, 0);
     QCOMPARE(textOf(root.file(settings)), QByteArray("@settings\nhourFormat:n:24\n"));

@@ -1,5 +1,6 @@
 #include "Arguments.h"
 
+#include "Assignments.h"
 #include "Device.h"
 #include "Failure.h"
 #include "LocaleName.h"
@@ -114,7 +115,7 @@ QList<NamedLocale> Arguments::locales() const
         locales.append(namedLocale(name));
     }
     if (locales.isEmpty()) {
-        Device::requireReadable();
+        Device::get(Assignments::region()); // refuses one that cannot be read
         const QLocale region = Device::region();
         locales.append({region.name(), region});
     }

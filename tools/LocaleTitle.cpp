@@ -12,7 +12,7 @@ QString localeTitle(const QString& name)
         return QStringLiteral("no locale, as in English");
     }
     icu::UnicodeString title;
-    icu::Locale(name.toLatin1().constData()).getDisplayName(icu::Locale::getEnglish(), title);
+    icu::Locale::createCanonical(name.toLatin1().constData()).getDisplayName(icu::Locale::getEnglish(), title);
     std::string text;
     return QString::fromStdString(title.toUTF8String(text));
 }

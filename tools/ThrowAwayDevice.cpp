@@ -15,6 +15,10 @@ ThrowAwayDevice::ThrowAwayDevice(const QString& settings)
     }
     Device::useRoot(m_root.path());
     Device::set(values, false);
+    const QString zone = values.value(Assignments::timeZone());
+    if (!zone.isEmpty()) {
+        qputenv("TZ", zone.toUtf8()); // moments without a zone are the device's, too
+    }
 }
 
 } // namespace zel::tool
