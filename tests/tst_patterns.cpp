@@ -185,6 +185,9 @@ void PatternsTest::timesFollowTheClock_data()
     row("zh_TW", DateFormat::Medium, false, "APh:mm:ss", "hh:mm:ss");
     row("ko_KR", DateFormat::Medium, false, "AP h:mm:ss", "hh:mm:ss");
     row("sq_AL", DateFormat::Medium, false, "h:mm:ss ap", "hh:mm:ss", true);
+    // With an era in its date the text is Qt's own, which knows no clock.
+    const QByteArray thai = QLocale(QStringLiteral("th_TH")).dateTimeFormat(QLocale::LongFormat).toUtf8();
+    row("th_TH", DateFormat::Long, true, thai.constData(), thai.constData());
     row("fr_CA", DateFormat::Medium, false, "h 'h' mm 'min' ss ap 's'", "hh 'h' mm 'min' ss 's'");
     row("fr_CA", DateFormat::Full, false, "h 'h' mm 'min' ss 's' ap t", "hh 'h' mm 'min' ss 's' t");
 }

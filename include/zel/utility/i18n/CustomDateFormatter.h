@@ -15,8 +15,8 @@ class CustomDateFormatterPrivate;
  * Formats moments by an ICU skeleton and follows the device while it lives.
  *
  * A skeleton names the fields to show, in any order and without punctuation: "yMMMd" is year, abbreviated month and
- * day; "hm" is hour and minute. The text is that of the user's region locale in the Gregorian calendar. Three settings
- * of the device shape it:
+ * day; "hm" is hour and minute. The text is that of the user's region locale in the Gregorian calendar; days before
+ * 15 October 1582 are those of the Julian calendar. Three settings of the device shape it:
  *
  * - the clock: in a skeleton with hours, "h" and "H" become the letter of the device's 12-hour or 24-hour clock. A
  *   change arrives through the event loop of the thread that created the formatter;
