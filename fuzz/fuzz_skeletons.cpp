@@ -2,16 +2,15 @@
 // has a text to show, and one that is not has none.
 
 #include "Require.h"
+#include "support/SettingsRoot.h"
 
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <fuzzer/FuzzedDataProvider.h>
 #include <QtCore/QDateTime>
-#include <QtCore/QDir>
-#include <QtCore/QFile>
-#include <QtCore/QTemporaryDir>
 #include <string>
+#include <utility>
 #include <zel/utility/i18n/CustomDateFormatter.h>
 
 using zel::utility::i18n::CustomDateFormatter;
@@ -19,37 +18,6 @@ using zel::utility::i18n::CustomDateFormatter;
 namespace {
 
 constexpr std::array<const char*, 8> regions{"en_US", "de_DE", "fr_CA", "ja_JP", "zh_TW", "ar_EG", "th_TH", "fa_IR"};
-
-/** The settings root of the process: a clock of 24 hours, and a region that changes from one input to the next. */
-class Settings
-{
-public:
-    Settings()
-    {
-        qputenv("ZEL_PPS_ROOT", QFile::encodeName(m_root.path()));
-        ZEL_REQUIRE(QDir().mkpath(m_root.path() + QLatin1String("/pps/system")));
-        write("settings", "hourFormat:n:24");
-    }
-
-    void setRegion(const char* region)
-    {
-        if (region != m_region) {
-            m_region = region;
-            write("locale", QByteArray("region::") + region);
-        }
-    }
-
-private:
-    void write(const char* name, const QByteArray& attribute) const
-    {
-        QFile file(m_root.path() + QLatin1String("/pps/system/") + QLatin1String(name));
-        ZEL_REQUIRE(file.open(QIODevice::WriteOnly) &&
-                    file.write('@' + QByteArray(name) + '\n' + attribute + '\n') > 0);
-    }
-
-    QTemporaryDir m_root;
-    const char* m_region = nullptr;
-};
 
 // ICU itself is not instrumented and gives the fuzzer no hints, so bytes are made letters and runs of letters here.
 QString skeletonOf(const std::string& bytes)
@@ -81,9 +49,13 @@ extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    static Settings settings;
+    static const SettingsRoot settings;
+    [[maybe_unused]] static const bool is24Hour = settings.setClock("24");
+    static const char* region = nullptr;
     FuzzedDataProvider input(data, size);
-    settings.setRegion(input.PickValueInArray(regions));
+    if (const char* const next = input.PickValueInArray(regions); std::exchange(region, next) != next) {
+        ZEL_REQUIRE(settings.setRegion(next));
+    }
     const QDateTime moment = QDateTime::fromMSecsSinceEpoch(input.ConsumeIntegral<std::int64_t>(), Qt::UTC);
     const QString first = skeletonOf(input.ConsumeRandomLengthString());
     const QString second = skeletonOf(input.ConsumeRemainingBytesAsString());

@@ -134,6 +134,7 @@ void FormattersTest::skeletons_data()
     row("ar_EG", 24, "yMd", "١٦\u200F/٥\u200F/٢٠١٢");
     row("th_TH", 24, "yMMMM", "พฤษภาคม 2012");
     row("fa_IR", 24, "yMMMM", "مهٔ ۲۰۱۲");
+    row("sr_Latn_RS", 24, "yMMMMd", "16. maj 2012.");
     row("en_US", 12, "", "");
 }
 

@@ -1,7 +1,6 @@
-// Patterns: ICU's in Qt syntax, under the clock of the device, and made of skeletons. Expectations hold for ICU 72.
+// Patterns: ICU's in Qt syntax, and under the clock of the device. Expectations hold for ICU 72.
 
 #include "patterns/ClockPattern.h"
-#include "patterns/DatePattern.h"
 #include "patterns/FormattingPrivate.h"
 #include "settings/ClockSetting.h"
 #include "support/MessageLog.h"
@@ -28,8 +27,6 @@ private Q_SLOTS:
     void regionIsTheDefault();
     void clockRewritesSkeletons_data();
     void clockRewritesSkeletons();
-    void skeletonsGiveTexts_data();
-    void skeletonsGiveTexts();
 
 private:
     bool setClock(int hours);
@@ -256,45 +253,6 @@ void PatternsTest::clockRewritesSkeletons()
                                     .arg(format)};
     QCOMPARE(log.take(), rewritten.isNull() ? complaint : QStringList());
     QCOMPARE(ClockPattern::isNotApplicable(skeleton), skeleton == QLatin1String("yMMMd"));
-}
-
-void PatternsTest::skeletonsGiveTexts_data()
-{
-    QTest::addColumn<QString>("locale");
-    QTest::addColumn<QString>("skeleton");
-    QTest::addColumn<QString>("pattern");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("English date") << "en_US"
-                                  << "yMMMd"
-                                  << "MMM d, y"
-                                  << "May 1, 2012";
-    QTest::newRow("German time") << "de_DE"
-                                 << "Hmm"
-                                 << "HH:mm"
-                                 << "10:00";
-    QTest::newRow("German date") << "de_DE"
-                                 << "yMMMMd"
-                                 << "d. MMMM y"
-                                 << "1. Mai 2012";
-    QTest::newRow("zone is GMT") << "en_US"
-                                 << "Hmmz"
-                                 << "HH:mm z"
-                                 << "10:00 GMT";
-    QTest::newRow("Gregorian in Persian") << "fa_IR"
-                                          << "y"
-                                          << "y" << QString::fromUtf8("۲۰۱۲");
-}
-
-void PatternsTest::skeletonsGiveTexts()
-{
-    QFETCH(QString, locale);
-    QFETCH(QString, skeleton);
-    const QString pattern = DatePattern::patternFromSkeleton(skeleton, QLocale(locale));
-    QTEST(pattern, "pattern");
-    for (const Qt::TimeSpec spec : {Qt::LocalTime, Qt::UTC}) {
-        const QDateTime dateTime(QDate(2012, 5, 1), QTime(10, 0), spec);
-        QTEST(DatePattern::formatFromPattern(pattern, dateTime, QLocale(locale)), "text");
-    }
 }
 
 QTEST_GUILESS_MAIN(PatternsTest)

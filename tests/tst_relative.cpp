@@ -47,8 +47,6 @@ class RelativeTest : public QObject
 
 private Q_SLOTS:
     void initTestCase();
-    void elementsAreDescribed_data();
-    void elementsAreDescribed();
     void invalidElementsAreReported();
     void phrasesReplaceLetters_data();
     void phrasesReplaceLetters();
@@ -69,36 +67,6 @@ private:
 void RelativeTest::initTestCase()
 {
     QVERIFY(m_root.setClock("24"));
-}
-
-void RelativeTest::elementsAreDescribed_data()
-{
-    QTest::addColumn<int>("element");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<bool>("absolute");
-    QTest::addColumn<QString>("letters");
-    QTest::addColumn<QStringList>("past");
-    QTest::addColumn<QStringList>("future");
-    const QStringList days{"calendar", "gregorian", "fields", "day", "relative"};
-    QTest::newRow("minutes") << 16 << "Minutes" << false << "m" << QStringList{"units", "minute-past"}
-                             << QStringList{"units", "minute-future"};
-    QTest::newRow("hours") << 32 << "Hours" << false << "hHkK" << QStringList{"units", "hour-past"}
-                           << QStringList{"units", "hour-future"};
-    QTest::newRow("days") << 128 << "Named Days" << true << "eEc" << days << days;
-    QTest::newRow("years") << 2048 << "Years" << false << "yY" << QStringList{"units", "year-past"}
-                           << QStringList{"units", "year-future"};
-}
-
-void RelativeTest::elementsAreDescribed()
-{
-    QFETCH(int, element);
-    const auto type = static_cast<RelativeDateElement::Type>(element);
-    QTEST(RelativeDate::elementName(type), "name");
-    QTEST(RelativeDate::offsetIsAbsolute(type), "absolute");
-    QTEST(RelativeDate::characters(type), "letters");
-    QTEST(RelativeDate::resourcePath(type, true), "past");
-    QTEST(RelativeDate::resourcePath(type, false), "future");
-    QCOMPARE(RelativeDate::resourceIsPlural(type), type != RelativeDateElement::NamedDays);
 }
 
 void RelativeTest::invalidElementsAreReported()
@@ -294,9 +262,6 @@ void RelativeTest::patterns_data()
     row("en", "yMMMM", {}, "2011-05-18T12:00:00", "May 2011");
     row("en", "Ejm", {128}, "2012-05-15T10:30:00", "yesterday 10:30");
     row("de", "H", {32}, "2012-05-16T09:00:00", "vor 3 Stunden");
-    row("fr", "H", {32}, "2012-05-16T15:00:00", "dans 3 heures");
-    row("ja", "H", {32}, "2012-05-16T09:00:00", "3 時間前");
-    row("ar", "H", {32}, "2012-05-16T09:00:00", "قبل ٣ ساعات");
     row("uk", "E", {128}, "2012-05-15T09:00:00", "учора");
     row("fr", "m", {16}, "2012-05-16T11:55:00", "il y a 5 minutes");
     row("fr", "E", {128}, "2012-05-16T09:00:00", "aujourd’hui");
