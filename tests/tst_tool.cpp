@@ -217,6 +217,7 @@ void ToolTest::refusals_data()
     row("format|foo!", 1, "'foo!' is not a skeleton such as yMMMd or hm");
     row("format|y|--device|hour-format=13", 1, "hour-format is 12 or 24, not '13'");
     row("format|y|--device|time-zone=Mars/Base", 1, "unknown time zone 'Mars/Base'");
+    row("gallery|--tsv|-", 2, "--tsv takes the name of a file, not '-'; see 'zel-i18n gallery --help'");
     row("device|get|region", 1, "region is not set");
     for (const char* const moment :
          {"2012-02-30", "2012-5-16", "2012-05-16T24:00", "2012-05-16T10:30+15:00", "2012-05-16T10:30Zx", "2012-05-16T",
@@ -519,6 +520,9 @@ void ToolTest::galleryShowsBothClocks()
     QVERIFY(table.contains("\tQt's own pattern: ICU's has a field that Qt lacks\n"));
     QVERIFY(table.contains("has encountered an unsupported time format!\n"));
     QCOMPARE(table.count('\n'), 1 + 4 * 2 * (12 + 1 + 12 + 9));
+
+    const QString piped = run("gallery|--locale|de_DE|--tsv|/dev/stdout").output;
+    QVERIFY2(piped.startsWith(QLatin1String("locale\tclock\t")), qPrintable(piped));
 
     const QByteArray page = textOf(file + QStringLiteral(".html"));
     QVERIFY(page.contains("<section id=\"ar_EG\" lang=\"ar-EG\" dir=rtl>"));

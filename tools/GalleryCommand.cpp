@@ -13,6 +13,8 @@
 #include <algorithm>
 #include <QtCore/QCoreApplication>
 #include <QtCore/QElapsedTimer>
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
 #include <QtCore/QSaveFile>
 #include <unicode/uloc.h>
 #include <zel/utility/i18n/Formatting.h>
@@ -129,12 +131,27 @@ QByteArray table(const QList<GalleryEntry>& entries, const QStringList& clocks)
     return text;
 }
 
+// A file is replaced in one step. A device or a pipe stays what it is and is written to.
 void write(const QString& path, const QByteArray& contents)
 {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size() || !file.commit()) {
+    const QFileInfo target(path);
+    const bool replaces = target.isFile() || !target.exists();
+    QSaveFile replacement(path);
+    QFile present(path);
+    QFileDevice& file = replaces ? static_cast<QFileDevice&>(replacement) : present;
+    const bool written = file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size() && file.flush();
+    if (!written || (replaces && !replacement.commit())) {
         throw Failure(QStringLiteral("cannot write ") + quoted(path) + QLatin1String(": ") + file.errorString());
     }
+}
+
+QString fileOf(const Arguments& arguments, const QString& option)
+{
+    const QString file = arguments.value(option);
+    if (file == QLatin1String("-")) {
+        throw Failure::usage(QStringLiteral("--%1 takes the name of a file, not '-'").arg(option));
+    }
+    return file;
 }
 
 } // namespace
@@ -165,8 +182,8 @@ QList<QCommandLineOption> GalleryCommand::options() const
 
 ExitStatus GalleryCommand::run(const Arguments& arguments, Console& console) const
 {
-    const QString html = arguments.value(QStringLiteral("html"));
-    const QString tsv = arguments.value(QStringLiteral("tsv"));
+    const QString html = fileOf(arguments, QStringLiteral("html"));
+    const QString tsv = fileOf(arguments, QStringLiteral("tsv"));
     if (!arguments.positional().isEmpty()) {
         throw Failure::usage(quoted(arguments.positional().first()) +
                              QStringLiteral(" is no option; name a file with --html or --tsv"));
@@ -190,7 +207,10 @@ ExitStatus GalleryCommand::run(const Arguments& arguments, Console& console) con
         console.json(
             {{QStringLiteral("locales"), static_cast<int>(entries.size())}, {QStringLiteral("marked"), marked}});
     } else {
-        console.line(QStringLiteral("%1 locales, %2 of them with a mark").arg(entries.size()).arg(marked));
+        console.line(QStringLiteral("%1 %2, %3 of them with a mark")
+                         .arg(entries.size())
+                         .arg(QLatin1String(entries.size() == 1 ? "locale" : "locales"))
+                         .arg(marked));
     }
     return Worked;
 }
