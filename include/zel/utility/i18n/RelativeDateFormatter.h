@@ -15,7 +15,7 @@ namespace zel::utility::i18n {
 class RelativeDateFormatterPrivate;
 
 /**
- * Tells when a moment is, seen from an anchor time: "5 minutes ago", "yesterday 10:30", "Tuesday 10:30", "May 11",
+ * Tells when a moment is, seen from an anchor time: "5 minutes ago", "yesterday 10:30", "Tue 10:30", "May 11",
  * "November 2011".
  *
  * The anchor is the time of construction until it is set; it does not advance by itself. Both the anchor and the moment
