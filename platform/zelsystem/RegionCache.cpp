@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <memory>
+#include <mutex>
 #include <QtCore/QVariantMap>
 #include <utility>
 #include <zel/PpsObject.h>
@@ -82,21 +83,29 @@ QLocale RegionCache::locale()
 RegionCache::Answer RegionCache::answer()
 {
     const char* const root = PpsObject::root();
-    const std::lock_guard<std::mutex> lock(m_mutex);
+    {
+        // Threads look at the file side by side; only a change makes them wait for each other.
+        const std::shared_lock<std::shared_mutex> lock(m_mutex);
+        if (isCurrent(root)) {
+            return {m_locale, {}};
+        }
+    }
+    const std::lock_guard<std::shared_mutex> lock(m_mutex);
     if (m_file.isEmpty() || m_root != root) {
         m_root = root;
         m_file = m_root + objectPath;
-        m_stamp = FileStamp();
         m_set = false;
     }
-    const FileStamp stamp(m_file.constData());
-    QString complaint;
-    if (m_racy || !(stamp == m_stamp) || (!m_set && m_posix != posixLocaleName())) {
-        m_stamp = stamp;
-        m_racy = stamp.isFresh();
-        complaint = update();
-    }
+    m_stamp = FileStamp(m_file.constData());
+    m_racy = m_stamp.isFresh();
+    const QString complaint = update();
     return {m_locale, complaint};
+}
+
+bool RegionCache::isCurrent(const char* root) const
+{
+    return !m_file.isEmpty() && m_root == root && !m_racy && FileStamp(m_file.constData()) == m_stamp &&
+           (m_set || m_posix == posixLocaleName());
 }
 
 // Reads the region, and returns what is to be said about it.

@@ -2,10 +2,10 @@
 #define ZEL_SYSTEM_REGIONCACHE_H
 
 #include "FileStamp.h"
-#include <mutex>
 #include <QtCore/QByteArray>
 #include <QtCore/QLocale>
 #include <QtCore/QString>
+#include <shared_mutex>
 
 namespace zel::system {
 
@@ -30,10 +30,11 @@ private:
     };
 
     Answer answer();
+    bool isCurrent(const char* root) const;
     QString update();
     QString complaintOf(const QString& fault, const QByteArray& contents);
 
-    std::mutex m_mutex;
+    std::shared_mutex m_mutex;
     QByteArray m_root;
     QByteArray m_file;
     bool m_set = false; // the locale is the region that the object gave
