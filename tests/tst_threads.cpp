@@ -139,6 +139,17 @@ void endAfterThread(int argc, char** argv)
     formatSomething(CustomDateFormatter(QStringLiteral("hmz")));
 }
 
+struct LastWords
+{
+    ~LastWords() { formatSomething(CustomDateFormatter(QStringLiteral("hmz"))); }
+};
+
+void formatAfterMain(int /*argc*/, char** /*argv*/)
+{
+    static const LastWords lastWords;
+    formatSomething(CustomDateFormatter(QStringLiteral("hmz")));
+}
+
 struct Program
 {
     const char* name;
@@ -148,7 +159,8 @@ struct Program
 constexpr Program programs[] = {{"last formatter before the application object", endBeforeApplication},
                                 {"last formatter after the application object", endAfterApplication},
                                 {"first formatter before the application object", formatBeforeApplication},
-                                {"first formatter on a thread that ends", endAfterThread}};
+                                {"first formatter on a thread that ends", endAfterThread},
+                                {"formats when static objects are destroyed", formatAfterMain}};
 
 } // namespace
 

@@ -1,13 +1,22 @@
 #include "LocaleName.h"
 
+#include <memory>
 #include <QtCore/QHash>
 #include <QtCore/QRegularExpression>
+#include <utility>
 
 namespace zel::system {
 
 namespace {
 
 constexpr int longestName = 100;
+
+// Never destroyed: something may still be formatted while the process destroys its static objects.
+template <typename Object, typename... Arguments>
+const Object& lasting(Arguments&&... arguments)
+{
+    return *std::make_unique<Object>(std::forward<Arguments>(arguments)...).release();
+}
 
 struct Parts
 {
@@ -19,16 +28,18 @@ struct Parts
 std::optional<Parts> split(const QString& name)
 {
     // Language, script, territory, variants, extensions; then codeset and modifier of a POSIX name.
-    static const QRegularExpression form(QStringLiteral("\\A([a-z]{2,3})(?:[-_]([a-z]{4}))?(?:[-_]([a-z]{2}|[0-9]{3}))?"
-                                                        "(?:[-_](?:[a-z0-9]{5,8}|[0-9][a-z0-9]{3}))*"
-                                                        "(?:-[a-z0-9](?:-[a-z0-9]{2,8})+)*"
-                                                        "(?:\\.[a-z0-9-]+)?(?:@([a-z]+))?\\z"),
-                                         QRegularExpression::CaseInsensitiveOption);
-    static const QHash<QString, QString> modifierScripts = {
+    static const auto& form =
+        lasting<QRegularExpression>(QStringLiteral("\\A([a-z]{2,3})(?:[-_]([a-z]{4}))?(?:[-_]([a-z]{2}|[0-9]{3}))?"
+                                                   "(?:[-_](?:[a-z0-9]{5,8}|[0-9][a-z0-9]{3}))*"
+                                                   "(?:-[a-z0-9](?:-[a-z0-9]{2,8})+)*"
+                                                   "(?:\\.[a-z0-9-]+)?(?:@([a-z]+))?\\z"),
+                                    QRegularExpression::CaseInsensitiveOption);
+    using Scripts = QHash<QString, QString>;
+    static const auto& modifierScripts = lasting<Scripts>(Scripts{
         {QStringLiteral("latin"), QStringLiteral("Latn")},
         {QStringLiteral("cyrillic"), QStringLiteral("Cyrl")},
         {QStringLiteral("devanagari"), QStringLiteral("Deva")},
-    };
+    });
     if (name.size() > longestName) {
         return {};
     }
@@ -60,11 +71,15 @@ QString join(const Parts& parts)
 // has a language to itself, so that it is enough that the locale has none of these.
 bool hasScript(const QLocale& locale, const QString& code)
 {
-    static const QHash<QString, QLocale::Script> shared = {
-        {QStringLiteral("Arab"), QLocale::ArabicScript},         {QStringLiteral("Cyrl"), QLocale::CyrillicScript},
-        {QStringLiteral("Deva"), QLocale::DevanagariScript},     {QStringLiteral("Hans"), QLocale::SimplifiedHanScript},
-        {QStringLiteral("Hant"), QLocale::TraditionalHanScript}, {QStringLiteral("Latn"), QLocale::LatinScript},
-    };
+    using Scripts = QHash<QString, QLocale::Script>;
+    static const auto& shared = lasting<Scripts>(Scripts{
+        {QStringLiteral("Arab"), QLocale::ArabicScript},
+        {QStringLiteral("Cyrl"), QLocale::CyrillicScript},
+        {QStringLiteral("Deva"), QLocale::DevanagariScript},
+        {QStringLiteral("Hans"), QLocale::SimplifiedHanScript},
+        {QStringLiteral("Hant"), QLocale::TraditionalHanScript},
+        {QStringLiteral("Latn"), QLocale::LatinScript},
+    });
     return shared.key(locale.script()) == (shared.contains(code) ? code : QString());
 }
 

@@ -50,7 +50,8 @@ void Diagnostic::append(QString& text, const QDateTime& item)
 void Diagnostic::hand(QtMsgType type, const QString& text)
 {
     const QByteArray utf8 = text.toUtf8();
-    const QMessageLogger logger;
+    // With the category "default", as qWarning() has it; a handler may compare it.
+    const QMessageLogger logger(nullptr, 0, nullptr);
     switch (type) {
     case QtDebugMsg:
         logger.debug("%s", utf8.constData());

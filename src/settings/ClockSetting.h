@@ -36,7 +36,7 @@ public:
     Q_SIGNAL void changed();
 
 private:
-    /** The one reader; null on a thread that is just creating it. */
+    /** The one reader; null on a thread that is just creating it, and when the process has destroyed it. */
     static PpsManager* getPpsManager();
 };
 

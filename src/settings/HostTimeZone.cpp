@@ -17,7 +17,7 @@ bool isKnown(const icu::TimeZone& zone)
 // TZ may name a file of the time zone database; ICU wants the name of the zone.
 QString withoutDirectory(const QString& id)
 {
-    static const QString directory = QStringLiteral("/zoneinfo/");
+    constexpr QLatin1String directory("/zoneinfo/");
     const auto start = id.lastIndexOf(directory);
     return start < 0 ? id : id.mid(start + directory.size());
 }

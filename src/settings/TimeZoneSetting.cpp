@@ -3,6 +3,7 @@
 #include "settings/PpsManager.h"
 #include <QtCore/QMutexLocker>
 #include <QtCore/QRecursiveMutex>
+#include <QtCore/QScopeGuard>
 
 namespace zel::utility::i18n {
 
@@ -38,11 +39,14 @@ PpsManager* TimeZoneSetting::getPpsManager()
     const QMutexLocker locker(&mutex::getPpsManager);
     // A message handler that asks for the setting is called in the middle of a first read that fails.
     static thread_local bool creating = false;
-    if (creating) {
+    // Something may still be formatted when the process has destroyed the reader.
+    static bool destroyed = false;
+    if (creating || destroyed) {
         return nullptr;
     }
     creating = true;
     static PpsManager ppsManager(pps::path, pps::map, pps::key, nullptr);
+    static const auto atExit = qScopeGuard([] { destroyed = true; });
     creating = false;
     return &ppsManager;
 }

@@ -60,7 +60,7 @@ public:
     /**
      * The text for a moment.
      *
-     * @param dateTime the moment; an invalid one reads as 1 January 1970
+     * @param dateTime the moment; an invalid one is taken as a moment about the start of 1970
      * @return the text; a null string, with a message, when the formatter is not valid or ICU cannot format the moment
      */
     Q_INVOKABLE QString format(const QDateTime& dateTime) const;
