@@ -147,7 +147,7 @@ void write(const QString& path, const QByteArray& contents)
 
 QString fileOf(const Arguments& arguments, const QString& option)
 {
-    const QString file = arguments.value(option);
+    QString file = arguments.value(option);
     if (file == QLatin1String("-")) {
         throw Failure::usage(QStringLiteral("--%1 takes the name of a file, not '-'").arg(option));
     }
