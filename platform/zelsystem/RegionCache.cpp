@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <QtCore/QVariantMap>
 #include <utility>
 #include <zel/PpsObject.h>
@@ -115,10 +116,12 @@ QString RegionCache::update()
     if (m_set && !region.fault.isEmpty()) {
         return complaintOf(region.fault, region.contents);
     }
-    m_set = false;
+    const bool wasSet = std::exchange(m_set, false);
     if (region.value.isValid()) {
         const QString name = region.value.toString();
-        if (const auto locale = LocaleName::find(name)) {
+        const auto locale = wasSet && name == m_name ? std::make_optional(m_locale) : LocaleName::find(name);
+        if (locale) {
+            m_name = name;
             m_locale = *locale;
             m_set = true;
             m_reported.clear();

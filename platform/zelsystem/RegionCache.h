@@ -38,6 +38,7 @@ private:
     QByteArray m_root;
     QByteArray m_file;
     bool m_set = false; // the locale is the region that the object gave
+    QString m_name;     // by which the object gave it
     QByteArray m_posix; // the name that stands in where it gave none
     FileStamp m_stamp;
     bool m_racy = false; // the stamp was taken too soon after a change to show a further one
