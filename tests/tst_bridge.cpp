@@ -31,6 +31,7 @@ private Q_SLOTS:
     void fallbackWalksToTheBogusEnd();
     void fallbackOfTheEndIsFatal();
     void messagesAreTheirItemsEachWithOneSpace();
+    void messagesHaveACategory();
 };
 
 void BridgeTest::textKeepsItsCodeUnits_data()
@@ -162,6 +163,16 @@ void BridgeTest::messagesAreTheirItemsEachWithOneSpace()
         QStringLiteral("critical: QDateTime(2012-05-16 12:00:00.000 UTC Qt::UTC) "),
     };
     QCOMPARE(log.take(), expected);
+}
+
+void BridgeTest::messagesHaveACategory()
+{
+    static QByteArray category;
+    QtMessageHandler previous = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext& context, const QString&) { category = context.category; });
+    Diagnostic::write(QtWarningMsg, "text");
+    qInstallMessageHandler(previous);
+    QCOMPARE(category, QByteArray("default"));
 }
 
 QTEST_GUILESS_MAIN(BridgeTest)

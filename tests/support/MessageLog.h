@@ -31,14 +31,13 @@ public:
     }
 
 private:
-    static void handle(QtMsgType type, const QMessageLogContext& context, const QString& text)
+    static void handle(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text)
     {
         if (s_current == nullptr) {
             return;
         }
         const QMutexLocker locker(&s_current->m_mutex);
-        s_current->m_messages.append(QLatin1String(context.category == nullptr ? "no category " : "") + name(type) +
-                                     QStringLiteral(": ") + text);
+        s_current->m_messages.append(name(type) + QStringLiteral(": ") + text);
     }
 
     static QString name(QtMsgType type)
