@@ -27,6 +27,8 @@ private Q_SLOTS:
     void missingTextStaysMissing();
     void findsLettersOutsideQuotes_data();
     void findsLettersOutsideQuotes();
+    void territoryStays_data();
+    void territoryStays();
     void fallbackWalksToTheBogusEnd_data();
     void fallbackWalksToTheBogusEnd();
     void fallbackOfTheEndIsFatal();
@@ -92,6 +94,21 @@ void BridgeTest::findsLettersOutsideQuotes()
     QFETCH(bool, anyCase);
     const Qt::CaseSensitivity cs = anyCase ? Qt::CaseInsensitive : Qt::CaseSensitive;
     QTEST(String::indexOfInFormat(format, letter, from, cs), "position");
+}
+
+void BridgeTest::territoryStays_data()
+{
+    QTest::addColumn<QString>("icuName");
+    QTest::newRow("ar_EG") << QStringLiteral("ar_EG@calendar=gregorian");
+    QTest::newRow("sr_Latn_RS") << QStringLiteral("sr_Latn_RS@calendar=gregorian");
+    QTest::newRow("es_419") << QStringLiteral("es_419@calendar=gregorian");
+    QTest::newRow("C") << QStringLiteral("en@calendar=gregorian");
+}
+
+void BridgeTest::territoryStays()
+{
+    const QLocale locale(QString::fromLatin1(QTest::currentDataTag()));
+    QTEST(QString::fromLatin1(Locale::toICU(locale).getName()), "icuName");
 }
 
 void BridgeTest::fallbackWalksToTheBogusEnd_data()

@@ -113,7 +113,7 @@ void ResourcesTest::walksAKeyPath_data()
                                                    "UErrorCode & ) : U_RESOURCE_TYPE_MISMATCH ",
                                                    "warning: " + initSignature +
                                                        "failed to access resource key \"deeper\" in locale "
-                                                       "de@calendar=gregorian "};
+                                                       "de_DE@calendar=gregorian "};
 }
 
 void ResourcesTest::walksAKeyPath()
@@ -150,7 +150,7 @@ void ResourcesTest::fixedPhrases_data()
                                             "UErrorCode & ) : U_RESOURCE_TYPE_MISMATCH ");
     QTest::newRow("an entry that is not a string")
         << "de" << QStringList{"notText"} << QString()
-        << (QStringList{mismatch, mismatch} + exhausted(numericConstructor, "de", "\"notText\""));
+        << (QStringList{mismatch, mismatch, mismatch} + exhausted(numericConstructor, "de", "\"notText\""));
     QTest::newRow("a string where a table belongs")
         << "de_AT" << QStringList{"text"} << QString()
         << QStringList{numericConstructor + "did not reach a resource table using supplied keys (\"text\") "};

@@ -8,12 +8,15 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <memory>
 #include <QtCore/QLocale>
 #include <QtCore/QMap>
 #include <QtCore/QRegularExpression>
 #include <QtTest/QTest>
 #include <unicode/locid.h>
+#include <unicode/numfmt.h>
 #include <unicode/reldatefmt.h>
+#include <unicode/smpdtfmt.h>
 #include <unicode/uchar.h>
 #include <utility>
 #include <vector>
@@ -42,17 +45,31 @@ const QStringList skeletons{
     QStringLiteral("hm"),     QStringLiteral("Hm"),      QStringLiteral("hms"),         QStringLiteral("Ehm"),
     QStringLiteral("MMMdhm"), QStringLiteral("yMMMdhm"), QStringLiteral("yMMMMEEEEdhm")};
 
-std::vector<QLocale> locales()
+std::vector<icu::Locale> icuLocales()
 {
     int32_t count = 0;
-    const icu::Locale* const names = icu::Locale::getAvailableLocales(count);
+    const icu::Locale* const all = icu::Locale::getAvailableLocales(count);
     // Where everything is slow, or done for the second time, every seventh has to do.
     const int step = qEnvironmentVariableIsSet("ZEL_SWEEP_SAMPLE") ? 7 : 1;
-    std::vector<QLocale> all;
+    std::vector<icu::Locale> locales;
     for (int i = 0; i < count; i += step) {
-        all.emplace_back(QString::fromLatin1(names[i].getName()));
+        locales.push_back(all[i]);
     }
-    return all;
+    return locales;
+}
+
+QLocale qtLocale(const icu::Locale& locale)
+{
+    return QLocale(QString::fromLatin1(locale.getName()));
+}
+
+std::vector<QLocale> qtLocales()
+{
+    std::vector<QLocale> locales;
+    for (const icu::Locale& locale : icuLocales()) {
+        locales.push_back(qtLocale(locale));
+    }
+    return locales;
 }
 
 QString withoutQuoted(QString pattern)
@@ -86,6 +103,18 @@ QString digits(const QString& text)
     return found;
 }
 
+/** The pattern of a locale, and the sweep's moment written with it. */
+QString writtenBy(const icu::Locale& locale, icu::DateFormat::EStyle style)
+{
+    const std::unique_ptr<icu::DateFormat> format(icu::DateFormat::createDateTimeInstance(style, style, locale));
+    format->adoptTimeZone(icu::TimeZone::getGMT()->clone());
+    icu::UnicodeString pattern;
+    icu::UnicodeString text;
+    static_cast<const icu::SimpleDateFormat&>(*format).toPattern(pattern);
+    format->format(static_cast<UDate>(moment.toMSecsSinceEpoch()), text);
+    return String::toQt(pattern + u" " + text);
+}
+
 } // namespace
 
 class SweepTest : public QObject
@@ -93,6 +122,7 @@ class SweepTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void asInICU();
     void patterns_data() { clocks(); }
     void patterns();
     void customDates_data() { clocks(); }
@@ -115,7 +145,7 @@ private:
     bool m_is24Hour = false;
     QStringList m_failures;
     QMap<QString, int> m_messages;
-    const std::vector<QLocale> m_locales = locales();
+    const std::vector<QLocale> m_locales = qtLocales();
     int m_checks = 0;
 };
 
@@ -164,6 +194,37 @@ void SweepTest::checkRoundTrip(const QLocale& locale, const QString& pattern)
     }
     check(locale.toDate(locale.toString(moment.date(), pattern), pattern) == moment.date(), locale,
           QStringLiteral("%1 is not read with %2").arg(locale.toString(moment.date(), pattern), pattern));
+}
+
+/** Every name that Qt and ICU take for the same locale has the digits, patterns and names of ICU's own. */
+void SweepTest::asInICU()
+{
+    for (const icu::Locale& own : icuLocales()) {
+        const QLocale locale = qtLocale(own);
+        UErrorCode status = U_ZERO_ERROR;
+        icu::Locale likely = own;
+        icu::Locale qtLikely = icu::Locale::forLanguageTag(locale.bcp47Name().toStdString(), status);
+        likely.addLikelySubtags(status);
+        qtLikely.addLikelySubtags(status);
+        // Qt leaves out that Fulah is in Latin letters, and ICU has no ff_GH.
+        const bool isUnnamed = QByteArray(own.getName()).startsWith("ff_Latn");
+        if (own.getCountry()[0] == '\0' || likely != qtLikely || isUnnamed) {
+            continue;
+        }
+        icu::Locale gregorian = own;
+        gregorian.setKeywordValue("calendar", "gregorian", status);
+        for (const auto style : {icu::DateFormat::kShort, icu::DateFormat::kMedium, icu::DateFormat::kFull}) {
+            check(writtenBy(Locale::toICU(locale), style) == writtenBy(gregorian, style), locale,
+                  writtenBy(Locale::toICU(locale), style) + QStringLiteral(" instead of ") +
+                      writtenBy(gregorian, style));
+        }
+        const std::unique_ptr<icu::NumberFormat> percent(icu::NumberFormat::createPercentInstance(own, status));
+        percent->setMaximumFractionDigits(1);
+        icu::UnicodeString text;
+        check(toPercentageString(locale, 0.256, 1, 0) == String::toQt(percent->format(0.256, text)), locale,
+              toPercentageString(locale, 0.256, 1, 0) + QStringLiteral(" instead of ") + String::toQt(text));
+    }
+    failIfAny();
 }
 
 void SweepTest::patterns()

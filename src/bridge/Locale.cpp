@@ -6,9 +6,21 @@
 
 namespace zel::utility::i18n {
 
+// Qt leaves a likely territory out ("ar" for Egypt), but ICU 76 and later take "ar" for Arabic with Latin digits.
+icu::Locale Locale::named(const QLocale& locale)
+{
+    QByteArray name = locale.bcp47Name().toUtf8();
+    const QByteArray qtName = locale.name().toUtf8();
+    const QByteArray territory = qtName.mid(qtName.lastIndexOf('_') + 1);
+    if (territory != qtName && !name.endsWith('-' + territory)) {
+        name += '-' + territory;
+    }
+    return icu::Locale::createFromName(name.constData());
+}
+
 icu::Locale Locale::toICU(const QLocale& locale)
 {
-    icu::Locale icuLocale = icu::Locale::createFromName(locale.bcp47Name().toUtf8().constData());
+    icu::Locale icuLocale = named(locale);
     icu::ErrorCode status;
     icuLocale.setKeywordValue("calendar", "gregorian", status);
     if (status.isFailure()) {

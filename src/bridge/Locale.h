@@ -12,6 +12,9 @@ class Locale
 public:
     Locale() = delete;
 
+    /** The ICU locale of the BCP 47 name, with the territory where that name leaves it out. */
+    static icu::Locale named(const QLocale& locale);
+
     /** The ICU locale with the Gregorian calendar, whatever calendar the locale prefers. */
     static icu::Locale toICU(const QLocale& locale);
 

@@ -29,7 +29,7 @@ QLocale getRegionLocale()
 
 icu::Locale getICULocale(const QLocale& locale)
 {
-    icu::Locale icuLocale = icu::Locale::createFromName(locale.bcp47Name().toUtf8().constData());
+    icu::Locale icuLocale = Locale::named(locale);
     icu::ErrorCode status;
     icuLocale.setKeywordValue("calendar", "gregorian", status);
     if (status.isFailure()) {
