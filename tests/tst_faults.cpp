@@ -14,6 +14,7 @@
 #include <QtCore/QSet>
 #include <QtTest/QTest>
 #include <sys/inotify.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unicode/udata.h>
 #include <unistd.h>
@@ -419,6 +420,22 @@ void FaultsTest::answersWithIcuDataDamaged_data()
     });
     row("list cut short", "%1/" U_ICUDATA_NAME ": bundles.list is missing or damaged",
         [](const QDir& bundles) { change(bundles.filePath(QStringLiteral("bundles.list")), half); });
+    row("list is a pipe", "%1/" U_ICUDATA_NAME ": bundles.list is missing or damaged", [](const QDir& bundles) {
+        const QString list = bundles.filePath(QStringLiteral("bundles.list"));
+        QFile::remove(list);
+        ::mkfifo(QFile::encodeName(list).constData(), S_IRUSR | S_IWUSR);
+    });
+    row("list without an end", "%1/" U_ICUDATA_NAME ": bundles.list is missing or damaged", [](const QDir& bundles) {
+        const QString list = bundles.filePath(QStringLiteral("bundles.list"));
+        QFile::remove(list);
+        QFile::link(QStringLiteral("/dev/zero"), list);
+    });
+    row("list as large as a disk", "%1/" U_ICUDATA_NAME ": bundles.list is missing or damaged",
+        [](const QDir& bundles) {
+            const QString list = bundles.filePath(QStringLiteral("bundles.list"));
+            change(list, half);
+            QFile::resize(list, qint64(1) << 40);
+        });
     row("another release", "%1/" U_ICUDATA_NAME ": made for another ICU", [](const QDir& bundles) {
         change(bundles.filePath(QStringLiteral("bundles.list")),
                [](const QByteArray& list) { return "806 1" + list.mid(5); });

@@ -1,12 +1,10 @@
 #include "BundleList.h"
 
+#include "BundleData.h"
 #include "ResourceBundleReader.h"
 
-#include <algorithm>
 #include <charconv>
 #include <fcntl.h>
-#include <fstream>
-#include <iterator>
 #include <sys/stat.h>
 #include <tuple>
 #include <unicode/udata.h>
@@ -18,13 +16,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/** A line of the list. */
-struct Bundle
-{
-    std::string name;
-    std::uintmax_t size = 0;
-    std::uint64_t checksum = 0;
-};
+constexpr std::size_t largestFile = std::size_t{16} * 1024 * 1024;
 
 // FNV-1a: finds damage, not malice.
 std::uint64_t checksumOf(std::string_view bytes)
@@ -36,61 +28,44 @@ std::uint64_t checksumOf(std::string_view bytes)
     return checksum;
 }
 
-std::string contentsOf(const fs::path& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
-
-/** The checksum of the pool in ICU's own data; 0 where it has none. */
-std::uint32_t checksumOfIcuPool()
+/** The pool in ICU's own data; null where it has none. */
+icu::LocalUDataMemoryPointer icuPool()
 {
     UErrorCode status = U_ZERO_ERROR;
-    const icu::LocalUDataMemoryPointer pool(udata_open(nullptr, "res", "pool", &status));
-    if (U_FAILURE(status)) {
-        return 0;
-    }
-    const auto* const words = static_cast<const std::uint32_t*>(udata_getMemory(pool.getAlias()));
-    return words[static_cast<std::size_t>(IndexWord::PoolChecksum)];
+    icu::LocalUDataMemoryPointer pool(udata_open(nullptr, "res", "pool", &status));
+    return U_SUCCESS(status) ? std::move(pool) : icu::LocalUDataMemoryPointer();
 }
 
-/** A directory, opened so that each look at a file in it does not walk the whole path again. */
-class Directory
+std::uint32_t checksumOfIcuPool()
 {
-public:
-    explicit Directory(const fs::path& path) : m_descriptor(::open(path.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC)) {}
-    ~Directory() { ::close(m_descriptor); }
-    Directory(const Directory&) = delete;
-    Directory& operator=(const Directory&) = delete;
-
-    bool look(const char* file, struct stat& status) const { return ::fstatat(m_descriptor, file, &status, 0) == 0; }
-
-private:
-    int m_descriptor;
-};
-
-/** Takes the next word off a text; empty at the end. */
-std::string_view nextWord(std::string_view& text)
-{
-    text.remove_prefix(std::min(text.find_first_not_of(" \n"), text.size()));
-    const std::string_view word = text.substr(0, text.find_first_of(" \n"));
-    text.remove_prefix(word.size());
-    return word;
+    const icu::LocalUDataMemoryPointer pool = icuPool();
+    const auto* const words =
+        static_cast<const std::uint32_t*>(pool.isValid() ? udata_getMemory(pool.getAlias()) : nullptr);
+    return words != nullptr ? words[static_cast<std::size_t>(IndexWord::PoolChecksum)] : 0;
 }
 
+/** Takes a number and the separator behind it off a text. */
 template <typename Number>
-bool nextNumber(std::string_view& text, Number& number)
+bool takeNumber(std::string_view& text, Number& number, char separator)
 {
-    const std::string_view word = nextWord(text);
-    const char* const end = word.data() + word.size();
-    const auto [stop, error] = std::from_chars(word.data(), end, number);
-    return error == std::errc() && stop == end;
+    const char* const end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, number);
+    if (error != std::errc() || stop == end || *stop != separator) {
+        return false;
+    }
+    text.remove_prefix(static_cast<std::size_t>(stop - text.data()) + 1);
+    return true;
 }
 
-bool nextBundle(std::string_view& text, Bundle& bundle)
+bool takeName(std::string_view& text, std::string& name)
 {
-    bundle.name = nextWord(text);
-    return nextNumber(text, bundle.size) && nextNumber(text, bundle.checksum);
+    const std::size_t end = text.find(' ');
+    if (end == std::string_view::npos || text.find('\n') < end) {
+        return false;
+    }
+    name = text.substr(0, end);
+    text.remove_prefix(end + 1);
+    return true;
 }
 
 bool isNewer(const struct stat& one, const struct stat& other)
@@ -105,45 +80,101 @@ std::string damaged(const std::string& file)
 
 } // namespace
 
-void BundleList::add(const std::string& name, std::string_view bytes)
+/** A directory, opened so that each look at a file in it does not walk the whole path again. */
+class BundleList::Directory
 {
-    ++m_count;
-    m_lines += name + ' ' + std::to_string(bytes.size()) + ' ' + std::to_string(checksumOf(bytes)) + '\n';
+public:
+    explicit Directory(const fs::path& path) : m_descriptor(::open(path.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC)) {}
+    ~Directory() { ::close(m_descriptor); }
+    Directory(const Directory&) = delete;
+    Directory& operator=(const Directory&) = delete;
+
+    bool look(const char* file, struct stat& status) const { return ::fstatat(m_descriptor, file, &status, 0) == 0; }
+
+    /** The contents of a file; empty for anything that could keep the reader waiting or have no end. */
+    std::string contentsOf(const char* file) const
+    {
+        const int descriptor = ::openat(m_descriptor, file, O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+        struct stat status = {};
+        std::string contents;
+        if (::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) &&
+            static_cast<std::size_t>(status.st_size) <= largestFile) {
+            contents.resize(static_cast<std::size_t>(status.st_size));
+            const ssize_t size = ::read(descriptor, contents.data(), contents.size());
+            contents.resize(size < 0 ? 0 : static_cast<std::size_t>(size));
+        }
+        ::close(descriptor);
+        return contents;
+    }
+
+    bool isSound(const Bundle& bundle, const struct stat& listed) const
+    {
+        struct stat status = {};
+        return look(bundle.name.c_str(), status) && static_cast<std::size_t>(status.st_size) == bundle.size &&
+               (!isNewer(status, listed) || checksumOf(contentsOf(bundle.name.c_str())) == bundle.checksum);
+    }
+
+private:
+    int m_descriptor;
+};
+
+std::optional<BundleList> BundleList::fromFile(std::string_view file)
+{
+    std::size_t count = 0;
+    BundleList list(0);
+    if (!takeNumber(file, count, ' ') || !takeNumber(file, list.m_poolChecksum, '\n')) {
+        return std::nullopt;
+    }
+    for (; count > 0; --count) {
+        Bundle bundle;
+        if (!takeName(file, bundle.name) || !takeNumber(file, bundle.size, ' ') ||
+            !takeNumber(file, bundle.checksum, '\n')) {
+            return std::nullopt;
+        }
+        list.m_bundles.push_back(std::move(bundle));
+    }
+    return file.empty() ? std::make_optional(std::move(list)) : std::nullopt;
 }
 
-std::string BundleList::toFile(std::uint32_t poolChecksum) const
+void BundleList::add(const std::string& name, std::string_view bytes)
 {
-    return std::to_string(m_count) + ' ' + std::to_string(poolChecksum) + '\n' + m_lines;
+    m_bundles.push_back({name, bytes.size(), checksumOf(bytes)});
+}
+
+std::string BundleList::toFile() const
+{
+    std::string file = std::to_string(m_bundles.size()) + ' ' + std::to_string(m_poolChecksum) + '\n';
+    for (const Bundle& bundle : m_bundles) {
+        file += bundle.name + ' ' + std::to_string(bundle.size) + ' ' + std::to_string(bundle.checksum) + '\n';
+    }
+    return file;
 }
 
 // This is done whenever a process starts: sizes and times are looked at, and contents only where the times are odd.
 std::string BundleList::problemOf(const fs::path& path)
 {
     const Directory directory(path);
-    const std::string list = contentsOf(path / fileName);
-    std::string_view rest = list;
+    const std::optional<BundleList> list = fromFile(directory.contentsOf(fileName));
     struct stat listed = {};
-    std::size_t count = 0;
-    std::uint32_t pool = 0;
-    if (!directory.look(fileName, listed) || !nextNumber(rest, count) || !nextNumber(rest, pool)) {
+    if (!list || !directory.look(fileName, listed)) {
         return damaged(fileName);
     }
-    if (pool != checksumOfIcuPool()) {
+    if (list->m_poolChecksum != checksumOfIcuPool()) {
         return "made for another ICU";
     }
-    Bundle bundle;
-    for (; count > 0; --count) {
-        if (!nextBundle(rest, bundle)) {
-            return damaged(fileName);
-        }
-        struct stat status = {};
-        if (!directory.look(bundle.name.c_str(), status) ||
-            static_cast<std::uintmax_t>(status.st_size) != bundle.size ||
-            (isNewer(status, listed) && checksumOf(contentsOf(path / bundle.name)) != bundle.checksum)) {
+    for (const Bundle& bundle : list->m_bundles) {
+        if (!directory.isSound(bundle, listed)) {
             return damaged(bundle.name);
         }
     }
     return {};
+}
+
+bool BundleList::hasPool(const fs::path& path)
+{
+    const icu::LocalUDataMemoryPointer pool = icuPool();
+    return pool.isValid() &&
+           Directory(path / packageName).contentsOf(poolName) == BundleData::fromIcu(pool.getAlias()).toFile();
 }
 
 } // namespace zel::icudata

@@ -1,22 +1,26 @@
-// zel-icudata-gen <directory>: writes ICU's locale bundles, with phrase tables added, to <directory>/<icudtNNl>.
+// zel-icudata-gen [--unless-sound] <directory>: writes ICU's locale bundles, with phrase tables added, to
+// <directory>/<icudtNNl>.
 
 #include "BundleList.h"
 #include "PhraseTables.h"
 #include "ResourceBundleWriter.h"
 #include "StockBundles.h"
 
+#include <cerrno>
 #include <cstdlib>
 #include <exception>
+#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <system_error>
 
 namespace {
 
 namespace fs = std::filesystem;
 using namespace zel::icudata;
 
-bool writeFile(const fs::path& path, const std::string& bytes, std::string& error)
+void writeFile(const fs::path& path, const std::string& bytes, std::string& error)
 {
     std::ofstream file(path, std::ios::binary);
     file << bytes;
@@ -24,71 +28,115 @@ bool writeFile(const fs::path& path, const std::string& bytes, std::string& erro
     if (!file) {
         error = path.string() + ": cannot be written";
     }
-    return error.empty();
 }
 
-bool writeBundle(const std::string& name, const fs::path& directory, StockBundles& bundles, PhraseTables& phrases,
-                 BundleList& list, std::string& error)
+std::optional<std::string> copyWithPhrases(const std::string& name, StockBundles& bundles, PhraseTables& phrases,
+                                           std::string& error)
 {
     const ResourceBundleReader* bundle = bundles.find(name, error);
     if (bundle == nullptr) {
         error = error.empty() ? name + ": listed by ICU, but not there" : error;
-        return false;
+        return std::nullopt;
     }
     const auto tables = phrases.forLocale(name, error);
-    if (!tables) {
-        return false;
-    }
-    const auto copy = ResourceBundleWriter::write(*bundle, *tables, error);
-    if (!copy) {
+    auto copy = tables ? ResourceBundleWriter::write(*bundle, *tables, error) : std::nullopt;
+    if (tables && !copy) {
         error.insert(0, name + ": ");
-        return false;
     }
-    list.add(name + ".res", *copy);
-    return writeFile(directory / (name + ".res"), *copy, error);
+    return copy;
 }
 
 bool writeBundles(const fs::path& directory, std::string& error)
 {
     StockBundles bundles;
     PhraseTables phrases(bundles);
-    BundleList list;
+    const ResourceBundleReader* const pool = bundles.find("pool", error);
+    BundleList list(pool != nullptr ? pool->index(IndexWord::PoolChecksum) : 0);
+    if (pool != nullptr) {
+        fs::create_directories(directory / BundleList::packageName);
+        writeFile(directory / BundleList::packageName / BundleList::poolName, pool->data().toFile(), error);
+    }
     for (const std::string& name : StockBundles::names()) {
-        if (!writeBundle(name, directory, bundles, phrases, list, error)) {
+        const auto copy = copyWithPhrases(name, bundles, phrases, error);
+        if (!copy) {
             return false;
         }
+        list.add(name + ".res", *copy);
+        writeFile(directory / (name + ".res"), *copy, error);
     }
-    const ResourceBundleReader* const pool = bundles.find("pool", error);
-    return writeFile(directory / BundleList::fileName,
-                     list.toFile(pool != nullptr ? pool->index(IndexWord::PoolChecksum) : 0), error);
+    writeFile(directory / BundleList::fileName, list.toFile(), error);
+    return error.empty();
 }
 
-// Written aside and put in place when it is complete: a directory under the final name is always whole, and programs
-// that run keep the files that they have open.
+/** A directory of this run alone, which goes away with this object. */
+class Unfinished
+{
+public:
+    explicit Unfinished(const fs::path& directory) : m_path(directory / U_ICUDATA_NAME ".unfinished.XXXXXX")
+    {
+        fs::create_directories(directory);
+        std::string name = m_path.string();
+        if (::mkdtemp(name.data()) == nullptr) {
+            throw fs::filesystem_error("cannot be made", m_path, std::error_code(errno, std::generic_category()));
+        }
+        m_path = name;
+        fs::permissions(m_path, fs::perms(0755));
+    }
+    ~Unfinished()
+    {
+        std::error_code ignored;
+        fs::remove_all(m_path, ignored);
+    }
+    Unfinished(const Unfinished&) = delete;
+    Unfinished& operator=(const Unfinished&) = delete;
+
+    const fs::path& path() const { return m_path; }
+
+    /** Gives the directory its name in one step; one that has the name already is in this one's place then. */
+    void putInPlaceOf(const fs::path& final) const
+    {
+        std::error_code isThere;
+        fs::rename(m_path, final, isThere);
+        if (isThere && ::renameat2(AT_FDCWD, m_path.c_str(), AT_FDCWD, final.c_str(), RENAME_EXCHANGE) != 0) {
+            fs::remove_all(final); // a file system that cannot exchange two names
+            fs::rename(m_path, final);
+        }
+    }
+
+private:
+    fs::path m_path;
+};
+
+// Put in place when it is complete: a directory under the final name is always whole, also where several are made at
+// once, and programs that run keep the files that they have open.
 bool generate(const fs::path& directory, std::string& error)
 {
-    const fs::path final = directory / U_ICUDATA_NAME;
-    const fs::path unfinished = directory / U_ICUDATA_NAME ".unfinished";
-    fs::remove_all(unfinished);
-    fs::create_directories(unfinished);
-    if (!writeBundles(unfinished, error)) {
+    const Unfinished unfinished(directory);
+    if (!writeBundles(unfinished.path(), error)) {
         return false;
     }
-    fs::remove_all(final);
-    fs::rename(unfinished, final);
+    unfinished.putInPlaceOf(directory / U_ICUDATA_NAME);
     return true;
 }
 
-int run(int argc, char** argv)
+bool isSound(const fs::path& bundles)
 {
-    if (argc != 2) {
-        std::cerr << "usage: zel-icudata-gen <directory>\n";
+    return BundleList::problemOf(bundles).empty() && BundleList::hasPool(bundles);
+}
+
+int run(const std::vector<std::string>& arguments)
+{
+    const bool unlessSound = arguments.size() == 2 && arguments.front() == "--unless-sound";
+    if (arguments.size() != (unlessSound ? 2 : 1)) {
+        std::cerr << "usage: zel-icudata-gen [--unless-sound] <directory>\n";
         return EXIT_FAILURE;
     }
     // The data to copy is ICU's own, whatever data the person who builds uses otherwise.
     unsetenv("ICU_DATA"); // NOLINT(concurrency-mt-unsafe): the only thread
+    const fs::path directory = arguments.back();
     std::string error;
-    if (!generate(argv[1], error)) {
+    const bool isNeeded = !unlessSound || !isSound(directory / U_ICUDATA_NAME);
+    if (isNeeded && !generate(directory, error)) {
         std::cerr << "zel-icudata-gen: " << error << '\n';
         return EXIT_FAILURE;
     }
@@ -100,7 +148,7 @@ int run(int argc, char** argv)
 int main(int argc, char** argv)
 {
     try {
-        return run(argc, argv);
+        return run({argv + 1, argv + argc});
     } catch (const std::exception& exception) {
         std::cerr << "zel-icudata-gen: " << exception.what() << '\n';
         return EXIT_FAILURE;
