@@ -1,3 +1,4 @@
+#include "BundleList.h"
 #include "PhraseTables.h"
 #include "ResourceBundleReader.h"
 #include "ResourceBundleWriter.h"
@@ -15,6 +16,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <dlfcn.h>
 #include <memory>
@@ -26,6 +28,16 @@
 #include <unicode/smpdtfmt.h>
 
 using namespace zel::icudata;
+
+// What is done to the data that a generator has made.
+using Damage = void (*)(const QDir& bundles);
+Q_DECLARE_METATYPE(Damage)
+
+// In a process with raised privileges, which a test cannot have, this function finds nothing.
+extern "C" Q_DECL_EXPORT char* secure_getenv(const char* name) noexcept
+{
+    return std::getenv("ZEL_TEST_RAISED") != nullptr ? nullptr : std::getenv(name);
+}
 
 namespace {
 
@@ -293,13 +305,16 @@ QByteArray describe(const char* name)
 }
 
 /** This program in another mode, with ICU_DATA as given; its lines. */
-QList<QByteArray> runSelf(const QString& mode, const QString& icuData)
+QList<QByteArray> runSelf(const QString& mode, const QString& icuData, bool raised = false)
 {
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.remove(QStringLiteral("ICU_DATA"));
     if (!icuData.isNull()) {
         environment.insert(QStringLiteral("ICU_DATA"), icuData);
+    }
+    if (raised) {
+        environment.insert(QStringLiteral("ZEL_TEST_RAISED"), QStringLiteral("1"));
     }
     process.setProcessEnvironment(environment);
     process.start(QCoreApplication::applicationFilePath(), {mode});
@@ -348,6 +363,9 @@ private Q_SLOTS:
     void damageIsReported();
     void namedDirectoryIsKept();
     void environmentComesFirst();
+    void generatorMends_data();
+    void generatorMends();
+    void generatorsRunSideBySide();
 
 private:
     QByteArray differenceOfCopy(const std::string& name) const;
@@ -583,6 +601,58 @@ void TestIcuData::environmentComesFirst()
     QCOMPARE(runSelf(mode, QString()), ours);
     QCOMPARE(runSelf(mode, QStringLiteral("")), ours);
     QCOMPARE(runSelf(mode, QStringLiteral("/elsewhere")), QList<QByteArray>{"/elsewhere 0 0"});
+    QCOMPARE(runSelf(mode, QStringLiteral("/elsewhere"), true), ours);
+}
+
+void TestIcuData::generatorMends_data()
+{
+    QTest::addColumn<Damage>("damage");
+    const auto row = [](const char* name, Damage damage) { QTest::newRow(name) << damage; };
+    row("nothing", [](const QDir&) {});
+    row("bundle gone", [](const QDir& bundles) { QFile::remove(bundles.filePath(QStringLiteral("de.res"))); });
+    row("bundle cut short", [](const QDir& bundles) { QFile::resize(bundles.filePath(QStringLiteral("fr.res")), 9); });
+    row("pool gone", [](const QDir& bundles) { QDir(bundles.filePath(QStringLiteral("pool"))).removeRecursively(); });
+    row("list gone", [](const QDir& bundles) { QFile::remove(bundles.filePath(QStringLiteral("bundles.list"))); });
+    row("all gone", [](const QDir& bundles) { QDir(bundles).removeRecursively(); });
+}
+
+void TestIcuData::generatorMends()
+{
+    QFETCH(const Damage, damage);
+    const QTemporaryDir directory;
+    const QDir bundles(directory.filePath(QStringLiteral(U_ICUDATA_NAME)));
+    const QStringList always{directory.path()};
+    const QStringList unlessSound{QStringLiteral("--unless-sound"), directory.path()};
+    QCOMPARE(QProcess::execute(QStringLiteral(ZEL_ICUDATA_GEN), always), 0);
+    const QDateTime made = QFileInfo(bundles, QStringLiteral("bundles.list")).lastModified();
+    damage(bundles);
+    const auto isSound = [path = bundles.path().toStdString()] {
+        return BundleList::problemOf(path).empty() && BundleList::hasPool(path);
+    };
+    const bool wasSound = isSound();
+    QCOMPARE(wasSound, QByteArray(QTest::currentDataTag()) == "nothing");
+    QCOMPARE(QProcess::execute(QStringLiteral(ZEL_ICUDATA_GEN), unlessSound), 0);
+    QVERIFY(isSound());
+    QCOMPARE(QFileInfo(bundles, QStringLiteral("bundles.list")).lastModified() == made, wasSound);
+}
+
+void TestIcuData::generatorsRunSideBySide()
+{
+    const QTemporaryDir directory;
+    for (int round = 0; round < 3; ++round) {
+        std::array<QProcess, 2> generators;
+        for (QProcess& generator : generators) {
+            generator.start(QStringLiteral(ZEL_ICUDATA_GEN), {directory.path()});
+        }
+        for (QProcess& generator : generators) {
+            QVERIFY(generator.waitForFinished());
+            QCOMPARE(generator.readAllStandardError(), QByteArray());
+            QCOMPARE(generator.exitCode(), 0);
+        }
+        QCOMPARE(BundleList::problemOf(directory.filePath(QStringLiteral(U_ICUDATA_NAME)).toStdString()),
+                 std::string());
+        QCOMPARE(QDir(directory.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).size(), 1);
+    }
 }
 
 int main(int argc, char** argv)

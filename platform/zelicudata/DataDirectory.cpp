@@ -3,6 +3,7 @@
 #include "BundleList.h"
 
 #include <cstdio>
+#include <cstdlib>
 #include <dlfcn.h>
 #include <filesystem>
 #include <string>
@@ -77,10 +78,35 @@ std::string problemOfNamed(const fs::path& directory)
     return fs::exists(bundles / BundleList::fileName, error) ? problemOf(bundles) : std::string();
 }
 
+/** The directory that ICU_DATA or the application has named; ICU knows either. */
+std::string namedDirectory()
+{
+    const std::string named = u_getDataDirectory();
+    // Whoever starts a program with raised privileges must not choose its data. ICU itself does not look at these.
+    const char* const variable = std::getenv("ICU_DATA");
+    const bool isIgnored = variable != nullptr && named == variable && ::secure_getenv("ICU_DATA") == nullptr;
+    return isIgnored ? std::string() : named;
+}
+
+/** Where to look for bundles apart from those that ICU has open; empty where there is nothing else to find. */
+std::string findPhrasePackage()
+{
+    if (!zel::icudata::isDataDirectoryInUse() || zel::icudata::hasPhraseTables()) {
+        return {};
+    }
+    const std::string bundles = found().directory + "/" U_ICUDATA_NAME;
+    if (!BundleList::hasPool(bundles)) {
+        complain("ICU has opened its own data before this library was loaded");
+        return {};
+    }
+    // ICU looks for the files of a package in the directory of its name, which has the pool, and then in its own
+    // directory, which has the bundles.
+    return bundles + '/' + BundleList::packageName;
+}
+
 __attribute__((constructor)) void pointIcuToDataDirectory()
 {
-    // ICU answers with ICU_DATA here where that is set.
-    const std::string named = u_getDataDirectory();
+    const std::string named = namedDirectory();
     const std::string problem = named.empty() ? found().problem : problemOfNamed(named);
     if (!problem.empty()) {
         complain(problem);
@@ -115,6 +141,12 @@ bool hasPhraseTables() noexcept
     const icu::LocalUResourceBundlePointer root(ures_openDirect(nullptr, "root", &status));
     const icu::LocalUResourceBundlePointer units(ures_getByKey(root.getAlias(), "units", nullptr, &status));
     return U_SUCCESS(status) && ures_getType(units.getAlias()) == URES_TABLE;
+}
+
+const char* phrasePackage() noexcept
+{
+    static const std::string package = findPhrasePackage();
+    return package.empty() ? nullptr : package.c_str();
 }
 
 } // namespace zel::icudata

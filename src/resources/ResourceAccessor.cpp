@@ -12,10 +12,6 @@ constexpr const char* signature =
     "static icu::ResourceBundle* zel::utility::i18n::ResourceAccessor::initResource(const "
     "icu::Locale&, const QStringList&)";
 
-// The phrases are in the data of a library that does its work by being loaded. Without a use of it the linker would
-// leave it out.
-[[gnu::used]] constexpr auto phraseData = &zel::icudata::dataDirectory;
-
 } // namespace
 
 ResourceAccessor::ResourceAccessor(QObject* parent) : QObject(parent) {}
@@ -28,7 +24,7 @@ bool ResourceAccessor::isValid() const
 icu::ResourceBundle* ResourceAccessor::initResource(const icu::Locale& locale, const QStringList& keys)
 {
     icu::ErrorCode status;
-    icu::ResourceBundle current(nullptr, locale, status);
+    icu::ResourceBundle current(zel::icudata::phrasePackage(), locale, status);
     if (status.isFailure()) {
         Diagnostic::write(QtCriticalMsg, signature,
                           "icu::ResourceBundle::ResourceBundle( const char *, const icu::Locale &, UErrorCode & )");

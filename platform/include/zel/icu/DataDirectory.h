@@ -6,9 +6,9 @@
  *
  * The library behind this header, libzelicudata, points ICU to the directory with the phrase tables when it is loaded:
  * to share/zel/icu beside its own lib directory. It leaves ICU alone when ICU_DATA or the application has named a
- * directory by then. It also does where that directory has no data for the ICU in use, or damaged data, which ICU would
- * trust, and says so on the standard error stream. An application that wants data of its own calls
- * u_setDataDirectory() in main(), before its first use of ICU.
+ * directory by then; in a process with raised privileges ICU_DATA names none. It also leaves ICU alone where that
+ * directory has no data for the ICU in use, or damaged data, which ICU would trust, and says so on the standard error
+ * stream. An application that wants data of its own calls u_setDataDirectory() in main(), before its first use of ICU.
  *
  * The functions may be called from any thread.
  */
@@ -25,6 +25,13 @@ __attribute__((visibility("default"))) bool isDataDirectoryInUse() noexcept;
 
 /** Whether the data that ICU opens by default has phrase tables, wherever it comes from. */
 __attribute__((visibility("default"))) bool hasPhraseTables() noexcept;
+
+/**
+ * The package from which to open bundles with phrase tables, as ICU's functions take it. Null stands for ICU's default
+ * data: these have the tables, or others than ours are in use. Otherwise ICU had opened its own root bundle before this
+ * library was loaded, and keeps it; the package is a way round that.
+ */
+__attribute__((visibility("default"))) const char* phrasePackage() noexcept;
 
 } // namespace zel::icudata
 

@@ -1,0 +1,56 @@
+// A program that knows nothing of the library, has used ICU, and then loads a plug-in that needs the library.
+
+#include "support/MessageLog.h"
+#include "support/SettingsRoot.h"
+#include <QtCore/QLibrary>
+#include <QtCore/QLocale>
+#include <QtTest/QTest>
+#include <unicode/resbund.h>
+
+class PluginTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void hasPhrases_data();
+    void hasPhrases();
+
+private:
+    QLibrary m_plugin{QStringLiteral(ZEL_PLUGIN)};
+};
+
+void PluginTest::initTestCase()
+{
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::ResourceBundle used(nullptr, icu::Locale::getGermany(), status);
+    QVERIFY(U_SUCCESS(status));
+    QVERIFY2(m_plugin.load(), qPrintable(m_plugin.errorString()));
+    used.get("units", status);
+    QCOMPARE(status, U_MISSING_RESOURCE_ERROR);
+}
+
+void PluginTest::hasPhrases_data()
+{
+    QTest::addColumn<QStringList>("texts");
+    QTest::newRow("de_DE") << QStringList{QStringLiteral("vor 3 Stunden"), QStringLiteral("gestern, 12:00")};
+    QTest::newRow("de_AT") << QStringList{QStringLiteral("vor 3 Stunden"), QStringLiteral("gestern, 12:00")};
+    QTest::newRow("fr_FR") << QStringList{QStringLiteral("il y a 3 heures"), QStringLiteral("hier 12:00")};
+}
+
+void PluginTest::hasPhrases()
+{
+    const SettingsRoot root;
+    QVERIFY(root.setClock("24"));
+    const auto relativeTexts =
+        reinterpret_cast<void (*)(const QLocale&, QStringList&)>(m_plugin.resolve("relativeTexts"));
+    QVERIFY(relativeTexts != nullptr);
+    MessageLog log;
+    QStringList texts;
+    relativeTexts(QLocale(QLatin1String(QTest::currentDataTag())), texts);
+    QTEST(texts, "texts");
+    QCOMPARE(log.take(), QStringList());
+}
+
+QTEST_GUILESS_MAIN(PluginTest)
+#include "tst_plugin.moc"
