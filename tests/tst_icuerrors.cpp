@@ -5,13 +5,17 @@
 #include "relative/RelativeDate.h"
 #include "resources/NumericResourceAccessor.h"
 #include "resources/PluralResourceAccessor.h"
+#include "settings/ClockSetting.h"
 #include "support/IcuFaults.h"
 #include "support/MessageLog.h"
 #include "support/SettingsRoot.h"
+#include <functional>
 #include <memory>
 #include <QtTest/QTest>
+#include <utility>
 #include <zel/utility/i18n/CustomDateFormatter.h>
 #include <zel/utility/i18n/Formatting.h>
+#include <zel/utility/i18n/RelativeDateFormatter.h>
 
 using namespace zel::utility::i18n;
 using Call = QString (*)();
@@ -108,6 +112,68 @@ QString customAgain()
     return formatter.format(moment);
 }
 
+/** Lets the message handler do something with the next message, and drops all others. */
+class Interruption
+{
+public:
+    explicit Interruption(std::function<void()> action) : m_previous(qInstallMessageHandler(&Interruption::handle))
+    {
+        s_action = std::move(action);
+    }
+    ~Interruption() { qInstallMessageHandler(m_previous); }
+    Q_DISABLE_COPY(Interruption)
+
+    static bool happened() { return !s_action; }
+
+private:
+    static void handle(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& /*text*/)
+    {
+        if (const auto action = std::exchange(s_action, nullptr)) {
+            action();
+        }
+    }
+
+    inline static std::function<void()> s_action;
+    QtMessageHandler m_previous;
+};
+
+/** The zone is read for the first time, and cannot be; the text is that of the skeleton at the call. */
+QString otherSkeletonDuringFormat()
+{
+    CustomDateFormatter formatter(QStringLiteral("yMdz"));
+    const Interruption interruption([&formatter] {
+        formatter.setSkeleton(QStringLiteral("yMMMM"));
+        formatter.format(moment);
+    });
+    const QString text = formatter.format(moment);
+    return text + QLatin1Char('|') + formatter.format(moment);
+}
+
+/** The clock is none; the newer skeleton stays. */
+QString otherSkeletonDuringUpdate()
+{
+    CustomDateFormatter formatter(QStringLiteral("yMd"));
+    const Interruption interruption([&formatter] { formatter.setSkeleton(QStringLiteral("yMMMM")); });
+    formatter.setSkeleton(QStringLiteral("hm"));
+    return formatter.format(moment);
+}
+
+QString otherTypeDuringFormat()
+{
+    RelativeDateFormatter formatter(RelativeDateFormat::TimeCritical);
+    formatter.setAnchorTime(moment);
+    IcuFaults::arm(IcuFaults::SetTime, {late});
+    QString during;
+    const Interruption interruption([&formatter, &during] {
+        formatter.setType(RelativeDateFormat::NonTimeCritical);
+        formatter.setAnchorTime(moment);
+        during = formatter.format(moment.addDays(-1));
+        formatter.setType(RelativeDateFormat::TimeCritical);
+    });
+    const QString text = formatter.format(moment.addSecs(-300));
+    return text + QLatin1Char('|') + during;
+}
+
 /** The messages of a call that failed: each line is given without the space at its end. */
 QStringList lines(const char* text)
 {
@@ -128,6 +194,8 @@ private Q_SLOTS:
     void initTestCase();
     void failures_data();
     void failures();
+    void handlersUseTheFormatter_data();
+    void handlersUseTheFormatter();
 
 private:
     SettingsRoot m_settings;
@@ -317,6 +385,29 @@ void IcuErrorsTest::failures()
     QTEST(log.take(), "messages");
     QCOMPARE(actual, result);
     QCOMPARE(actual.isNull(), result.isNull());
+}
+
+void IcuErrorsTest::handlersUseTheFormatter_data()
+{
+    QTest::addColumn<Call>("call");
+    QTest::addColumn<QString>("texts");
+    QTest::newRow("skeleton in format") << Call(otherSkeletonDuringFormat) << "5/1/2012, GMT|May 2012";
+    QTest::newRow("skeleton in an update") << Call(otherSkeletonDuringUpdate) << "May 2012";
+    QTest::newRow("type in format") << Call(otherTypeDuringFormat) << "5 minutes ago|yesterday";
+}
+
+void IcuErrorsTest::handlersUseTheFormatter()
+{
+    QFETCH(Call, call);
+    QVERIFY(m_settings.setClock("13"));
+    MessageLog log;
+    // The clock is unknown from when it says so.
+    QVERIFY(QTest::qWaitFor([&log] {
+        ClockSetting::clockFormat();
+        return !log.take().isEmpty();
+    }));
+    QTEST(call(), "texts");
+    QVERIFY(Interruption::happened());
 }
 
 QTEST_GUILESS_MAIN(IcuErrorsTest)

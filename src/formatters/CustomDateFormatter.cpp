@@ -79,17 +79,22 @@ void CustomDateFormatterPrivate::installClockFormatIfNeeded(bool install) const
     if (clockSetting) {
         return;
     }
-    clockSetting = std::make_unique<ClockSetting>(nullptr);
-    if (!connect(clockSetting.get(), SIGNAL(changed()), this, SLOT(onClockFormatChange()))) {
+    auto created = std::make_unique<ClockSetting>(nullptr);
+    if (!connect(created.get(), SIGNAL(changed()), this, SLOT(onClockFormatChange()))) {
         Diagnostic::write(QtCriticalMsg,
                           "void zel::utility::i18n::CustomDateFormatterPrivate::installClockFormatIfNeeded(bool) const",
                           "failed to connect to zel::utility::i18n::ClockSetting::changed() signal");
+    }
+    // A message handler may have set another skeleton in the meantime.
+    if (!clockSetting && hasHours()) {
+        clockSetting = std::move(created);
     }
 }
 
 void CustomDateFormatterPrivate::updateFormatter() const
 {
     constexpr const char* signature = "void zel::utility::i18n::CustomDateFormatterPrivate::updateFormatter() const";
+    const unsigned int update = ++updates;
     const icu::Locale icuLocale = Locale::toICU(locale);
     icu::ErrorCode status;
     const std::unique_ptr<icu::DateTimePatternGenerator> generator(
@@ -114,7 +119,10 @@ void CustomDateFormatterPrivate::updateFormatter() const
                       status, signature, "could not instantiate the date format");
         return;
     }
-    formatter = std::move(created);
+    // An update that a message handler started during this one is the newer one.
+    if (update == updates) {
+        formatter = std::move(created);
+    }
 }
 
 void CustomDateFormatterPrivate::updateRegionLocale() const
@@ -126,13 +134,15 @@ void CustomDateFormatterPrivate::updateRegionLocale() const
     }
 }
 
-UDate CustomDateFormatterPrivate::adoptTimeZone(const QDateTime& dateTime) const
+UDate CustomDateFormatterPrivate::adoptTimeZone(icu::SimpleDateFormat& target, const QDateTime& dateTime) const
 {
     if (hasTimeZone()) {
-        formatter->adoptTimeZone(icu::TimeZone::createTimeZone(String::toICU(TimeZoneSetting::timeZone())));
+        // Read first: a message handler called by this may format with the same object.
+        const QString timeZone = TimeZoneSetting::timeZone();
+        target.adoptTimeZone(icu::TimeZone::createTimeZone(String::toICU(timeZone)));
         return DateTime::toICU(dateTime);
     }
-    formatter->adoptTimeZone(icu::TimeZone::getGMT()->clone());
+    target.adoptTimeZone(icu::TimeZone::getGMT()->clone());
     return DateTime::wallClock(dateTime);
 }
 
@@ -176,10 +186,12 @@ QString CustomDateFormatter::format(const QDateTime& dateTime) const
         return {};
     }
     d->updateRegionLocale();
-    const UDate date = d->adoptTimeZone(dateTime);
+    // Kept until the text is made: a message handler may set another skeleton.
+    const std::shared_ptr<icu::SimpleDateFormat> formatter = d->formatter;
+    const UDate date = d->adoptTimeZone(*formatter, dateTime);
     icu::ErrorCode status;
     icu::UnicodeString text;
-    d->formatter->format(icu::Formattable(date), text, status);
+    formatter->format(icu::Formattable(date), text, status);
     if (status.isFailure()) {
         reportFailure("icu::SimpleDateFormat::format( UDate, icu::UnicodeString &, UErrorCode & )", status, signature,
                       "failed to format date/time");

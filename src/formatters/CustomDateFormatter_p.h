@@ -38,14 +38,15 @@ public:
     /** Takes the region as it is now and builds the formatter anew if that is another one. */
     void updateRegionLocale() const;
 
-    /** Gives the formatter the zone to show a moment in, and answers the date to hand to it. */
-    UDate adoptTimeZone(const QDateTime& dateTime) const;
+    /** Gives a formatter the zone to show a moment in, and returns the date to format with it. */
+    UDate adoptTimeZone(icu::SimpleDateFormat& target, const QDateTime& dateTime) const;
 
     CustomDateFormatter* q;
     QString skeleton;
     mutable QLocale locale;
     mutable std::unique_ptr<ClockSetting> clockSetting;
-    mutable std::unique_ptr<icu::SimpleDateFormat> formatter;
+    mutable std::shared_ptr<icu::SimpleDateFormat> formatter;
+    mutable unsigned int updates = 0;
 
 private Q_SLOTS:
     void onClockFormatChange();

@@ -6,6 +6,7 @@
 #include "formatters/RelativeDateFormatter_p.h"
 #include "relative/DateOffsetRange.h"
 #include "relative/RelativeDatePattern.h"
+#include <algorithm>
 #include <iterator>
 #include <utility>
 
@@ -75,6 +76,18 @@ Ladder ladderOf(RelativeDateFormat::Type type)
     return {nullptr, 0};
 }
 
+/** Counts the calls that are under way in an object, so that it outlives them. */
+class Use
+{
+public:
+    explicit Use(int& uses) : m_uses(uses) { ++m_uses; }
+    ~Use() { --m_uses; }
+    Q_DISABLE_COPY_MOVE(Use)
+
+private:
+    int& m_uses;
+};
+
 constexpr const char* constructorSignature =
     "zel::utility::i18n::RelativeDateFormatterPrivate::RelativeDateFormatterPrivate("
     "zel::utility::i18n::RelativeDateFormatter*, zel::utility::i18n::RelativeDateFormat::Type)";
@@ -137,6 +150,7 @@ bool RelativeDateFormatterPrivate::setLocale(const QLocale& newLocale)
     if (newLocale == locale) {
         return false;
     }
+    const Use use(uses);
     locale = newLocale;
     for (const auto& pattern : patterns) {
         pattern->setLocale(locale);
@@ -149,6 +163,7 @@ bool RelativeDateFormatterPrivate::setClockFormat(ClockFormat::Type newClockForm
     if (newClockFormat == clockFormat) {
         return false;
     }
+    const Use use(uses);
     clockFormat = newClockFormat;
     for (const auto& pattern : patterns) {
         pattern->setClockFormat(clockFormat);
@@ -156,8 +171,19 @@ bool RelativeDateFormatterPrivate::setClockFormat(ClockFormat::Type newClockForm
     return true;
 }
 
+void RelativeDateFormatterPrivate::keepWhileInUse(std::unique_ptr<RelativeDateFormatterPrivate> previous)
+{
+    std::move(previous->predecessors.begin(), previous->predecessors.end(), std::back_inserter(predecessors));
+    previous->predecessors.clear();
+    predecessors.push_back(std::move(previous));
+    const auto idle = std::remove_if(predecessors.begin(), predecessors.end(),
+                                     [](const auto& predecessor) { return predecessor->uses == 0; });
+    predecessors.erase(idle, predecessors.end());
+}
+
 QString RelativeDateFormatterPrivate::format(const QDateTime& dateTime) const
 {
+    const Use use(uses);
     if (count == 0) {
         Diagnostic::write(QtWarningMsg, formatSignature, "cannot use malconstructed RelativeDateFormatterPrivate");
         return {};
@@ -196,8 +222,9 @@ void RelativeDateFormatter::setType(RelativeDateFormat::Type type)
     if (type == d->type) {
         return;
     }
-    const auto previous = std::exchange(d, std::make_unique<RelativeDateFormatterPrivate>(this, type));
+    auto previous = std::exchange(d, std::make_unique<RelativeDateFormatterPrivate>(this, type));
     Q_EMIT changed();
+    d->keepWhileInUse(std::move(previous));
 }
 
 void RelativeDateFormatter::setLocale(const QLocale& locale)

@@ -35,6 +35,9 @@ public:
     /** The text for a moment; a null string, with a message, on failure. */
     QString format(const QDateTime& dateTime) const;
 
+    /** Deletes what this object replaces, or keeps it while a message handler has interrupted a call of it. */
+    void keepWhileInUse(std::unique_ptr<RelativeDateFormatterPrivate> previous);
+
     RelativeDateFormatter* q;
     RelativeDateFormat::Type type;
     QDateTime anchorTime;
@@ -43,6 +46,8 @@ public:
     int count = 0;
     std::vector<std::unique_ptr<DateOffsetRange>> ranges;
     std::vector<std::unique_ptr<RelativeDatePattern>> patterns;
+    mutable int uses = 0;
+    std::vector<std::unique_ptr<RelativeDateFormatterPrivate>> predecessors;
 };
 
 } // namespace zel::utility::i18n
