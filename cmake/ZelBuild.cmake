@@ -13,9 +13,12 @@ set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 
-# An installed tree finds its parts from where it stands, so that it can be moved.
+# Programs and libraries find each other from where they are, in the build tree as in an installed tree that was moved.
+# A path that CMake replaces on installation would have empty entries, which the loader reads as the current directory.
 file(RELATIVE_PATH libraryFromProgram "${CMAKE_INSTALL_FULL_BINDIR}" "${CMAKE_INSTALL_FULL_LIBDIR}")
-set(CMAKE_INSTALL_RPATH "$ORIGIN" "$ORIGIN/${libraryFromProgram}")
+set(CMAKE_INSTALL_RPATH "$ORIGIN" "$ORIGIN/${libraryFromProgram}" "$ORIGIN/../lib")
+list(REMOVE_DUPLICATES CMAKE_INSTALL_RPATH)
+set(CMAKE_BUILD_WITH_INSTALL_RPATH ON)
 
 if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
     set(CMAKE_BUILD_TYPE RelWithDebInfo CACHE STRING "Build type" FORCE)
@@ -40,3 +43,13 @@ if(ZEL_SANITIZE)
     add_compile_options(-fsanitize=${ZEL_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
     add_link_options(-fsanitize=${ZEL_SANITIZE})
 endif()
+
+# zel_link_library(TARGET MAP): exports what the version script MAP names. The library stays loaded when the plug-in
+# that brought it is unloaded, because Qt keeps pointers to its meta-types.
+function(zel_link_library target map)
+    set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS "${map}")
+    target_link_options(${target} PRIVATE "LINKER:--version-script=${map}" "LINKER:-z,nodelete")
+    if(NOT ZEL_SANITIZE) # the program has the sanitizer's functions
+        target_link_options(${target} PRIVATE "LINKER:--no-undefined")
+    endif()
+endfunction()

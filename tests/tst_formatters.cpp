@@ -136,6 +136,7 @@ void FormattersTest::skeletons_data()
     row("fa_IR", 24, "yMMMM", "مهٔ ۲۰۱۲");
     row("sr_Latn_RS", 24, "yMMMMd", "16. maj 2012.");
     row("en_US", 12, "", "");
+    row("en_US", 12, "???", "");
 }
 
 void FormattersTest::skeletons()

@@ -51,7 +51,10 @@ public:
     explicit CustomDateFormatter(const QString& skeleton, QObject* parent = nullptr);
     ~CustomDateFormatter() override;
 
-    /** True once a pattern could be made of a skeleton; it stays true from then on. */
+    /**
+     * True once a pattern could be made of a skeleton; it stays true from then on. ICU ignores what is not a field: a
+     * formatter for the skeleton "" or "???" is valid, and its texts are empty.
+     */
     Q_INVOKABLE bool isValid() const;
 
     /** The skeleton as it was set last, also when no pattern could be made of it. */

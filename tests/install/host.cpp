@@ -1,0 +1,16 @@
+// Unloads a plug-in that used the library, and asks Qt for a type that the plug-in left behind.
+#include <QtCore/QLibrary>
+#include <QtCore/QMetaObject>
+#include <QtCore/QTextStream>
+
+int main(int /*argc*/, char** argv)
+{
+    QLibrary plugin(QString::fromLocal8Bit(argv[1]));
+    auto* const meta = reinterpret_cast<const QMetaObject* (*)()>(plugin.resolve("metaObject"));
+    if (meta == nullptr) {
+        return 1;
+    }
+    const QMetaObject* const left = meta();
+    plugin.unload();
+    QTextStream(stdout) << left->className() << '\n';
+}
