@@ -14,6 +14,7 @@ struct PpsContents
     QString error;         ///< empty where the file could be read
     bool hopeless = false; ///< no write of the object can mend the error
     FileStamp stamp = {};  ///< of the file just before it was read
+    bool settled = false;  ///< a change since then shows in the stamp
 
     static PpsContents read(const QString& file);
 

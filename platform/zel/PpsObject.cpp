@@ -16,10 +16,16 @@ namespace zel {
 class PpsObject::Private
 {
 public:
-    explicit Private(const QString& objectPath) : path(objectPath), file(filePath(objectPath)) {}
+    explicit Private(const QString& objectPath)
+        : path(objectPath),
+          file(filePath(objectPath)),
+          encodedFile(QFile::encodeName(file))
+    {
+    }
 
     const QString path;
     const QString file;
+    const QByteArray encodedFile;
     QFlags<PpsOpenMode::Type> mode;
     PpsContents seen;       // what was last read or announced
     bool announced = false; // readyRead() is being emitted for what was seen
@@ -90,6 +96,11 @@ QByteArray PpsObject::read(bool* ok)
         *ok = done;
     }
     return done ? d->seen.bytes : QByteArray();
+}
+
+bool PpsObject::isCurrent() const
+{
+    return !d->announced && d->seen.settled && FileStamp(d->encodedFile.constData()) == d->seen.stamp;
 }
 
 bool PpsObject::write(const QByteArray& contents)

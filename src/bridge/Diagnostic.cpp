@@ -1,5 +1,6 @@
 #include "bridge/Diagnostic.h"
 
+#include "bridge/DeferredMessages.h"
 #include <QtCore/QDateTime>
 #include <QtCore/QDebug>
 #include <QtCore/QLatin1String>
@@ -49,6 +50,9 @@ void Diagnostic::append(QString& text, const QDateTime& item)
 
 void Diagnostic::hand(QtMsgType type, const QString& text)
 {
+    if (DeferredMessages::hold(type, text)) {
+        return;
+    }
     const QByteArray utf8 = text.toUtf8();
     // With the category "default", as qWarning() has it; a handler may compare it.
     const QMessageLogger logger(nullptr, 0, nullptr);

@@ -25,6 +25,7 @@ class Diagnostic
 public:
     Diagnostic() = delete;
 
+    /** The message is held back while a DeferredMessages lives on this thread. */
     template <typename... Items>
     static void write(QtMsgType type, const Items&... items)
     {
@@ -34,6 +35,8 @@ public:
     }
 
 private:
+    friend class DeferredMessages;
+
     static void append(QString& text, const char* item);
     static void append(QString& text, int item);
     static void append(QString& text, const QString& item);

@@ -1,10 +1,8 @@
 #include "settings/ClockSetting.h"
 
 #include "bridge/Diagnostic.h"
-#include "settings/PpsManager.h"
-#include <QtCore/QMutexLocker>
+#include "settings/SharedReader.h"
 #include <QtCore/QRecursiveMutex>
-#include <QtCore/QScopeGuard>
 
 namespace zel::utility::i18n {
 
@@ -24,15 +22,14 @@ QRecursiveMutex getPpsManager;
 
 ClockSetting::ClockSetting(QObject* parent) : QObject(parent)
 {
-    if (const PpsManager* const manager = getPpsManager()) {
-        connect(manager, SIGNAL(changed()), this, SIGNAL(changed()));
+    if (const SettingListener* const listener = SharedReader<ClockSetting>::listener(getPpsManager())) {
+        connect(listener, SIGNAL(changed()), this, SIGNAL(changed()));
     }
 }
 
 ClockFormat::Type ClockSetting::clockFormat()
 {
-    const PpsManager* const manager = getPpsManager();
-    const QVariant value = manager == nullptr ? QVariant() : manager->value();
+    const QVariant value = SharedReader<ClockSetting>::value(getPpsManager());
     if (!value.isValid()) {
         return ClockFormat::Use12hourClock;
     }
@@ -50,19 +47,7 @@ ClockFormat::Type ClockSetting::clockFormat()
 
 PpsManager* ClockSetting::getPpsManager()
 {
-    const QMutexLocker locker(&mutex::getPpsManager);
-    // A message handler that asks for the setting is called in the middle of a first read that fails.
-    static thread_local bool creating = false;
-    // Something may still be formatted when the process has destroyed the reader.
-    static bool destroyed = false;
-    if (creating || destroyed) {
-        return nullptr;
-    }
-    creating = true;
-    static PpsManager ppsManager(pps::path, pps::map, pps::key, nullptr);
-    static const auto atExit = qScopeGuard([] { destroyed = true; });
-    creating = false;
-    return &ppsManager;
+    return SharedReader<ClockSetting>::get(mutex::getPpsManager, pps::path, pps::map, pps::key);
 }
 
 } // namespace zel::utility::i18n

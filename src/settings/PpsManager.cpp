@@ -2,16 +2,14 @@
 
 namespace zel::utility::i18n {
 
-void PpsManager::setValue(const QVariant& value)
+bool PpsManager::setValue(const QVariant& value)
 {
-    {
-        const std::lock_guard lock(m_valueMutex);
-        if (value == m_value) {
-            return;
-        }
-        m_value = value;
+    const std::lock_guard lock(m_valueMutex);
+    if (value == m_value) {
+        return false;
     }
-    Q_EMIT changed();
+    m_value = value;
+    return true;
 }
 
 } // namespace zel::utility::i18n

@@ -16,6 +16,8 @@ namespace zel::utility::i18n {
  * on any thread. An object that cannot be opened leaves the value invalid for good; one that cannot be read or decoded
  * leaves it as it was.
  *
+ * One that several threads use is moved to none: instead of an event loop, refresh() makes it notice changes.
+ *
  * @code
  * PpsManager manager("/pps/system/settings", "@settings", "hourFormat", nullptr);
  * manager.value().toInt(); // 24
@@ -37,8 +39,18 @@ public:
     PpsManager(const char* path, const char* map, const char* key, QObject* parent);
     ~PpsManager() override;
 
+    const char* path() const { return m_path; }
+
     /** The attribute's last value; invalid where it is not set. */
     QVariant value() const;
+
+    /**
+     * Reads the attribute again if the object has changed; an unchanged one costs one stat(). Any thread may call once
+     * the manager belongs to none. A broken object is reported once.
+     *
+     * @return false if the object is being written just now and cannot be read, so that another call is needed soon
+     */
+    bool refresh();
 
     ZEL_UTILITY_I18N_SIGNALS
     /** The value has been replaced by a different one. */
@@ -51,7 +63,12 @@ private:
     /** What the platform has behind the attribute; each platform unit defines its own. */
     class Source;
 
-    void setValue(const QVariant& value);
+    /** Reads the object, as refresh() does; what was announced is reported in any case. */
+    bool update(bool announced);
+    void report(const QString& error, const QByteArray& payload, bool again);
+
+    /** Returns whether the value is another one. */
+    bool setValue(const QVariant& value);
 
     std::unique_ptr<Source> m_source;
     const char* m_path;

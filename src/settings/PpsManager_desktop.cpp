@@ -46,7 +46,8 @@ PpsManager::PpsManager(const char* path, const char* map, const char* key, QObje
                           QStringLiteral("no setting of this host stands for it"));
         return;
     }
-    connect(m_source->setting.get(), SIGNAL(changed()), this, SLOT(onPpsUpdate()));
+    // Direct: the manager may belong to no thread.
+    connect(m_source->setting.get(), SIGNAL(changed()), this, SLOT(onPpsUpdate()), Qt::DirectConnection);
     onPpsUpdate();
 }
 
@@ -58,6 +59,11 @@ QVariant PpsManager::value() const
     return m_source->setting ? m_source->setting->value() : QVariant();
 }
 
+bool PpsManager::refresh()
+{
+    return true;
+}
+
 void PpsManager::onPpsUpdate()
 {
     if (!m_source->setting) {
@@ -65,7 +71,9 @@ void PpsManager::onPpsUpdate()
                           "called without a PpsObject");
         return;
     }
-    setValue(value());
+    if (setValue(value())) {
+        Q_EMIT changed();
+    }
 }
 
 } // namespace zel::utility::i18n

@@ -2,9 +2,13 @@
 
 #include "settings/PpsManager.h"
 
+#include "bridge/DeferredMessages.h"
 #include "bridge/Diagnostic.h"
+#include <mutex>
 #include <QtCore/QString>
 #include <QtCore/QVariantMap>
+#include <shared_mutex>
+#include <utility>
 #include <zel/PpsObject.h>
 
 namespace zel::utility::i18n {
@@ -21,6 +25,9 @@ class PpsManager::Source : public zel::PpsObject
 {
 public:
     using PpsObject::PpsObject;
+
+    std::shared_mutex mutex; // for everything but notification
+    QByteArray failure;      // what was last reported
 };
 
 PpsManager::PpsManager(const char* path, const char* map, const char* key, QObject* parent)
@@ -51,25 +58,66 @@ QVariant PpsManager::value() const
     return m_value;
 }
 
+bool PpsManager::refresh()
+{
+    if (!m_source) {
+        return true;
+    }
+    {
+        // Threads look at the file side by side; only a change makes them wait for each other.
+        const std::shared_lock lock(m_source->mutex);
+        if (m_source->isCurrent()) {
+            return true;
+        }
+    }
+    return update(false);
+}
+
 void PpsManager::onPpsUpdate()
 {
     if (!m_source) {
         Diagnostic::write(QtCriticalMsg, updateSignature, "called without a PpsObject");
         return;
     }
+    update(true);
+}
+
+bool PpsManager::update(bool announced)
+{
+    const DeferredMessages messages;
+    std::unique_lock lock(m_source->mutex);
     bool ok = false;
     const QByteArray payload = m_source->read(&ok);
-    if (!ok) {
-        Diagnostic::write(QtWarningMsg, updateSignature, "failed to read PPS at", m_path, " : ",
-                          m_source->errorString());
-        return;
-    }
+    const QString error = ok ? QString() : m_source->errorString();
     const QVariantMap record = zel::PpsObject::decode(payload, &ok);
     if (!ok) {
-        Diagnostic::write(QtWarningMsg, updateSignature, "failed to decode PPS payload from", m_path);
+        const bool unsettled = !announced && !m_source->isCurrent();
+        if (!unsettled) {
+            report(error, payload, announced);
+        }
+        return !unsettled;
+    }
+    m_source->failure.clear();
+    const bool isOther = setValue(record.value(QString::fromLatin1(m_map)).toMap().value(QString::fromLatin1(m_key)));
+    lock.unlock();
+    if (isOther) {
+        Q_EMIT changed();
+    }
+    return true;
+}
+
+void PpsManager::report(const QString& error, const QByteArray& payload, bool again)
+{
+    const QByteArray failure = error.toUtf8() + payload;
+    const bool isNews = failure != std::exchange(m_source->failure, failure);
+    if (!isNews && !again) {
         return;
     }
-    setValue(record.value(QString::fromLatin1(m_map)).toMap().value(QString::fromLatin1(m_key)));
+    if (error.isEmpty()) {
+        Diagnostic::write(QtWarningMsg, updateSignature, "failed to decode PPS payload from", m_path);
+    } else {
+        Diagnostic::write(QtWarningMsg, updateSignature, "failed to read PPS at", m_path, " : ", error);
+    }
 }
 
 } // namespace zel::utility::i18n

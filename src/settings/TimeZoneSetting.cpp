@@ -1,9 +1,7 @@
 #include "settings/TimeZoneSetting.h"
 
-#include "settings/PpsManager.h"
-#include <QtCore/QMutexLocker>
+#include "settings/SharedReader.h"
 #include <QtCore/QRecursiveMutex>
-#include <QtCore/QScopeGuard>
 
 namespace zel::utility::i18n {
 
@@ -23,32 +21,19 @@ QRecursiveMutex getPpsManager;
 
 TimeZoneSetting::TimeZoneSetting(QObject* parent) : QObject(parent)
 {
-    if (const PpsManager* const manager = getPpsManager()) {
-        connect(manager, SIGNAL(changed()), this, SIGNAL(changed()));
+    if (const SettingListener* const listener = SharedReader<TimeZoneSetting>::listener(getPpsManager())) {
+        connect(listener, SIGNAL(changed()), this, SIGNAL(changed()));
     }
 }
 
 QString TimeZoneSetting::timeZone()
 {
-    const PpsManager* const manager = getPpsManager();
-    return manager == nullptr ? QString() : manager->value().toString();
+    return SharedReader<TimeZoneSetting>::value(getPpsManager()).toString();
 }
 
 PpsManager* TimeZoneSetting::getPpsManager()
 {
-    const QMutexLocker locker(&mutex::getPpsManager);
-    // A message handler that asks for the setting is called in the middle of a first read that fails.
-    static thread_local bool creating = false;
-    // Something may still be formatted when the process has destroyed the reader.
-    static bool destroyed = false;
-    if (creating || destroyed) {
-        return nullptr;
-    }
-    creating = true;
-    static PpsManager ppsManager(pps::path, pps::map, pps::key, nullptr);
-    static const auto atExit = qScopeGuard([] { destroyed = true; });
-    creating = false;
-    return &ppsManager;
+    return SharedReader<TimeZoneSetting>::get(mutex::getPpsManager, pps::path, pps::map, pps::key);
 }
 
 } // namespace zel::utility::i18n

@@ -11,9 +11,7 @@ class PpsManager;
 
 /**
  * The time zone of the device. An object of this class relays the changes of the one reader that the process keeps.
- *
- * The reader belongs to the thread that first asked for the setting and hears of changes through that thread's event
- * loop.
+ * They arrive through the event loop of the thread that created the object; a thread without one can ask at any time.
  */
 class TimeZoneSetting : public QObject
 {
@@ -21,7 +19,7 @@ class TimeZoneSetting : public QObject
     Q_DISABLE_COPY_MOVE(TimeZoneSetting)
 
 public:
-    /** One made while the reader is being created, by a message handler that is called then, hears of no change. */
+    /** An instance constructed re-entrantly while the reader is being created receives no changed(). */
     explicit TimeZoneSetting(QObject* parent);
     ~TimeZoneSetting() override = default;
 

@@ -71,6 +71,12 @@ public:
     QByteArray read(bool* ok = nullptr);
 
     /**
+     * Whether read() would give what it last gave, for all that the file's status tells. Costs one stat(); false, too,
+     * while the file is so new that a further change would not show.
+     */
+    bool isCurrent() const;
+
+    /**
      * Replaces the object as a whole, so that no reader ever sees half of it, and creates its directories where they
      * are missing. Contents that decode() would refuse are not written.
      */

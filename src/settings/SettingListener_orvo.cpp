@@ -1,0 +1,50 @@
+// Changes of settings, heard from the settings service of the device platform.
+
+#include "settings/SettingListener.h"
+
+#include "settings/PpsManager.h"
+#include <QtCore/QTimer>
+#include <zel/PpsObject.h>
+
+namespace zel::utility::i18n {
+
+namespace {
+
+constexpr int writeInterval = 20; // milliseconds that an object may be half written
+constexpr int openInterval = 1000;
+
+} // namespace
+
+class SettingListener::Source : public zel::PpsObject
+{
+public:
+    using PpsObject::PpsObject;
+};
+
+SettingListener::SettingListener(PpsManager* manager)
+    : m_manager(manager),
+      m_source(std::make_unique<Source>(QString::fromLatin1(manager->path())))
+{
+    connect(manager, SIGNAL(changed()), this, SIGNAL(changed()), Qt::QueuedConnection);
+    connect(m_source.get(), SIGNAL(readyRead()), this, SLOT(onChange()));
+    listen();
+}
+
+SettingListener::~SettingListener() = default;
+
+// The reader has reported an object that cannot be opened.
+void SettingListener::listen()
+{
+    if (!m_source->open(zel::PpsOpenMode::Subscribe)) {
+        QTimer::singleShot(openInterval, this, SLOT(listen()));
+    }
+}
+
+void SettingListener::onChange()
+{
+    if (!m_manager->refresh()) {
+        QTimer::singleShot(writeInterval, this, SLOT(onChange()));
+    }
+}
+
+} // namespace zel::utility::i18n

@@ -1,0 +1,76 @@
+#ifndef ZEL_UTILITY_I18N_SETTINGS_SHAREDREADER_H
+#define ZEL_UTILITY_I18N_SETTINGS_SHAREDREADER_H
+
+#include "bridge/DeferredMessages.h"
+#include "settings/PpsManager.h"
+#include "settings/SettingListener.h"
+#include <QtCore/QMutexLocker>
+#include <QtCore/QRecursiveMutex>
+#include <QtCore/QScopeGuard>
+
+namespace zel::utility::i18n {
+
+/** The reader of a setting that all threads share, and what each thread hears of it. Setting tells settings apart. */
+template <typename Setting>
+class SharedReader
+{
+public:
+    SharedReader() = delete;
+
+    /** The one reader; null on a thread that is just creating it, and when the process has destroyed it. */
+    static PpsManager* get(QRecursiveMutex& mutex, const char* path, const char* map, const char* key)
+    {
+        const DeferredMessages messages;
+        const QMutexLocker locker(&mutex);
+        // A message handler that Qt calls while the reader is created may ask for the setting.
+        static thread_local bool creating = false;
+        if (creating || s_destroyed) {
+            return nullptr;
+        }
+        creating = true;
+        static Reader ppsManager(path, map, key);
+        creating = false;
+        return &ppsManager;
+    }
+
+    /** The value as of now; invalid without a reader. */
+    static QVariant value(PpsManager* manager)
+    {
+        if (manager == nullptr) {
+            return {};
+        }
+        manager->refresh();
+        return manager->value();
+    }
+
+    /** The listener of this thread; null without a reader, and when the thread has destroyed it. */
+    static const SettingListener* listener(PpsManager* manager)
+    {
+        static thread_local bool destroyed = false;
+        if (manager == nullptr || destroyed) {
+            return nullptr;
+        }
+        static thread_local const SettingListener threadListener(manager);
+        static thread_local const auto atExit = qScopeGuard([] { destroyed = true; });
+        return &threadListener;
+    }
+
+private:
+    /** Belongs to no thread, so that none that ends leaves it deaf. */
+    class Reader : public PpsManager
+    {
+    public:
+        Reader(const char* path, const char* map, const char* key) : PpsManager(path, map, key, nullptr)
+        {
+            moveToThread(nullptr);
+        }
+        ~Reader() override { s_destroyed = true; }
+    };
+
+    // Something may still be formatted when the process has destroyed the reader.
+    inline static bool s_destroyed = false;
+};
+
+} // namespace zel::utility::i18n
+
+#endif
