@@ -27,9 +27,10 @@ build_dir() {
     esac
 }
 
+# configure PRESET: warnings are errors only where the caller exports ZEL_WERROR=ON, as CI does with its one compiler.
 configure() {
     local output
-    output=$(cmake --preset "$1" 2>&1) || { printf '%s\n' "$output" >&2; fail "cannot configure preset $1"; }
+    output=$(cmake --preset "$1" "-DZEL_WERROR=${ZEL_WERROR:-OFF}" 2>&1) || { printf '%s\n' "$output" >&2; fail "cannot configure preset $1"; }
 }
 
 # build PRESET [TARGET...]: configures and builds; silent on success except for progress on a terminal.
