@@ -39,7 +39,7 @@ private:
 };
 
 const QLocale locale(QStringLiteral("en_US"));
-const QDateTime anchor(QDate(2012, 5, 16), QTime(10, 30), Qt::LocalTime);
+const QDateTime anchor(QDate(2012, 5, 16), QTime(10, 30));
 const QString dateSkeleton = QStringLiteral("yMMMd");
 const QString timeSkeleton = QStringLiteral("yMMMdhm");
 const QString zoneSkeleton = QStringLiteral("yMMMdhmz");

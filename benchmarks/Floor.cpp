@@ -45,10 +45,10 @@ UDate instant(const QDateTime& moment)
     return static_cast<UDate>(moment.toMSecsSinceEpoch());
 }
 
-UDate wallClock(QDateTime moment)
+UDate wallClock(const QDateTime& moment)
 {
-    moment.setTimeSpec(Qt::UTC);
-    return instant(moment);
+    constexpr UDate day = 86'400'000;
+    return day * static_cast<UDate>(QDate(1970, 1, 1).daysTo(moment.date())) + moment.time().msecsSinceStartOfDay();
 }
 
 icu::ResourceBundle open(const icu::Locale& locale, std::initializer_list<const char*> path, UErrorCode& status)

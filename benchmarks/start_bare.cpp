@@ -29,7 +29,8 @@ icu::Locale locale()
 UDate moment()
 {
 #ifdef ZEL_WITH_QT
-    return static_cast<UDate>(QDateTime(QDate(2012, 5, 16), QTime(10, 30), Qt::UTC).toMSecsSinceEpoch());
+    return static_cast<UDate>(
+        QDateTime::fromString(QStringLiteral("2012-05-16T10:30Z"), Qt::ISODate).toMSecsSinceEpoch());
 #else
     return 1337164200000.0;
 #endif

@@ -56,7 +56,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (const char* const next = input.PickValueInArray(regions); std::exchange(region, next) != next) {
         ZEL_REQUIRE(settings.setRegion(next));
     }
-    const QDateTime moment = QDateTime::fromMSecsSinceEpoch(input.ConsumeIntegral<std::int64_t>(), Qt::UTC);
+    const QDateTime moment = QDateTime::fromMSecsSinceEpoch(input.ConsumeIntegral<std::int64_t>()).toUTC();
     const QString first = skeletonOf(input.ConsumeRandomLengthString());
     const QString second = skeletonOf(input.ConsumeRemainingBytesAsString());
 

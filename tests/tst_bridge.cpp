@@ -170,7 +170,7 @@ void BridgeTest::messagesAreTheirItemsEachWithOneSpace()
 {
     MessageLog log;
     const QStringList keys{QStringLiteral("units"), QStringLiteral("minute-past")};
-    const QDateTime noon(QDate(2012, 5, 16), QTime(12, 0), Qt::UTC);
+    const QDateTime noon = QDateTime::fromString(QStringLiteral("2012-05-16T12:00Z"), Qt::ISODate);
     Diagnostic::write(QtDebugMsg, "at", 5, keys, QStringList());
     Diagnostic::write(QtWarningMsg, QString::fromUtf8("a \"b\" \\ \n ü 100%s"), "done");
     Diagnostic::write(QtCriticalMsg, noon);

@@ -90,7 +90,7 @@ public Q_SLOTS:
 
 namespace {
 
-const QDateTime moment(QDate(2012, 5, 16), QTime(15, 5), Qt::UTC);
+const QDateTime moment = QDateTime::fromString(QStringLiteral("2012-05-16T15:05Z"), Qt::ISODate);
 
 /** Runs as a portal until the standard input ends; each line of it is a new value. */
 int servePortal(int argc, char** argv)

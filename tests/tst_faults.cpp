@@ -135,7 +135,7 @@ int showDates()
     root.setClock("24");
     root.setRegion("de_DE");
     MessageLog log;
-    const QDateTime anchor(QDate(2024, 5, 15), QTime(12, 0), Qt::UTC);
+    const QDateTime anchor = QDateTime::fromString(QStringLiteral("2024-05-15T12:00Z"), Qt::ISODate);
     RelativeDateFormatter relative(RelativeDateFormat::TimeCritical);
     relative.setAnchorTime(anchor);
     QStringList lines{relative.format(anchor.addSecs(-10800)), relative.format(anchor.addDays(-1)),

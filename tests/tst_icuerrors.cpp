@@ -32,8 +32,8 @@ constexpr int atOnce = IcuFaults::FailsAtOnce;
 constexpr int missing = U_MISSING_RESOURCE_ERROR;
 
 const QLocale austrian(QStringLiteral("de_AT"));
-const QDateTime moment(QDate(2012, 5, 1), QTime(12, 25), Qt::UTC);
-const QDateTime anchor(QDate(2012, 5, 1), QTime(10, 0), Qt::UTC);
+const QDateTime moment = QDateTime::fromString(QStringLiteral("2012-05-01T12:25Z"), Qt::ISODate);
+const QDateTime anchor = QDateTime::fromString(QStringLiteral("2012-05-01T10:00Z"), Qt::ISODate);
 
 QString localeName()
 {

@@ -15,7 +15,7 @@ Q_DECLARE_METATYPE(Write)
 
 namespace {
 
-const QDateTime anchor(QDate(2012, 5, 16), QTime(12, 0), Qt::UTC);
+const QDateTime anchor = QDateTime::fromString(QStringLiteral("2012-05-16T12:00Z"), Qt::ISODate);
 
 /** The resident size of this process in kilobytes. */
 qint64 residentSize()

@@ -194,8 +194,8 @@ void RelativeTest::distances()
 void RelativeTest::timeSpecificationsDoNotCount()
 {
     const QDate day(2012, 3, 25);
-    const QDateTime local(day, QTime(10, 0), Qt::LocalTime);
-    const QDateTime shifted(day, QTime(10, 0), Qt::OffsetFromUTC, 5 * 3600);
+    const QDateTime local(day, QTime(10, 0));
+    const QDateTime shifted = QDateTime::fromString(QStringLiteral("2012-03-25T10:00+05:00"), Qt::ISODate);
     for (const auto element : {RelativeDateElement::Minutes, RelativeDateElement::Hours, RelativeDateElement::NamedDays,
                                RelativeDateElement::Years}) {
         QCOMPARE(RelativeDate::offset(local, shifted, element), 0);

@@ -128,7 +128,7 @@ void ResourcesTest::walksAKeyPath()
 
 void ResourcesTest::apostrophesStandAsTheyAre()
 {
-    const QDateTime anchor(QDate(2012, 5, 16), QTime(12, 0), Qt::UTC);
+    const QDateTime anchor = QDateTime::fromString(QStringLiteral("2012-05-16T12:00Z"), Qt::ISODate);
     const RelativeDatePattern pattern(QLocale(QStringLiteral("de_DE")), ClockFormat::Use24hourClock, anchor,
                                       QStringLiteral("E"), {RelativeDateElement::NamedDays}, nullptr);
     QCOMPARE(pattern.format(anchor.addDays(-1)), QStringLiteral("d'hier"));

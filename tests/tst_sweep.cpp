@@ -33,7 +33,7 @@ constexpr std::array<DateFormat::Type, 4> lengths{DateFormat::Short, DateFormat:
 
 // No other number of it looks like its hour, its year is in the century that Qt takes two digits for, and in no locale
 // does the name of its weekday begin that of another one, which Qt would stop at.
-const QDateTime moment(QDate(1987, 11, 30), QTime(15, 8, 42), Qt::UTC);
+const QDateTime moment = QDateTime::fromString(QStringLiteral("1987-11-30T15:08:42Z"), Qt::ISODate);
 
 const QStringList skeletons{
     QStringLiteral("y"),      QStringLiteral("yM"),      QStringLiteral("yMd"),         QStringLiteral("yMMM"),

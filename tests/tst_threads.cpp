@@ -23,7 +23,7 @@ using namespace zel::utility::i18n;
 
 namespace {
 
-const QDateTime anchor(QDate(2012, 5, 16), QTime(15, 5), Qt::UTC);
+const QDateTime anchor = QDateTime::fromString(QStringLiteral("2012-05-16T15:05Z"), Qt::ISODate);
 
 /** The formatters of one thread. */
 class Formatters

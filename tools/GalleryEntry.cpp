@@ -17,7 +17,7 @@ namespace RelativeDateFormat = zel::utility::i18n::RelativeDateFormat;
 // In the evening, when the clocks differ, and in a zone that is the same everywhere.
 QDateTime moment()
 {
-    return {QDate(2012, 5, 16), QTime(22, 30), Qt::UTC};
+    return QDateTime::fromString(QStringLiteral("2012-05-16T22:30Z"), Qt::ISODate);
 }
 
 /** Collects rows, each with the messages that came up while it was made. */

@@ -104,7 +104,11 @@ QDateTime dateTime(const QDate& day, const QTime& time, const std::optional<int>
     if (!offset) {
         return {day, time};
     }
-    return *offset == 0 ? QDateTime(day, time, Qt::UTC) : QDateTime(day, time, Qt::OffsetFromUTC, *offset);
+    // Constructors that take an offset are deprecated in Qt 6.9, and what replaces them is not in Qt 5.
+    QDateTime reading = QDateTime::fromMSecsSinceEpoch(0).toUTC();
+    reading.setDate(day);
+    reading.setTime(time);
+    return reading.addSecs(-*offset).toOffsetFromUtc(*offset);
 }
 
 QString shown(std::string_view text)

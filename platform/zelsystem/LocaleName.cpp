@@ -13,9 +13,9 @@ constexpr int longestName = 100;
 
 // Never destroyed: something may still be formatted while the process destroys its static objects.
 template <typename Object, typename... Arguments>
-const Object& lasting(Arguments&&... arguments)
+const Object* lasting(Arguments&&... arguments)
 {
-    return *std::make_unique<Object>(std::forward<Arguments>(arguments)...).release();
+    return std::make_unique<Object>(std::forward<Arguments>(arguments)...).release();
 }
 
 struct Parts
@@ -29,13 +29,13 @@ std::optional<Parts> split(const QString& name)
 {
     // Language, script, territory, variants, extensions; then codeset and modifier of a POSIX name.
     static const auto& form =
-        lasting<QRegularExpression>(QStringLiteral("\\A([a-z]{2,3})(?:[-_]([a-z]{4}))?(?:[-_]([a-z]{2}|[0-9]{3}))?"
-                                                   "(?:[-_](?:[a-z0-9]{5,8}|[0-9][a-z0-9]{3}))*"
-                                                   "(?:-[a-z0-9](?:-[a-z0-9]{2,8})+)*"
-                                                   "(?:\\.[a-z0-9-]+)?(?:@([a-z]+))?\\z"),
-                                    QRegularExpression::CaseInsensitiveOption);
+        *lasting<QRegularExpression>(QStringLiteral("\\A([a-z]{2,3})(?:[-_]([a-z]{4}))?(?:[-_]([a-z]{2}|[0-9]{3}))?"
+                                                    "(?:[-_](?:[a-z0-9]{5,8}|[0-9][a-z0-9]{3}))*"
+                                                    "(?:-[a-z0-9](?:-[a-z0-9]{2,8})+)*"
+                                                    "(?:\\.[a-z0-9-]+)?(?:@([a-z]+))?\\z"),
+                                     QRegularExpression::CaseInsensitiveOption);
     using Scripts = QHash<QString, QString>;
-    static const auto& modifierScripts = lasting<Scripts>(Scripts{
+    static const auto& modifierScripts = *lasting<Scripts>(Scripts{
         {QStringLiteral("latin"), QStringLiteral("Latn")},
         {QStringLiteral("cyrillic"), QStringLiteral("Cyrl")},
         {QStringLiteral("devanagari"), QStringLiteral("Deva")},
@@ -72,7 +72,7 @@ QString join(const Parts& parts)
 bool hasScript(const QLocale& locale, const QString& code)
 {
     using Scripts = QHash<QString, QLocale::Script>;
-    static const auto& shared = lasting<Scripts>(Scripts{
+    static const auto& shared = *lasting<Scripts>(Scripts{
         {QStringLiteral("Arab"), QLocale::ArabicScript},
         {QStringLiteral("Cyrl"), QLocale::CyrillicScript},
         {QStringLiteral("Deva"), QLocale::DevanagariScript},

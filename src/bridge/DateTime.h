@@ -16,7 +16,7 @@ public:
     static UDate toICU(const QDateTime& dateTime);
 
     /** The date and time that a moment shows, whatever its time specification, as if it stood in GMT. */
-    static UDate wallClock(QDateTime dateTime);
+    static UDate wallClock(const QDateTime& dateTime);
 };
 
 } // namespace zel::utility::i18n
