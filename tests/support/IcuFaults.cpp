@@ -51,8 +51,16 @@ public:
 
 } // namespace
 
-ZEL_DECLARE(Keyword, void, "_ZN", "6Locale15setKeywordValueEPKcS2_R10UErrorCode", icu::Locale* self,
-            const char* keyword, const char* value, UErrorCode& error)
+#if U_ICU_VERSION_MAJOR_NUM < 76
+using KeywordText = const char*;
+#define ZEL_SET_KEYWORD "6Locale15setKeywordValueEPKcS2_R10UErrorCode"
+#else
+using KeywordText = icu::StringPiece;
+#define ZEL_SET_KEYWORD "6Locale15setKeywordValueENS_11StringPieceES1_R10UErrorCode"
+#endif
+
+ZEL_DECLARE(Keyword, void, "_ZN", ZEL_SET_KEYWORD, icu::Locale* self, KeywordText keyword, KeywordText value,
+            UErrorCode& error)
 {
     ZEL_CALL(Keyword, SetKeywordValue, void, self, keyword, value);
 }
