@@ -97,6 +97,8 @@ private Q_SLOTS:
     void answers();
     void refusals_data();
     void refusals();
+    void environments_data();
+    void environments();
     void help();
     void json_data();
     void json();
@@ -238,6 +240,28 @@ void ToolTest::refusals()
     QTEST(result.status, "status");
     QTEST(result.errors.trimmed(), "error");
     QCOMPARE(result.output, QString());
+}
+
+void ToolTest::environments_data()
+{
+    QTest::addColumn<QString>("region");
+    QTest::newRow("") << QStringLiteral("C, as neither LC_ALL, LC_TIME nor LANG is set");
+    QTest::newRow("LC_ALL=C") << QStringLiteral("C, from LC_ALL");
+    QTest::newRow("LC_ALL=de_DE.ISO-8859-1") << QStringLiteral("de_DE, from LC_ALL");
+    QTest::newRow("LC_TIME=fr_CA LC_ALL= LANG=C.UTF-8") << QStringLiteral("fr_CA, from LC_TIME");
+}
+
+/** Nothing is said about a character set, and the region stays that of the environment. */
+void ToolTest::environments()
+{
+    QFETCH(const QString, region);
+    QProcess process;
+    process.start(QStringLiteral("env"), QStringLiteral("-i %1 " ZEL_TOOL " doctor")
+                                             .arg(QLatin1String(QTest::currentDataTag()))
+                                             .split(' ', Qt::SkipEmptyParts));
+    const Result result = finished(process);
+    QCOMPARE(result.errors, QString());
+    QVERIFY2(result.output.contains(QLatin1String(" region           ") + region), qPrintable(result.output));
 }
 
 void ToolTest::help()
@@ -418,6 +442,12 @@ void ToolTest::doctorFindsWhatIsWrong()
     const SettingsRoot root;
     const Result bare = run("doctor");
     QCOMPARE(bare.status, 0);
+    const QString library = QFileInfo(QStringLiteral(ZEL_TOOL)).path() + QLatin1String("/../lib/libzelutilityi18n.so");
+    QVERIFY2(bare.output.startsWith(QStringLiteral("ok    library          " ZEL_VERSION ", %1, built by ")
+                                        .arg(QFileInfo(library).canonicalFilePath())),
+             qPrintable(bare.output));
+    QVERIFY(bare.output.contains(
+        QStringLiteral("\nok    Qt               %1, built with " QT_VERSION_STR "\n").arg(QLatin1String(qVersion()))));
     QVERIFY(bare.output.contains(QLatin1String("ok    relative dates   phrases in place: 5 minutes ago\n")));
     QVERIFY(bare.output.contains(root.file(settings) + QLatin1String(": missing\n")));
     QVERIFY(bare.output.contains(QLatin1String("note  region           C, from LC_ALL")));

@@ -16,7 +16,7 @@
 #include <unicode/unistr.h>
 #include <unicode/uversion.h>
 #include <zel/icu/DataDirectory.h>
-#include <zel/utility/i18n/RelativeDateFormat.h>
+#include <zel/utility/i18n/Formatting.h>
 
 namespace zel::tool {
 
@@ -29,17 +29,40 @@ QString versionText(const UVersionInfo version)
     return QString::fromLatin1(text.data());
 }
 
+#ifdef __clang__
+constexpr const char* compiler = "clang++ " __clang_version__;
+#else
+constexpr const char* compiler = "g++ " __VERSION__;
+#endif
+
 Finding examineLibrary()
 {
+    // A function: data of a library can be copied into the program that uses it.
+    using Function = QString (*)(double, int, int);
+    const Function function = &zel::utility::i18n::toPercentageString;
     Dl_info info = {};
-    const bool found = dladdr(&zel::utility::i18n::RelativeDateFormat::staticMetaObject, &info) != 0;
+    const bool found = dladdr(reinterpret_cast<const void*>(function), &info) != 0;
     const QString file = found ? QFileInfo(QFile::decodeName(info.dli_fname)).canonicalFilePath() : QString();
-    return {Finding::Good, QStringLiteral("library"), QStringLiteral(ZEL_VERSION ", ") + file, {}};
+    return {Finding::Good,
+            QStringLiteral("library"),
+            QStringLiteral(ZEL_VERSION ", %1, built by %2").arg(file, QString::fromLatin1(compiler).trimmed()),
+            {}};
+}
+
+/** What runs, beside what the library was built with; the program and the library are built together. */
+Finding compare(const QString& subject, const QString& built, const QString& running, const QString& more)
+{
+    const auto major = [](const QString& version) { return version.section(QLatin1Char('.'), 0, 0); };
+    const QString text = QStringLiteral("%1%2, built with %3").arg(running, more, built);
+    if (major(built) != major(running)) {
+        return {Finding::Wrong, subject, text, QStringLiteral("build the library for this version")};
+    }
+    return {Finding::Good, subject, text, {}};
 }
 
 Finding examineQt()
 {
-    return {Finding::Good, QStringLiteral("Qt"), QString::fromLatin1(qVersion()), {}};
+    return compare(QStringLiteral("Qt"), QStringLiteral(QT_VERSION_STR), QString::fromLatin1(qVersion()), {});
 }
 
 Finding examineIcu()
@@ -54,10 +77,8 @@ Finding examineIcu()
         return {Finding::Wrong, QStringLiteral("ICU"), versionText(icu) + QStringLiteral(" without its data"),
                 QStringLiteral("install ICU's data")};
     }
-    return {Finding::Good,
-            QStringLiteral("ICU"),
-            QStringLiteral("%1 with CLDR %2 and time zones %3").arg(versionText(icu), versionText(cldr), zones),
-            {}};
+    return compare(QStringLiteral("ICU"), QStringLiteral(U_ICU_VERSION), versionText(icu),
+                   QStringLiteral(" with CLDR %1 and time zones %2").arg(versionText(cldr), zones));
 }
 
 Finding examineData()

@@ -1,9 +1,11 @@
 #include "Console.h"
 #include "Device.h"
 #include "Program.h"
+#include "Utf8Environment.h"
 #include <csignal>
 #include <cstdio>
 #include <fcntl.h>
+#include <memory>
 #include <QtCore/QCoreApplication>
 #include <unistd.h>
 
@@ -40,6 +42,13 @@ void holdStandardDescriptors()
     }
 }
 
+// Qt expects UTF-8, and says so at length where a cron job or a container has nothing but the C locale.
+std::unique_ptr<QCoreApplication> createApplication(int& argc, char* argv[])
+{
+    const zel::tool::Utf8Environment environment;
+    return std::make_unique<QCoreApplication>(argc, argv);
+}
+
 int runProgram(const QStringList& words, Console& console)
 try {
     const zel::tool::ExitStatus status = Program().run(words, console);
@@ -71,7 +80,7 @@ int main(int argc, char* argv[])
     holdStandardDescriptors();
     qInstallMessageHandler(&writeMessage);
     const QStringList words = wordsOf(argc, argv);
-    const QCoreApplication application(argc, argv);
+    const auto application = createApplication(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("zel-i18n"));
     QCoreApplication::setApplicationVersion(QStringLiteral(ZEL_VERSION));
     try {

@@ -1,0 +1,35 @@
+#ifndef ZEL_TOOL_UTF8ENVIRONMENT_H
+#define ZEL_TOOL_UTF8ENVIRONMENT_H
+
+#include <optional>
+#include <string>
+
+namespace zel::tool {
+
+/**
+ * An environment that names a UTF-8 character set, for as long as the object lives. The process's C locale keeps the
+ * character set; its other categories, and the environment that the region is read from, are the caller's again
+ * afterwards. Changes nothing where the environment names UTF-8 already. To be used before the first thread starts.
+ */
+class Utf8Environment
+{
+public:
+    Utf8Environment();
+    ~Utf8Environment();
+    Utf8Environment(const Utf8Environment&) = delete;
+    Utf8Environment& operator=(const Utf8Environment&) = delete;
+
+private:
+    using Value = std::optional<std::string>;
+
+    static Value valueOf(const char* variable);
+    static void restore(const char* variable, const Value& value);
+
+    bool m_changed;
+    Value m_all;
+    Value m_characters;
+};
+
+} // namespace zel::tool
+
+#endif
