@@ -1,10 +1,14 @@
 #include "support/SettingsRoot.h"
 #include <csignal>
+#include <fcntl.h>
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 #include <QtCore/QProcess>
 #include <QtTest/QtTest>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -108,6 +112,9 @@ private Q_SLOTS:
     void answersLineByLine();
     void endsQuietlyWhenNobodyReads();
     void deviceRoundTrip();
+    void writersWaitForEachOther();
+    void valuesAreNoCommandsToTerminals();
+    void machineThatIsNoDevice();
     void nothingIsWrittenBeforeAllIsChecked();
     void tornObject();
     void rootThatCannotBeRead();
@@ -381,7 +388,9 @@ void ToolTest::deviceRoundTrip()
     const SettingsRoot root;
     QVERIFY(
         root.write(settings, "@settings\nringer::loud\\nand clear\nhourFormat:n:12\nvolume:n:0.5\nmuted:b:false\n"));
+    const mode_t umask = ::umask(077);
     const Result set = run("device|set|hour-format=24|time-zone=Europe/Berlin|region=sr_Latn_RS");
+    ::umask(umask);
     QCOMPARE(set.errors, QString());
     QCOMPARE(set.status, 0);
     QCOMPARE(run("device").output,
@@ -391,6 +400,10 @@ void ToolTest::deviceRoundTrip()
     QCOMPARE(textOf(root.file(QStringLiteral("/pps/services/confstr/_CS_TIMEZONE"))),
              QByteArray("@_CS_TIMEZONE\n_CS_TIMEZONE::Europe/Berlin\n"));
 
+    for (const char* const object : {"/pps/services/confstr/_CS_TIMEZONE", "/pps/services/confstr", "/pps/services"}) {
+        QVERIFY(QFileInfo(root.file(QLatin1String(object))).permission(QFile::ReadOther)); // the umask is 077
+    }
+
     QCOMPARE(run("device|unset|hour-format|time-zone").status, 0);
     QCOMPARE(textOf(root.file(settings)),
              QByteArray("@settings\nmuted:b:false\nringer::loud\\nand clear\nvolume:n:0.5\n"));
@@ -398,6 +411,44 @@ void ToolTest::deviceRoundTrip()
              QStringLiteral("{\"hour-format\":null,\"region\":\"sr_Latn_RS\",\"time-zone\":null}\n"));
     QCOMPARE(QDir(root.file(QStringLiteral("/pps/system"))).entryList(QDir::Files | QDir::Hidden),
              QStringList({QStringLiteral("locale"), QStringLiteral("settings")}));
+}
+
+void ToolTest::writersWaitForEachOther()
+{
+    const SettingsRoot root;
+    QVERIFY(root.setClock("12"));
+    const QByteArray directory = QFile::encodeName(root.file(QStringLiteral("/pps/system")));
+    const int lock = ::open(directory.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    QCOMPARE(::flock(lock, LOCK_EX), 0);
+    Running set("device|set|hour-format=24");
+    QVERIFY(!set.process().waitForFinished(300));
+    QVERIFY(root.write(settings, "@settings\nringer::loud\n"));
+    ::close(lock);
+    QCOMPARE(finished(set.process()).status, 0);
+    QCOMPARE(textOf(root.file(settings)), QByteArray("@settings\nhourFormat:n:24\nringer::loud\n"));
+}
+
+void ToolTest::valuesAreNoCommandsToTerminals()
+{
+    const SettingsRoot root;
+    QVERIFY(root.setRegion("de\x1b[2J\\nDE\u202e"));
+    QCOMPARE(run("device|get|region").output, QStringLiteral("de?[2J?DE?\n"));
+    const QString value = QStringLiteral("de?[2J?DE?");
+    QVERIFY(run("device").output.endsWith(value + QLatin1Char('\n')));
+    QVERIFY(run("doctor").output.contains(QLatin1String("region           ") + value + QLatin1String(", from ")));
+}
+
+void ToolTest::machineThatIsNoDevice()
+{
+    if (QFileInfo::exists(QStringLiteral("/pps"))) {
+        return; // it is one
+    }
+    qunsetenv("ZEL_PPS_ROOT");
+    const auto error = QStringLiteral("this machine has no /pps; --create makes it, with %1");
+    expectRefusal("device|set|hour-format=24|region=de_DE",
+                  error.arg(QLatin1String("/pps/system/settings, /pps/system/locale")));
+    QCOMPARE(run("device|unset|region").status, 0);
+    QVERIFY(!QFileInfo::exists(QStringLiteral("/pps")));
 }
 
 void ToolTest::nothingIsWrittenBeforeAllIsChecked()

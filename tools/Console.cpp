@@ -101,7 +101,7 @@ int Console::writeSome(const char* text, int size) const
 void Console::complain(const QString& text)
 {
     flush();
-    std::fprintf(stderr, "zel-i18n: %s\n", text.toUtf8().constData());
+    std::fprintf(stderr, "zel-i18n: %s\n", printable(text).toUtf8().constData());
 }
 
 int Console::read(char* target, int size)

@@ -20,12 +20,18 @@ public:
     /** The value of a setting, nothing where it is not set; a Failure where it cannot be read. */
     static std::optional<QString> get(const QString& key);
 
+    /** What set() may do that is a Failure otherwise. */
+    struct Permissions
+    {
+        bool replace = false; ///< write what cannot be read anew, with nothing beside the settings
+        bool create = false;  ///< make a device of a machine that is none
+    };
+
     /**
-     * Changes settings, each in one step that no reader sees half done, and leaves alone what stands beside them.
-     *
-     * @param replace write anew, with nothing beside them, what cannot be read; otherwise that is a Failure
+     * Changes settings, each in one step that no reader sees half done and no other of these commands comes between,
+     * and leaves alone what stands beside them.
      */
-    static void set(const QMap<QString, QString>& values, bool replace);
+    static void set(const QMap<QString, QString>& values, Permissions permissions);
     static void unset(const QStringList& keys);
 
     /** The user's region locale. */

@@ -20,7 +20,7 @@ void showOne(const QString& key, const Arguments& arguments, Console& console)
     if (arguments.json()) {
         console.json({{key, *value}});
     } else {
-        console.line(*value);
+        console.line(printable(*value));
     }
 }
 
@@ -31,7 +31,7 @@ void showAll(const Arguments& arguments, Console& console)
     for (const QString& key : Assignments::keys()) {
         const std::optional<QString> value = Device::get(key);
         object[key] = value ? QJsonValue(*value) : QJsonValue();
-        table.add({key, value.value_or(QStringLiteral("not set"))});
+        table.add({key, printable(value.value_or(QStringLiteral("not set")))});
     }
     if (arguments.json()) {
         console.json(object);
@@ -57,9 +57,8 @@ void set(const QStringList& words, const Arguments& arguments)
     if (words.isEmpty()) {
         throw Failure::usage(QStringLiteral("'set' needs KEY=VALUE"));
     }
-    const auto values = Assignments::parse(words);
-    const bool replace = arguments.has(QStringLiteral("replace"));
-    Device::set(values, replace);
+    Device::set(Assignments::parse(words),
+                {arguments.has(QStringLiteral("replace")), arguments.has(QStringLiteral("create"))});
 }
 
 void unset(const QStringList& keys)
@@ -86,7 +85,8 @@ CommandHelp DeviceCommand::help() const
                            "  region        the locale for dates, times and numbers, such as de_DE\n\n"
                            "and are kept below the directory that ZEL_PPS_ROOT names. All values are checked\n"
                            "before the first is written. What else stands in a settings object is kept; where\n"
-                           "an object cannot be decoded, nothing is changed without --replace."),
+                           "an object cannot be decoded, nothing is changed without --replace. A machine that\n"
+                           "has no directory for settings is made a device with --create only."),
             QStringLiteral("device\n"
                            "device get region\n"
                            "device set hour-format=24 time-zone=Europe/Berlin\n"
@@ -97,15 +97,18 @@ QList<QCommandLineOption> DeviceCommand::options() const
 {
     return {{QStringLiteral("replace"),
              QStringLiteral("With set: write a settings object that cannot be decoded\nanew, with nothing but the "
-                            "given settings.")}};
+                            "given settings.")},
+            {QStringLiteral("create"), QStringLiteral("With set: create /pps on a machine that has none.")}};
 }
 
 ExitStatus DeviceCommand::run(const Arguments& arguments, Console& console) const
 {
     const QStringList words = arguments.positional();
     const QString action = words.value(0, QStringLiteral("get"));
-    if (arguments.has(QStringLiteral("replace")) && action != QLatin1String("set")) {
-        throw Failure::usage(QStringLiteral("--replace goes with 'set' only"));
+    for (const char* const option : {"replace", "create"}) {
+        if (arguments.has(QLatin1String(option)) && action != QLatin1String("set")) {
+            throw Failure::usage(QStringLiteral("--%1 goes with 'set' only").arg(QLatin1String(option)));
+        }
     }
     if (action == QLatin1String("get")) {
         get(words.mid(1), arguments, console);

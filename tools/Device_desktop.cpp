@@ -60,7 +60,7 @@ std::optional<QString> Device::get(const QString& key)
     return region().name();
 }
 
-void Device::set(const QMap<QString, QString>& values, bool /*replace*/)
+void Device::set(const QMap<QString, QString>& values, Permissions /*permissions*/)
 {
     for (const QString& key : values.keys()) {
         if (!onlyHere) {

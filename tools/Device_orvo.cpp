@@ -3,6 +3,7 @@
 #include "Assignments.h"
 #include "Device.h"
 #include "Failure.h"
+#include "SettingsLock.h"
 #include "SettingsObject.h"
 #include <algorithm>
 #include <array>
@@ -47,6 +48,21 @@ SettingsObject toBeChanged(const QString& key, bool replace)
         throw Failure(object.fault());
     }
     return object;
+}
+
+// A directory that ZEL_PPS_ROOT names is there to be filled; on the machine itself only a device has settings.
+void requireDevice(const QStringList& keys)
+{
+    const QString directory = QStringLiteral("/pps");
+    if (*PpsObject::root() != '\0' || QFileInfo::exists(directory)) {
+        return;
+    }
+    QStringList objects;
+    for (const QString& key : keys) {
+        objects.append(placeOf(key).object);
+    }
+    throw Failure(QStringLiteral("this machine has no %1; --create makes it, with %2")
+                      .arg(directory, objects.join(QLatin1String(", "))));
 }
 
 QString rootOrSlash()
@@ -138,20 +154,25 @@ std::optional<QString> Device::get(const QString& key)
     return value.isValid() ? std::make_optional(value.toString()) : std::nullopt;
 }
 
-void Device::set(const QMap<QString, QString>& values, bool replace)
+void Device::set(const QMap<QString, QString>& values, Permissions permissions)
 {
+    if (!permissions.create) {
+        requireDevice(values.keys());
+    }
     // All are looked at before the first is written.
     for (const QString& key : values.keys()) {
         const SettingsObject object(placeOf(key).object);
-        if (object.state() == SettingsObject::Torn && !replace) {
+        if (object.state() == SettingsObject::Torn && !permissions.replace) {
             throw Failure(object.fault() + QStringLiteral("; --replace writes it anew"));
         }
-        toBeChanged(key, replace);
+        toBeChanged(key, permissions.replace);
     }
     for (auto value = values.begin(); value != values.end(); ++value) {
-        const SettingsObject object = toBeChanged(value.key(), replace);
+        const Place place = placeOf(value.key());
+        const SettingsLock lock(place.object);
+        const SettingsObject object = toBeChanged(value.key(), permissions.replace);
         QVariantMap attributes = object.attributes();
-        attributes[placeOf(value.key()).attribute] = encoded(value.key(), value.value());
+        attributes[place.attribute] = encoded(value.key(), value.value());
         object.write(attributes);
     }
 }
@@ -159,6 +180,10 @@ void Device::set(const QMap<QString, QString>& values, bool replace)
 void Device::unset(const QStringList& keys)
 {
     for (const QString& key : keys) {
+        if (SettingsObject(placeOf(key).object).state() == SettingsObject::Missing) {
+            continue;
+        }
+        const SettingsLock lock(placeOf(key).object);
         const SettingsObject object = toBeChanged(key, false);
         QVariantMap attributes = object.attributes();
         if (attributes.remove(placeOf(key).attribute) > 0) {

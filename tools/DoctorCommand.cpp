@@ -140,8 +140,8 @@ void writeTable(const QList<Finding>& findings, Console& console)
 {
     Table table;
     for (const Finding& finding : findings) {
-        table.add({statusText(finding.status), finding.subject,
-                   finding.advice.isEmpty() ? finding.text : finding.text + QLatin1String("; ") + finding.advice});
+        const QString advice = finding.advice.isEmpty() ? QString() : QLatin1String("; ") + finding.advice;
+        table.add({statusText(finding.status), finding.subject, printable(finding.text + advice)});
     }
     table.write(console);
 }

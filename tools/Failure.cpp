@@ -4,13 +4,17 @@
 
 namespace zel::tool {
 
+QString printable(QString text)
+{
+    std::replace_if(
+        text.begin(), text.end(), [](QChar c) { return !c.isPrint() && !c.isSurrogate(); }, QLatin1Char('?'));
+    return text;
+}
+
 QString quoted(const QString& word)
 {
     constexpr int enough = 60;
-    QString text = word.left(enough);
-    std::replace_if(
-        text.begin(), text.end(), [](QChar c) { return !c.isPrint() && !c.isSurrogate(); }, QLatin1Char('?'));
-    return QLatin1Char('\'') + text + QLatin1String(word.size() > enough ? "...'" : "'");
+    return QLatin1Char('\'') + printable(word.left(enough)) + QLatin1String(word.size() > enough ? "...'" : "'");
 }
 
 } // namespace zel::tool

@@ -30,6 +30,9 @@ private:
     ExitStatus m_status;
 };
 
+/** A text on one line, with nothing in it that a terminal obeys. */
+QString printable(QString text);
+
 /** A word of the user's in quotes, on one line and not too much of it. */
 QString quoted(const QString& word);
 

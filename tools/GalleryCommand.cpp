@@ -54,7 +54,7 @@ QList<GalleryEntry> entriesFor(const Arguments& arguments)
 void useClock(const QString& clock)
 {
     constexpr int patience = 5000;
-    Device::set({{Assignments::hourFormat(), clock}}, false);
+    Device::set({{Assignments::hourFormat(), clock}}, {});
     const auto follows = [twelve = clock == QLatin1String("12")] {
         const QString pattern = zel::utility::i18n::timeFormat(QLocale::c(), zel::utility::i18n::DateFormat::Short);
         return pattern.contains(QLatin1String("AP"), Qt::CaseInsensitive) == twelve;

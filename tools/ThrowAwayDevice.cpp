@@ -14,7 +14,7 @@ ThrowAwayDevice::ThrowAwayDevice(const QString& settings)
         throw Failure(QStringLiteral("no temporary directory for the device: ") + m_root.errorString());
     }
     Device::useRoot(m_root.path());
-    Device::set(values, false);
+    Device::set(values, {});
     const QString zone = values.value(Assignments::timeZone());
     if (!zone.isEmpty()) {
         qputenv("TZ", zone.toUtf8()); // moments without a zone are the device's, too

@@ -18,7 +18,7 @@ using zel::tool::Program;
 void writeMessage(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& text)
 {
     if (!zel::tool::Device::isUnset(text)) {
-        std::fprintf(stderr, "zel-i18n: %s\n", text.trimmed().toUtf8().constData());
+        std::fprintf(stderr, "zel-i18n: %s\n", zel::tool::printable(text.trimmed()).toUtf8().constData());
     }
 }
 
