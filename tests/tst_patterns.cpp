@@ -1,5 +1,6 @@
 // Patterns: ICU's in Qt syntax, and under the clock of the device. Expectations hold for ICU 72.
 
+#include "patterns/AmPmField.h"
 #include "patterns/ClockPattern.h"
 #include "patterns/FormattingPrivate.h"
 #include "settings/ClockSetting.h"
@@ -24,6 +25,8 @@ private Q_SLOTS:
     void percentages();
     void timesFollowTheClock_data();
     void timesFollowTheClock();
+    void amPmComesAndGoes_data();
+    void amPmComesAndGoes();
     void regionIsTheDefault();
     void clockRewritesSkeletons_data();
     void clockRewritesSkeletons();
@@ -178,14 +181,17 @@ void PatternsTest::timesFollowTheClock_data()
     row("de_DE", DateFormat::Full, false, "h:mm:ss AP t", "hh:mm:ss t");
     row("de_DE", DateFormat::Short, false, "h:mm AP", "hh:mm");
     row("ja_JP", DateFormat::Medium, false, "APh:mm:ss", "h:mm:ss");
-    row("zh_CN", DateFormat::Medium, false, "h:mm:ss AP", "hh:mm:ss");
+    row("zh_CN", DateFormat::Medium, false, "APh:mm:ss", "hh:mm:ss");
+    row("zh_CN", DateFormat::Full, false, "t APh:mm:ss", "t hh:mm:ss");
+    row("tr_TR", DateFormat::Short, true, "d.MM.yyyy AP h:mm", "d.MM.yyyy hh:mm");
+    row("es_ES", DateFormat::Full, false, "h:mm:ss ap (t)", "h:mm:ss (t)");
     row("zh_TW", DateFormat::Medium, false, "APh:mm:ss", "hh:mm:ss");
     row("ko_KR", DateFormat::Medium, false, "AP h:mm:ss", "hh:mm:ss");
     row("sq_AL", DateFormat::Medium, false, "h:mm:ss ap", "hh:mm:ss", true);
     // With an era in its date the text is Qt's own, which knows no clock.
     const QByteArray thai = QLocale(QStringLiteral("th_TH")).dateTimeFormat(QLocale::LongFormat).toUtf8();
     row("th_TH", DateFormat::Long, true, thai.constData(), thai.constData());
-    row("fr_CA", DateFormat::Medium, false, "h 'h' mm 'min' ss ap 's'", "hh 'h' mm 'min' ss 's'");
+    row("fr_CA", DateFormat::Medium, false, "h 'h' mm 'min' ss 's' ap", "hh 'h' mm 'min' ss 's'");
     row("fr_CA", DateFormat::Full, false, "h 'h' mm 'min' ss 's' ap t", "hh 'h' mm 'min' ss 's' t");
 }
 
@@ -207,6 +213,46 @@ void PatternsTest::timesFollowTheClock()
     const QStringList warning{QStringLiteral("warning: zel::utility::i18n::Formatting::replaceWithSystemClockFormat() "
                                              "has encountered an unsupported time format! ")};
     QCOMPARE(log.take(), unsupported ? warning : QStringList());
+}
+
+void PatternsTest::amPmComesAndGoes_data()
+{
+    QTest::addColumn<QLocale::Language>("language");
+    QTest::addColumn<QString>("pattern");
+    QTest::addColumn<QString>("added");
+    QTest::addColumn<QString>("removed");
+    const auto row = [](QLocale::Language language, const char* pattern, const char* added, const char* removed) {
+        QTest::addRow("%d %s", language, pattern)
+            << language << QString::fromUtf8(pattern) << QString::fromUtf8(added) << QString::fromUtf8(removed);
+    };
+    row(QLocale::German, "mm:ss", "mm:ss AP", "mm:ss");
+    row(QLocale::German, "", " AP", "");
+    row(QLocale::Japanese, "mm:ss", "mm:ss", "mm:ss");
+    row(QLocale::Chinese, "mm:ss", "mm:ss AP", "mm:ss");
+    row(QLocale::Cantonese, "hh:mm", "APh:mm", "hh:mm");
+    row(QLocale::Burmese, "d 'hh' hh:mm", "d 'hh' AP h:mm", "d 'hh' hh:mm");
+    row(QLocale::Spanish, "h:mm:ss (t)", "h:mm:ss AP (t)", "hh:mm:ss (t)");
+    row(QLocale::Spanish, "h:mm:ss(t)", "h:mm:ss AP(t)", "hh:mm:ss(t)");
+    row(QLocale::Spanish, "h:mm:ss, t", "h:mm:ss AP, t", "hh:mm:ss, t");
+    row(QLocale::Bulgarian, "h:mm 'ч'.", "h:mm 'ч'. AP", "hh:mm 'ч'.");
+    row(QLocale::French, "hh'h'mm'min'", "h'h'mm'min' AP", "hh'h'mm'min'");
+    row(QLocale::French, "hh:mm''", "h:mm AP''", "hh:mm''");
+}
+
+void PatternsTest::amPmComesAndGoes()
+{
+    QFETCH(QLocale::Language, language);
+    QFETCH(QString, pattern);
+    const MessageLog log; // of places that are not the language's own
+    AmPmField::add(language, pattern);
+    QTEST(pattern, "added");
+    if (AmPmField::isIn(pattern)) {
+        AmPmField::remove(language, pattern);
+    }
+    QTEST(pattern.trimmed(), "removed");
+    QString comma = QStringLiteral("h:mm AP, t");
+    AmPmField::remove(QLocale::Albanian, comma);
+    QCOMPARE(comma, QStringLiteral("hh:mm, t"));
 }
 
 void PatternsTest::regionIsTheDefault()

@@ -13,6 +13,7 @@
 #include <QtCore/QMap>
 #include <QtCore/QRegularExpression>
 #include <QtTest/QTest>
+#include <unicode/dtptngen.h>
 #include <unicode/locid.h>
 #include <unicode/numfmt.h>
 #include <unicode/reldatefmt.h>
@@ -103,6 +104,16 @@ QString digits(const QString& text)
     return found;
 }
 
+/** Whether ICU writes AM/PM in front of the hour of a pattern, or 0 where it writes none. */
+int sideOfAmPm(const QString& icuPattern)
+{
+    static const QRegularExpression amPm(QStringLiteral("[abB]"));
+    static const QRegularExpression hour(QStringLiteral("[hK]"));
+    const QString fields = withoutQuoted(icuPattern);
+    const auto position = fields.indexOf(amPm);
+    return position == -1 ? 0 : position < fields.indexOf(hour) ? -1 : 1;
+}
+
 /** The pattern of a locale, and the sweep's moment written with it. */
 QString writtenBy(const icu::Locale& locale, icu::DateFormat::EStyle style)
 {
@@ -136,6 +147,7 @@ private:
     bool setClock(int hours);
     void check(bool holds, const QLocale& locale, const QString& what);
     void checkPattern(const QLocale& locale, const QString& pattern, const QString& qtPattern, bool hasTime);
+    void checkAmPm(const QLocale& locale, const QString& pattern);
     void checkPhrases(const QLocale& locale, const RelativeDateFormatter& formatter);
     void checkRoundTrip(const QLocale& locale, const QString& pattern);
     void finish(const QStringList& messages);
@@ -181,7 +193,36 @@ void SweepTest::checkPattern(const QLocale& locale, const QString& pattern, cons
     check(!hasStrayLetter(pattern), locale, QStringLiteral("stray letter in ") + pattern);
     if (hasTime) {
         check(showsAmPm(pattern) != m_is24Hour, locale, QStringLiteral("wrong clock in ") + pattern);
+        checkAmPm(locale, pattern);
     }
+}
+
+/** AM/PM is where ICU writes it itself, and comes between nothing that belongs together. */
+void SweepTest::checkAmPm(const QLocale& locale, const QString& pattern)
+{
+    if (m_is24Hour) {
+        static const QRegularExpression space(QStringLiteral("[hms] ,"));
+        check(!pattern.contains(space), locale, QStringLiteral("space in ") + pattern);
+        return;
+    }
+    const icu::Locale icuLocale = Locale::toICU(locale);
+    UErrorCode status = U_ZERO_ERROR;
+    const std::unique_ptr<icu::DateTimePatternGenerator> generator(
+        icu::DateTimePatternGenerator::createInstance(icuLocale, status));
+    const std::unique_ptr<icu::DateFormat> own(
+        icu::DateFormat::createDateTimeInstance(icu::DateFormat::kNone, icu::DateFormat::kShort, icuLocale));
+    icu::UnicodeString ownPattern;
+    static_cast<const icu::SimpleDateFormat&>(*own).toPattern(ownPattern);
+    // Of all French only that of Cameroon has it in front.
+    if (sideOfAmPm(String::toQt(ownPattern)) == 0 && locale.name() != QLatin1String("fr_CM")) {
+        const int expected = sideOfAmPm(String::toQt(generator->getBestPattern(u"hm", status)));
+        const QString asInICU = withoutQuoted(pattern)
+                                    .replace(QLatin1String("AP"), QLatin1String("a"))
+                                    .replace(QLatin1String("ap"), QLatin1String("a"));
+        check(sideOfAmPm(asInICU) == expected, locale, QStringLiteral("other side than ICU in ") + pattern);
+    }
+    static const QRegularExpression torn(QStringLiteral("([(,] ?(AP|ap) ?t)|(ss?|mm?|h) ?(AP|ap) ?'"));
+    check(!pattern.contains(torn), locale, QStringLiteral("torn apart: ") + pattern);
 }
 
 /** What is written with a pattern of year, month and day is read again as the same date. */

@@ -2,13 +2,14 @@
 
 #include "bridge/Diagnostic.h"
 #include "bridge/Locale.h"
+#include "bridge/PatternText.h"
 #include "bridge/String.h"
+#include "patterns/AmPmField.h"
 #include "patterns/FormattingPrivate.h"
 #include "settings/ClockSetting.h"
-#include <algorithm>
 #include <array>
 #include <memory>
-#include <QtCore/QLatin1String>
+#include <QtCore/QLatin1Char>
 #include <string>
 #include <unicode/datefmt.h>
 #include <unicode/errorcode.h>
@@ -19,8 +20,6 @@
 namespace zel::utility::i18n {
 
 namespace {
-
-constexpr QLatin1String amPm("AP");
 
 QLocale getRegionLocale()
 {
@@ -55,36 +54,35 @@ QLocale::FormatType qtFormatType(DateFormat::Type type)
     return type == DateFormat::Short || type == DateFormat::Medium ? QLocale::ShortFormat : QLocale::LongFormat;
 }
 
-bool isQuoted(const QString& format, int position)
-{
-    return std::count(format.cbegin(), format.cbegin() + position, QLatin1Char('\'')) % 2 != 0;
-}
-
 /** Qt knows AM and PM only: day periods ("at night") are shown as these. */
-QString withAMPMForDayPeriods(QString pattern)
+QString withAMPMForDayPeriods(const QString& pattern)
 {
-    for (int i = 0; i < pattern.size(); ++i) {
-        const QChar c = pattern.at(i);
-        if ((c == QLatin1Char('b') || c == QLatin1Char('B')) && !isQuoted(pattern, i)) {
-            pattern[i] = QLatin1Char('a');
+    const PatternText fields(pattern);
+    QString result = pattern;
+    for (int i = 0; i < result.size(); ++i) {
+        const QChar c = result.at(i);
+        if ((c == QLatin1Char('b') || c == QLatin1Char('B')) && fields.isField(i)) {
+            result[i] = QLatin1Char('a');
         }
     }
-    return pattern;
+    return result;
 }
 
 /** The clock rewriting and Qt's parsing know only the plain space beside an AM/PM field. */
-QString withPlainSpacesAroundAMPM(QString pattern)
+QString withPlainSpacesAroundAMPM(const QString& pattern)
 {
-    const auto isField = [&pattern](int i) {
-        return i >= 0 && i < pattern.size() && pattern.at(i) == QLatin1Char('a');
+    const PatternText fields(pattern);
+    const auto isAMPM = [&fields](int i) {
+        return i >= 0 && i < fields.text().size() && fields.text().at(i) == QLatin1Char('a');
     };
-    for (int i = 0; i < pattern.size(); ++i) {
-        const ushort c = pattern.at(i).unicode();
-        if ((c == 0x202F || c == 0x00A0) && (isField(i - 1) || isField(i + 1)) && !isQuoted(pattern, i)) {
-            pattern[i] = QLatin1Char(' ');
+    QString result = pattern;
+    for (int i = 0; i < result.size(); ++i) {
+        const ushort c = result.at(i).unicode();
+        if ((c == 0x202F || c == 0x00A0) && (isAMPM(i - 1) || isAMPM(i + 1)) && !fields.isQuoted(i)) {
+            result[i] = QLatin1Char(' ');
         }
     }
-    return pattern;
+    return result;
 }
 
 QString getICUpattern(icu::DateFormat::EStyle dateStyle, icu::DateFormat::EStyle timeStyle, const icu::Locale& locale)
@@ -99,117 +97,18 @@ QString getICUpattern(icu::DateFormat::EStyle dateStyle, icu::DateFormat::EStyle
     return withPlainSpacesAroundAMPM(withAMPMForDayPeriods(String::toQt(pattern)));
 }
 
-/** The last place of a text outside quoted text, or -1. */
-int findInFormat(const QString& format, const QString& text)
-{
-    auto position = static_cast<int>(format.lastIndexOf(text));
-    while (position != -1 && isQuoted(format, position)) {
-        position = static_cast<int>(format.lastIndexOf(text, position - 1));
-    }
-    return position;
-}
-
-/** The same, as the place right behind that text. */
-int findEndInFormat(const QString& format, const QString& text)
-{
-    const int position = findInFormat(format, text);
-    return position == -1 ? -1 : position + static_cast<int>(text.size());
-}
-
-void fixCaseOfAMPM(const QLocale& locale, QString& format)
-{
-    const int position = findInFormat(format, amPm);
-    if (position != -1 && locale.amText() != locale.amText().toUpper()) {
-        format.replace(position, amPm.size(), QStringLiteral("ap"));
-    }
-}
-
-void addJapaneseAMPM(QString& format)
-{
-    const int twoDigits = findInFormat(format, QStringLiteral("hh"));
-    if (twoDigits != -1) {
-        format.replace(twoDigits, 1, amPm);
-        return;
-    }
-    const int hour = findInFormat(format, QStringLiteral("h"));
-    if (hour != -1) {
-        format.insert(hour, amPm);
-    }
-}
-
-void addAMPM(QString& format)
-{
-    const int zone = findInFormat(format, QStringLiteral("t"));
-    if (zone != -1) {
-        format.insert(zone, QStringLiteral("AP "));
-    } else {
-        int end = -1;
-        for (const QChar field : {QLatin1Char('s'), QLatin1Char('m'), QLatin1Char('h')}) {
-            end = findEndInFormat(format, field);
-            if (end != -1) {
-                break;
-            }
-        }
-        format.insert(end == -1 ? static_cast<int>(format.size()) : end, QStringLiteral(" AP"));
-    }
-    const int twoDigits = findInFormat(format, QStringLiteral("hh"));
-    if (twoDigits != -1) {
-        format.remove(twoDigits, 1);
-    }
-}
-
-/** The AM/PM field with the separator that the language writes beside it. */
-QString separatedAMPM(QLocale::Language language)
-{
-    switch (language) {
-    case QLocale::Chinese:
-        return amPm;
-    case QLocale::Korean:
-        return QStringLiteral("AP ");
-    case QLocale::Albanian:
-        return QStringLiteral(".AP");
-    default:
-        return QStringLiteral(" AP");
-    }
-}
-
-void removeAMPM(QLocale::Language language, QString& format)
-{
-    const QString separated = separatedAMPM(language);
-    const int position = findInFormat(format, separated);
-    if (position != -1) {
-        format.remove(position, static_cast<int>(separated.size()));
-    } else {
-        Diagnostic::write(QtWarningMsg, "zel::utility::i18n::Formatting::replaceWithSystemClockFormat() has "
-                                        "encountered an unsupported time format!");
-        format.remove(findInFormat(format, amPm), amPm.size());
-        format = format.simplified();
-    }
-    if (findInFormat(format, QStringLiteral("hh")) == -1) {
-        const int hour = findInFormat(format, QStringLiteral("h"));
-        if (hour != -1) {
-            format.insert(hour, QLatin1Char('h'));
-        }
-    }
-}
-
 bool replaceWithSystemClockFormat(const QLocale& locale, QString& format)
 {
-    const bool hasAMPM = findInFormat(format, amPm) != -1;
+    const bool hasAMPM = AmPmField::isIn(format);
     switch (ClockSetting::clockFormat()) {
     case ClockFormat::Use12hourClock:
-        if (hasAMPM) {
-            return true;
-        }
-        if (locale.language() == QLocale::Japanese) {
-            addJapaneseAMPM(format);
-        } else {
-            addAMPM(format);
+        if (!hasAMPM) {
+            AmPmField::add(locale.language(), format);
         }
         return true;
     case ClockFormat::Use24hourClock:
         if (hasAMPM) {
-            removeAMPM(locale.language(), format);
+            AmPmField::remove(locale.language(), format);
         }
         return true;
     default:
@@ -223,7 +122,7 @@ QString followClock(const QLocale& locale, QString pattern, const char* failure)
     if (!replaceWithSystemClockFormat(locale, pattern)) {
         Diagnostic::write(QtWarningMsg, failure);
     }
-    fixCaseOfAMPM(locale, pattern);
+    AmPmField::fixCase(locale, pattern);
     return pattern;
 }
 

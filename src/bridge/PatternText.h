@@ -1,0 +1,44 @@
+#ifndef ZEL_UTILITY_I18N_BRIDGE_PATTERNTEXT_H
+#define ZEL_UTILITY_I18N_BRIDGE_PATTERNTEXT_H
+
+#include <QtCore/QString>
+#include <vector>
+
+namespace zel::utility::i18n {
+
+/**
+ * A date/time pattern, in ICU's or Qt's syntax, and which of its characters are literal text between apostrophes.
+ *
+ * @code
+ * const PatternText pattern("HH 'h' mm");
+ * pattern.isQuoted(4);                    // true
+ * pattern.lastIndexOf(QStringLiteral("h")); // -1
+ * @endcode
+ */
+class PatternText
+{
+public:
+    explicit PatternText(const QString& pattern);
+
+    const QString& text() const { return m_text; }
+
+    /** Whether the character is between apostrophes; a closing apostrophe is, an opening one is not. */
+    bool isQuoted(int position) const { return m_quoted[static_cast<std::size_t>(position)]; }
+
+    /** Whether the character is the letter of a field. */
+    bool isField(int position) const;
+
+    /** The letters of all fields in order, without literal text. */
+    QString fields() const;
+
+    /** The last place of a text that does not begin between apostrophes, or -1. */
+    int lastIndexOf(const QString& text) const;
+
+private:
+    QString m_text;
+    std::vector<bool> m_quoted;
+};
+
+} // namespace zel::utility::i18n
+
+#endif
