@@ -148,6 +148,7 @@ private:
     void check(bool holds, const QLocale& locale, const QString& what);
     void checkPattern(const QLocale& locale, const QString& pattern, const QString& qtPattern, bool hasTime);
     void checkAmPm(const QLocale& locale, const QString& pattern);
+    void checkNamedDays(const QLocale& locale, const RelativeDateFormatter& formatter);
     void checkPhrases(const QLocale& locale, const RelativeDateFormatter& formatter);
     void checkRoundTrip(const QLocale& locale, const QString& pattern);
     void finish(const QStringList& messages);
@@ -311,6 +312,24 @@ void SweepTest::customDates()
     finish(log.take());
 }
 
+/** The names of days are those of ICU's own formatter, without the punctuation of a weekday. */
+void SweepTest::checkNamedDays(const QLocale& locale, const RelativeDateFormatter& formatter)
+{
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::RelativeDateTimeFormatter names(Locale::toICU(locale), status);
+    for (const auto& [direction, days] : {std::pair{UDAT_DIRECTION_LAST, -1}, std::pair{UDAT_DIRECTION_NEXT, 1}}) {
+        icu::UnicodeString name;
+        names.format(direction, UDAT_ABSOLUTE_DAY, name, status);
+        const QString text = formatter.format(moment.addDays(days));
+        const auto position = text.indexOf(String::toQt(name));
+        check(position != -1, locale, text + QStringLiteral(" without ") + String::toQt(name));
+        const QString around =
+            position == -1 ? QString() : text.mid(position - 1, 1) + text.mid(position + name.length(), 1);
+        static const QRegularExpression punctuation(QStringLiteral("[\\p{Ps}\\p{Pe}.]"));
+        check(!around.contains(punctuation), locale, QStringLiteral("punctuation of a weekday: ") + text);
+    }
+}
+
 /** The phrases are those of ICU's own formatter, and stand alone. */
 void SweepTest::checkPhrases(const QLocale& locale, const RelativeDateFormatter& formatter)
 {
@@ -345,6 +364,7 @@ void SweepTest::relativeDates()
             if (type == RelativeDateFormat::TimeCritical) {
                 checkPhrases(locale, formatter);
             }
+            checkNamedDays(locale, formatter);
             for (const qint64 distance : distances) {
                 for (const qint64 seconds : {-distance, distance}) {
                     check(!formatter.format(moment.addSecs(seconds)).isEmpty(), locale,

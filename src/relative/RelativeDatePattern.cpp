@@ -1,5 +1,6 @@
 #include "relative/RelativeDatePattern.h"
 
+#include "bridge/PatternText.h"
 #include "patterns/ClockPattern.h"
 #include "patterns/DatePattern.h"
 #include "relative/RelativeDate.h"
@@ -12,23 +13,37 @@ namespace zel::utility::i18n {
 
 namespace {
 
-/** The field letters of a pattern, without its literal text. */
-QString fieldLetters(const QString& pattern)
-{
-    QString letters;
-    bool quoted = false;
-    for (const QChar c : pattern) {
-        quoted ^= c == QLatin1Char('\'');
-        if (!quoted && c.unicode() < 0x80 && c.isLetter()) {
-            letters += c;
-        }
-    }
-    return letters;
-}
-
 bool consistsOf(const QString& text, const QString& letters)
 {
     return std::all_of(text.cbegin(), text.cend(), [&letters](QChar c) { return letters.contains(c); });
+}
+
+/**
+ * A pattern without the punctuation that a weekday has and the name of a day ("yesterday") has not: a full stop, or
+ * brackets, behind which a weekday may come last. The name of a day comes first.
+ */
+QString withoutWeekdayPunctuation(const QString& pattern, const QString& letters)
+{
+    const PatternText fields(pattern);
+    const auto isWeekday = [&](int i) { return fields.isField(i) && letters.contains(pattern.at(i)); };
+    int start = 0;
+    while (start < pattern.size() && !isWeekday(start)) {
+        ++start;
+    }
+    int end = start;
+    while (end < pattern.size() && isWeekday(end)) {
+        ++end;
+    }
+    if (end == start || end == pattern.size()) {
+        return pattern;
+    }
+    const bool bracketed = start > 0 && pattern.at(start - 1).category() == QChar::Punctuation_Open &&
+                           pattern.at(end).category() == QChar::Punctuation_Close;
+    if (bracketed) {
+        const QString others = pattern.left(start - 1).trimmed() + QLatin1Char(' ') + pattern.mid(end + 1).trimmed();
+        return (pattern.mid(start, end - start) + QLatin1Char(' ') + others.trimmed()).trimmed();
+    }
+    return pattern.at(end) == QLatin1Char('.') ? pattern.left(end) + pattern.mid(end + 1) : pattern;
 }
 
 } // namespace
@@ -85,12 +100,19 @@ int RelativeDatePattern::count(RelativeDateElement::Type element, const QDateTim
 QString RelativeDatePattern::withPhrase(const QString& text, RelativeDateElement::Type element,
                                         const QString& phrase) const
 {
+    if (phrase.isEmpty()) {
+        return RelativeDate::apply(text, element, phrase);
+    }
     QString literal = phrase;
     literal.replace(QLatin1Char('\''), QLatin1String("''"));
+    const QString letters = RelativeDate::characters(element);
     // Literal text around a single field belongs to its number ("15 Uhr"), not to a phrase.
-    const QString fields = fieldLetters(m_pattern);
-    const bool alone = !phrase.isEmpty() && !fields.isEmpty() && consistsOf(fields, RelativeDate::characters(element));
-    return RelativeDate::apply(alone ? fields : text, element, literal);
+    const QString fields = PatternText(m_pattern).fields();
+    if (!fields.isEmpty() && consistsOf(fields, letters)) {
+        return RelativeDate::apply(fields, element, literal);
+    }
+    const bool isNamedDay = element == RelativeDateElement::NamedDays;
+    return RelativeDate::apply(isNamedDay ? withoutWeekdayPunctuation(text, letters) : text, element, literal);
 }
 
 } // namespace zel::utility::i18n
