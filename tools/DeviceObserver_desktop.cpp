@@ -1,43 +1,44 @@
-// Changes of the host's settings.
+// Changes of the host's settings, as the library hears of them.
 
+#include "Assignments.h"
+#include "bridge/Diagnostic.h"
+#include "Device.h"
 #include "DeviceObserver.h"
-#include "settings/HostClock.h"
-#include "settings/HostTimeZone.h"
-#include <memory>
+#include "settings/ClockSetting.h"
+#include "settings/RegionNotifier.h"
+#include "settings/TimeZoneSetting.h"
 
 namespace zel::tool {
 
 namespace {
 
-using zel::utility::i18n::HostClock;
-using zel::utility::i18n::HostSetting;
-using zel::utility::i18n::HostTimeZone;
-
-QMap<QString, QString> valuesOf(const QObject& observer)
+QMap<QString, QString> valuesNow()
 {
     QMap<QString, QString> values;
-    for (const HostSetting* const setting : observer.findChildren<HostSetting*>()) {
-        values[QString::fromLatin1(setting->metaObject()->className())] = setting->value().toString();
+    for (const QString& key : Assignments::keys()) {
+        values[key] = Device::get(key).value_or(QString());
     }
     return values;
 }
 
 } // namespace
 
-DeviceObserver::DeviceObserver(QObject* parent) : QObject(parent)
+DeviceObserver::DeviceObserver(QObject* parent) : QObject(parent), m_values(valuesNow())
 {
-    for (HostSetting* const setting : std::initializer_list<HostSetting*>{new HostClock, new HostTimeZone}) {
-        setting->setParent(this);
-        connect(setting, SIGNAL(changed()), this, SLOT(look()));
+    namespace i18n = zel::utility::i18n;
+    for (const QObject* const setting :
+         std::initializer_list<QObject*>{new i18n::ClockSetting(this), new i18n::TimeZoneSetting(this)}) {
+        i18n::Diagnostic::checkConnection(connect(setting, SIGNAL(changed()), this, SLOT(look())),
+                                          "zel::tool::DeviceObserver::DeviceObserver(QObject*)", "changed()");
     }
-    m_values = valuesOf(*this);
+    new i18n::RegionNotifier(this, SLOT(look()), this);
 }
 
 DeviceObserver::~DeviceObserver() = default;
 
 void DeviceObserver::look()
 {
-    const QMap<QString, QString> values = valuesOf(*this);
+    const QMap<QString, QString> values = valuesNow();
     if (values != m_values) {
         m_values = values;
         Q_EMIT changed();

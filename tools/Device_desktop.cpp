@@ -4,15 +4,19 @@
 #include "bridge/Locale.h"
 #include "Device.h"
 #include "Failure.h"
+#include "settings/ClockSetting.h"
 #include "settings/HostClock.h"
 #include "settings/HostTimeZone.h"
+#include "settings/TimeZoneSetting.h"
 
 namespace zel::tool {
 
 namespace {
 
+using zel::utility::i18n::ClockSetting;
 using zel::utility::i18n::HostClock;
 using zel::utility::i18n::HostTimeZone;
+using zel::utility::i18n::TimeZoneSetting;
 
 // Whether the settings given to set() are those of this process only.
 bool onlyHere = false;
@@ -51,10 +55,10 @@ Finding examineSetting(const QString& key, const QString& value, const QString& 
 std::optional<QString> Device::get(const QString& key)
 {
     if (key == Assignments::hourFormat()) {
-        return HostClock().value().toString();
+        return QString::number(ClockSetting::clockFormat());
     }
     if (key == Assignments::timeZone()) {
-        const QString id = HostTimeZone().value().toString();
+        const QString id = TimeZoneSetting::timeZone();
         return id.isEmpty() ? std::nullopt : std::make_optional(id);
     }
     return region().name();
@@ -106,7 +110,9 @@ bool Device::isUnset(const QString& message)
 
 QList<Finding> Device::examine()
 {
-    const HostClock clock;
+    // Nobody waits for a text here: long enough for a portal that is just being started.
+    constexpr int portalTimeoutMs = 5000;
+    const HostClock clock(portalTimeoutMs);
     const HostTimeZone zone;
     return {examineSetting(Assignments::hourFormat(), clock.value().toString(), clock.source()),
             examineSetting(Assignments::timeZone(), zone.value().toString(), zone.source()),

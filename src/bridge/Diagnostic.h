@@ -34,6 +34,14 @@ public:
         hand(type, text);
     }
 
+    /** Writes a critical message where a function failed to connect to a signal. */
+    static void checkConnection(bool isConnected, const char* function, const char* signal)
+    {
+        if (!isConnected) {
+            write(QtCriticalMsg, function, "failed to connect to", signal, "signal");
+        }
+    }
+
 private:
     friend class DeferredMessages;
 

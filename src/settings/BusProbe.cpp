@@ -1,5 +1,6 @@
 #include "settings/BusProbe.h"
 
+#include "bridge/Diagnostic.h"
 #include <algorithm>
 #include <cerrno>
 #include <cstddef>
@@ -48,7 +49,7 @@ QString BusProbe::sessionAddress()
     return QFileInfo::exists(socket) ? QStringLiteral("unix:path=") + socket : QString();
 }
 
-BusProbe::BusProbe(const QString& address)
+BusProbe::BusProbe(const QString& address, QObject* parent) : QObject(parent)
 {
     const QByteArray name = socketOf(address);
     if (!name.isEmpty()) {
@@ -67,7 +68,7 @@ BusProbe::~BusProbe()
 bool BusProbe::waitForAnswer(int milliseconds) const
 {
     if (m_socket < 0) {
-        return m_fault.isEmpty();
+        return m_reason.isEmpty();
     }
     pollfd waiting = {m_socket, POLLIN, 0};
     return ::poll(&waiting, 1, milliseconds) > 0;
@@ -82,7 +83,8 @@ void BusProbe::listen()
 void BusProbe::startListening()
 {
     m_notifier = std::make_unique<QSocketNotifier>(m_socket, QSocketNotifier::Read);
-    connect(m_notifier.get(), SIGNAL(activated(int)), this, SLOT(onReadable()));
+    Diagnostic::checkConnection(connect(m_notifier.get(), SIGNAL(activated(int)), this, SLOT(onReadable())),
+                                "void zel::utility::i18n::BusProbe::startListening()", "QSocketNotifier::activated()");
 }
 
 void BusProbe::onReadable()
@@ -97,7 +99,7 @@ void BusProbe::open(const QByteArray& name)
     target.sun_family = AF_UNIX;
     const auto size = static_cast<std::size_t>(name.size());
     if (size > sizeof(target.sun_path)) {
-        m_fault = QStringLiteral("the address of the session bus is too long");
+        m_reason = QStringLiteral("the address of the session bus is too long");
         return;
     }
     std::copy(name.begin(), name.end(), &target.sun_path[0]);
@@ -106,7 +108,7 @@ void BusProbe::open(const QByteArray& name)
     static constexpr char word[] = "\0AUTH\r\n"; // asks which ways to authenticate there are
     if (m_socket < 0 || ::connect(m_socket, reinterpret_cast<const sockaddr*>(&target), length) != 0 ||
         ::send(m_socket, &word[0], sizeof(word) - 1, MSG_NOSIGNAL) < 0) {
-        m_fault = QStringLiteral("no session bus: ") + qt_error_string(errno);
+        m_reason = QStringLiteral("no session bus: ") + qt_error_string(errno);
     }
 }
 

@@ -21,11 +21,11 @@ public:
     /** The address of the user's session bus; empty where there is none. */
     static QString sessionAddress();
 
-    explicit BusProbe(const QString& address);
+    BusProbe(const QString& address, QObject* parent);
     ~BusProbe() override;
 
     /** Why nobody can be asked; empty otherwise. */
-    QString fault() const { return m_fault; }
+    QString reason() const { return m_reason; }
 
     /** Whether an answer comes within some milliseconds. An address that is not one of a local socket counts as good.
      */
@@ -45,7 +45,7 @@ private:
     void open(const QByteArray& name);
 
     int m_socket = -1;
-    QString m_fault;
+    QString m_reason;
     std::unique_ptr<QSocketNotifier> m_notifier;
 };
 

@@ -1,17 +1,18 @@
 #include "settings/HostClock.h"
 
+#include "bridge/DeferredMessages.h"
 #include "bridge/Diagnostic.h"
 #include "bridge/Locale.h"
 #include "bridge/String.h"
 #include "settings/LocaleChangeFilter.h"
 #include <memory>
+#include <QtCore/QCoreApplication>
+#include <QtCore/QThread>
 #include <unicode/smpdtfmt.h>
 
 namespace zel::utility::i18n {
 
 namespace {
-
-constexpr int patience = 80; // milliseconds; with the way there and back a caller waits for less than 100
 
 std::optional<int> clockOf(const QVariant& answer)
 {
@@ -41,12 +42,30 @@ int clockOfPattern(const QLocale& locale)
 
 } // namespace
 
-HostClock::HostClock()
-    : m_portal(QStringLiteral("org.gnome.desktop.interface"), QStringLiteral("clock-format"), patience)
+HostClock::HostClock(int timeoutMs) : m_portal(ask(timeoutMs))
 {
-    connect(&m_portal, SIGNAL(changed()), this, SLOT(onAnswer()));
-    LocaleChangeFilter::call(this, SIGNAL(changed()), this);
-    onAnswer();
+    onAnswer(m_portal->value(), m_portal->reason());
+    if (const QCoreApplication* const application = QCoreApplication::instance()) {
+        m_portal->moveToThread(application->thread());
+    }
+    LocaleChangeFilter::call(this, SIGNAL(changed()), this, Qt::DirectConnection);
+}
+
+std::unique_ptr<SettingsPortal> HostClock::ask(int timeoutMs)
+{
+    auto portal = std::make_unique<SettingsPortal>(QStringLiteral("org.gnome.desktop.interface"),
+                                                   QStringLiteral("clock-format"), timeoutMs);
+    // Direct: this belongs to the thread that asked first, which may be gone.
+    Diagnostic::checkConnection(connect(portal.get(), SIGNAL(changed(QVariant, QString)), this,
+                                        SLOT(onAnswer(QVariant, QString)), Qt::DirectConnection),
+                                "std::unique_ptr<SettingsPortal> zel::utility::i18n::HostClock::ask(int)",
+                                "SettingsPortal::changed()");
+    return portal;
+}
+
+std::unique_ptr<QObject> HostClock::listen()
+{
+    return m_portal->thread() == QThread::currentThread() ? nullptr : ask(SettingsPortal::later);
 }
 
 QVariant HostClock::value() const
@@ -64,25 +83,22 @@ QString HostClock::source() const
 {
     const std::lock_guard lock(m_mutex);
     return m_chosen ? QStringLiteral("the settings portal")
-                    : QStringLiteral("the time pattern of %1 (%2)").arg(Locale::region().name(), m_fault);
+                    : QStringLiteral("the time pattern of %1 (%2)").arg(Locale::region().name(), m_reason);
 }
 
-void HostClock::onAnswer()
+void HostClock::onAnswer(const QVariant& answer, const QString& reason)
 {
-    const QVariant answer = m_portal.value();
-    const std::optional<int> chosen = clockOf(answer);
-    const QString fault =
-        answer.isValid() ? QStringLiteral("the settings portal has an unknown clock format") : m_portal.fault();
+    const DeferredMessages messages;
     {
         const std::lock_guard lock(m_mutex);
-        m_chosen = chosen;
-        m_fault = fault;
+        m_chosen = clockOf(answer);
+        m_reason = answer.isValid() ? QStringLiteral("the settings portal has an unknown clock format") : reason;
+        if (!m_chosen && !m_reported) {
+            Diagnostic::write(QtWarningMsg, "void zel::utility::i18n::HostClock::onAnswer()",
+                              "uses the clock of the region's time pattern :", m_reason);
+        }
+        m_reported = !m_chosen;
     }
-    if (!chosen && !m_reported) {
-        Diagnostic::write(QtWarningMsg, "void zel::utility::i18n::HostClock::onAnswer()",
-                          "uses the clock of the region's time pattern :", fault);
-    }
-    m_reported = !chosen;
     Q_EMIT changed();
 }
 

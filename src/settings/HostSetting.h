@@ -1,18 +1,14 @@
 #ifndef ZEL_UTILITY_I18N_SETTINGS_HOSTSETTING_H
 #define ZEL_UTILITY_I18N_SETTINGS_HOSTSETTING_H
 
+#include <memory>
 #include <QtCore/QObject>
 #include <QtCore/QString>
 #include <QtCore/QVariant>
 
 namespace zel::utility::i18n {
 
-/**
- * A setting of the Linux host.
- *
- * It belongs to the thread that created it and hears of changes through that thread's event loop; value() and source()
- * may be asked on any thread.
- */
+/** A setting of the Linux host. All functions may be called on any thread. */
 class HostSetting : public QObject
 {
     Q_OBJECT
@@ -27,8 +23,14 @@ public:
     /** Where the value comes from, for people. */
     virtual QString source() const = 0;
 
+    /**
+     * Lets the calling thread hear of changes through its event loop for as long as the result lives; null where the
+     * thread hears of them already.
+     */
+    virtual std::unique_ptr<QObject> listen() = 0;
+
 Q_SIGNALS:
-    /** The value may have become another one. */
+    /** The value may have become another one. Emitted on the thread that hears of it. */
     void changed();
 };
 

@@ -1,8 +1,11 @@
 #include "settings/HostTimeZone.h"
 
+#include "bridge/Diagnostic.h"
 #include "bridge/String.h"
+#include "settings/LinkWatcher.h"
+#include <QtCore/QFile>
 #include <QtCore/QFileInfo>
-#include <QtCore/QTimeZone>
+#include <sys/stat.h>
 #include <unicode/timezone.h>
 
 namespace zel::utility::i18n {
@@ -14,7 +17,7 @@ bool isKnown(const icu::TimeZone& zone)
     return zone != icu::TimeZone::getUnknown();
 }
 
-// TZ may name a file of the time zone database; ICU wants the name of the zone.
+// The name of a file of the time zone database within it; other names as they are.
 QString withoutDirectory(const QString& id)
 {
     constexpr QLatin1String directory("/zoneinfo/");
@@ -22,14 +25,27 @@ QString withoutDirectory(const QString& id)
     return start < 0 ? id : id.mid(start + directory.size());
 }
 
-QString systemId()
+// The link may lead to the database through others.
+QString linkedId(QString path)
 {
-    const QString id = withoutDirectory(QString::fromLatin1(QTimeZone::systemTimeZoneId()));
+    constexpr int mostLinks = 8;
+    for (int i = 0; i < mostLinks && QFileInfo(path).isSymLink(); ++i) {
+        path = QFile::symLinkTarget(path);
+        if (path.contains(QLatin1String("/zoneinfo/"))) {
+            return withoutDirectory(path);
+        }
+    }
+    return {};
+}
+
+QString idOf(const QByteArray& variable, const QString& link)
+{
+    const QString id = variable.isEmpty() ? linkedId(link) : withoutDirectory(QFile::decodeName(variable));
     const std::unique_ptr<icu::TimeZone> zone(icu::TimeZone::createTimeZone(String::toICU(id)));
     if (isKnown(*zone)) {
         return id;
     }
-    // A rule such as "CET-1CEST" is no identifier. ICU finds a zone that keeps it.
+    // A rule such as "CET-1CEST" is no identifier, and a copied file has none. ICU finds a zone that keeps it.
     const std::unique_ptr<icu::TimeZone> host(icu::TimeZone::detectHostTimeZone());
     icu::UnicodeString hostId;
     return host && isKnown(*host) ? String::toQt(host->getID(hostId)) : QString();
@@ -37,19 +53,15 @@ QString systemId()
 
 } // namespace
 
-HostTimeZone::HostTimeZone(const QString& link) : m_link(link), m_variable(qgetenv("TZ")), m_id(systemId())
-{
-    // A watch needs the event loop of the thread, which may not be there yet.
-    QMetaObject::invokeMethod(this, "watch", Qt::QueuedConnection);
-}
+HostTimeZone::HostTimeZone(const QString& link) : m_link(link) {}
 
 QVariant HostTimeZone::value() const
 {
-    const QByteArray variable = qgetenv("TZ");
+    const QByteArray current = stamp();
     const std::lock_guard lock(m_mutex);
-    if (variable != m_variable) {
-        m_variable = variable;
-        m_id = systemId();
+    if (current != m_stamp) {
+        m_stamp = current;
+        m_id = idOf(qgetenv("TZ"), m_link);
     }
     return m_id;
 }
@@ -59,22 +71,28 @@ QString HostTimeZone::source() const
     return qEnvironmentVariableIsEmpty("TZ") ? m_link : QStringLiteral("TZ");
 }
 
-void HostTimeZone::watch()
+std::unique_ptr<QObject> HostTimeZone::listen()
 {
-    // The directory: the link itself is replaced, and a watch on it would be one on the zone's file.
-    m_watcher = std::make_unique<QFileSystemWatcher>(QStringList{QFileInfo(m_link).absolutePath()});
-    connect(m_watcher.get(), SIGNAL(directoryChanged(QString)), this, SLOT(look()));
-    look();
+    auto watcher = std::make_unique<LinkWatcher>(m_link);
+    Diagnostic::checkConnection(
+        connect(watcher.get(), SIGNAL(changed()), this, SIGNAL(changed()), Qt::DirectConnection),
+        "std::unique_ptr<QObject> zel::utility::i18n::HostTimeZone::listen()", "LinkWatcher::changed()");
+    return watcher;
 }
 
-void HostTimeZone::look()
+QByteArray HostTimeZone::stamp() const
 {
-    {
-        const std::lock_guard lock(m_mutex);
-        m_variable = qgetenv("TZ");
-        m_id = systemId();
-    }
-    Q_EMIT changed();
+    struct stat status = {};
+    ::lstat(QFile::encodeName(m_link).constData(), &status);
+    QByteArray stamp;
+    const auto append = [&stamp](const auto& item) {
+        stamp.append(reinterpret_cast<const char*>(&item), static_cast<int>(sizeof(item)));
+    };
+    append(status.st_dev);
+    append(status.st_ino);
+    append(status.st_mtim);
+    append(status.st_ctim);
+    return stamp + qgetenv("TZ");
 }
 
 } // namespace zel::utility::i18n

@@ -2,37 +2,34 @@
 #define ZEL_UTILITY_I18N_SETTINGS_HOSTTIMEZONE_H
 
 #include "settings/HostSetting.h"
-#include <memory>
 #include <mutex>
 #include <QtCore/QByteArray>
-#include <QtCore/QFileSystemWatcher>
 
 namespace zel::utility::i18n {
 
 /**
- * The identifier of the host's time zone, as ICU knows it; empty where it cannot be told. The environment's TZ goes
- * before the system's local-time link, which is followed.
+ * The identifier of the host's time zone, as ICU knows it; empty where there is none. The environment's TZ goes before
+ * the system's local-time link. Both are looked at whenever the value is asked for.
  */
 class HostTimeZone : public HostSetting
 {
     Q_OBJECT
 
 public:
-    /** @param link the local-time link that is watched for changes */
+    /** @param link the local-time link of the system */
     explicit HostTimeZone(const QString& link = QStringLiteral("/etc/localtime"));
 
     QVariant value() const override;
     QString source() const override;
-
-private Q_SLOTS:
-    void watch();
-    void look();
+    std::unique_ptr<QObject> listen() override;
 
 private:
+    /** Identifies TZ and one version of the link; costs one lstat(). */
+    QByteArray stamp() const;
+
     const QString m_link;
-    std::unique_ptr<QFileSystemWatcher> m_watcher;
     mutable std::mutex m_mutex; // for what is below
-    mutable QByteArray m_variable;
+    mutable QByteArray m_stamp;
     mutable QString m_id;
 };
 

@@ -1,11 +1,12 @@
 #include "settings/LocaleChangeFilter.h"
 
+#include "bridge/Diagnostic.h"
 #include <QtCore/QCoreApplication>
 #include <QtCore/QEvent>
 
 namespace zel::utility::i18n {
 
-void LocaleChangeFilter::call(QObject* receiver, const char* member, QObject* owner)
+void LocaleChangeFilter::call(QObject* receiver, const char* member, QObject* owner, Qt::ConnectionType type)
 {
     const QCoreApplication* const application = QCoreApplication::instance();
     if (application == nullptr) {
@@ -14,8 +15,12 @@ void LocaleChangeFilter::call(QObject* receiver, const char* member, QObject* ow
     // An application's events can be filtered on its own thread only.
     auto* const filter = new LocaleChangeFilter;
     filter->moveToThread(application->thread());
-    connect(filter, SIGNAL(changed()), receiver, member);
-    connect(owner, SIGNAL(destroyed()), filter, SLOT(stop()));
+    constexpr const char* signature =
+        "static void zel::utility::i18n::LocaleChangeFilter::call(QObject*, const char*, QObject*, Qt::ConnectionType)";
+    Diagnostic::checkConnection(connect(filter, SIGNAL(changed()), receiver, member, type), signature,
+                                "LocaleChangeFilter::changed()");
+    Diagnostic::checkConnection(connect(owner, SIGNAL(destroyed()), filter, SLOT(stop())), signature,
+                                "QObject::destroyed()");
     QMetaObject::invokeMethod(filter, "start");
 }
 

@@ -13,7 +13,8 @@ class LocaleChangeFilter : public QObject
 
 public:
     /** Calls a signal or slot at every locale change, for as long as the owner lives. Any thread may call. */
-    static void call(QObject* receiver, const char* member, QObject* owner);
+    static void call(QObject* receiver, const char* member, QObject* owner,
+                     Qt::ConnectionType type = Qt::AutoConnection);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

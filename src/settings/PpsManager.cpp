@@ -2,6 +2,12 @@
 
 namespace zel::utility::i18n {
 
+QVariant PpsManager::value() const
+{
+    const std::lock_guard lock(m_valueMutex);
+    return m_value;
+}
+
 bool PpsManager::setValue(const QVariant& value)
 {
     const std::lock_guard lock(m_valueMutex);

@@ -60,6 +60,8 @@ private Q_SLOTS:
     void onPpsUpdate();
 
 private:
+    friend class SettingListener;
+
     /** What the platform has behind the attribute; each platform unit defines its own. */
     class Source;
 

@@ -5,11 +5,15 @@
 #include "bridge/Diagnostic.h"
 #include "settings/HostClock.h"
 #include "settings/HostTimeZone.h"
+#include "settings/PpsManagerSource.h"
 #include <QtCore/QLatin1String>
 
 namespace zel::utility::i18n {
 
 namespace {
+
+constexpr const char* constructorSignature =
+    "zel::utility::i18n::PpsManager::PpsManager(const char*, const char*, const char*, QObject*)";
 
 std::unique_ptr<HostSetting> settingFor(QLatin1String path, QLatin1String key)
 {
@@ -24,13 +28,10 @@ std::unique_ptr<HostSetting> settingFor(QLatin1String path, QLatin1String key)
 
 } // namespace
 
-class PpsManager::Source
+PpsManager::Source::Source(const char* path, const char* key)
+    : setting(settingFor(QLatin1String(path), QLatin1String(key)))
 {
-public:
-    Source(const char* path, const char* key) : setting(settingFor(QLatin1String(path), QLatin1String(key))) {}
-
-    const std::unique_ptr<HostSetting> setting;
-};
+}
 
 PpsManager::PpsManager(const char* path, const char* map, const char* key, QObject* parent)
     : QObject(parent),
@@ -40,28 +41,22 @@ PpsManager::PpsManager(const char* path, const char* map, const char* key, QObje
       m_key(key)
 {
     if (!m_source->setting) {
-        Diagnostic::write(QtCriticalMsg,
-                          "zel::utility::i18n::PpsManager::PpsManager(const char*, const char*, const char*, QObject*)",
-                          "failed to open PPS at", m_path, " : ",
+        Diagnostic::write(QtCriticalMsg, constructorSignature, "failed to open PPS at", m_path, " : ",
                           QStringLiteral("no setting of this host stands for it"));
         return;
     }
     // Direct: the manager may belong to no thread.
-    connect(m_source->setting.get(), SIGNAL(changed()), this, SLOT(onPpsUpdate()), Qt::DirectConnection);
+    if (!connect(m_source->setting.get(), SIGNAL(changed()), this, SLOT(onPpsUpdate()), Qt::DirectConnection)) {
+        Diagnostic::write(QtCriticalMsg, constructorSignature, "failed to connect to PPS channel for", m_path);
+    }
     onPpsUpdate();
 }
 
 PpsManager::~PpsManager() = default;
 
-// Asked of the host's setting, which also notices a change of the environment, of which nobody is told.
-QVariant PpsManager::value() const
-{
-    return m_source->setting ? m_source->setting->value() : QVariant();
-}
-
 bool PpsManager::refresh()
 {
-    return true;
+    return !m_source->setting || update(false);
 }
 
 void PpsManager::onPpsUpdate()
@@ -71,9 +66,15 @@ void PpsManager::onPpsUpdate()
                           "called without a PpsObject");
         return;
     }
-    if (setValue(value())) {
+    update(true);
+}
+
+bool PpsManager::update(bool /*announced*/)
+{
+    if (setValue(m_source->setting->value())) {
         Q_EMIT changed();
     }
+    return true;
 }
 
 } // namespace zel::utility::i18n

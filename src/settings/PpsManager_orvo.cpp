@@ -52,12 +52,6 @@ PpsManager::PpsManager(const char* path, const char* map, const char* key, QObje
 
 PpsManager::~PpsManager() = default;
 
-QVariant PpsManager::value() const
-{
-    const std::lock_guard lock(m_valueMutex);
-    return m_value;
-}
-
 bool PpsManager::refresh()
 {
     if (!m_source) {

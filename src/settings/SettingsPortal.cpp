@@ -1,16 +1,23 @@
 #include "settings/SettingsPortal.h"
 
+#include "bridge/Diagnostic.h"
+#include <algorithm>
 #include <atomic>
 #include <QtCore/QDeadlineTimer>
-#include <QtCore/QThread>
 #include <QtDBus/QDBusError>
-#include <QtDBus/QDBusMessage>
 #include <QtDBus/QDBusPendingReply>
-#include <QtDBus/QDBusServiceWatcher>
+#include <QtDBus/QDBusReply>
 
 namespace zel::utility::i18n {
 
 namespace {
+
+// A retry that fails doubles the time to the next one.
+constexpr int firstRetryMs = 1000;
+constexpr int lastRetryMs = 60000;
+
+constexpr const char* constructor =
+    "zel::utility::i18n::SettingsPortal::SettingsPortal(const QString&, const QString&, int)";
 
 // Functions, because nothing is to be constructed when the library is loaded.
 QString service()
@@ -33,6 +40,22 @@ QString readOne()
     return QStringLiteral("ReadOne");
 }
 
+QString read()
+{
+    return QStringLiteral("Read");
+}
+
+// The bus itself is a service of this name.
+QString busService()
+{
+    return QStringLiteral("org.freedesktop.DBus");
+}
+
+QString busPath()
+{
+    return QStringLiteral("/org/freedesktop/DBus");
+}
+
 // A connection of its own: what becomes of the common one is the application's business.
 QString connectionName()
 {
@@ -49,92 +72,178 @@ QVariant unwrapped(QVariant value)
     return value;
 }
 
+QString explanation(const QDBusError& error)
+{
+    if (error.type() == QDBusError::ServiceUnknown) {
+        return QStringLiteral("the settings portal is not installed");
+    }
+    if (error.name() == QLatin1String("org.freedesktop.portal.Error.NotFound")) {
+        return QStringLiteral("the settings portal does not have the setting");
+    }
+    return QStringLiteral("the settings portal does not tell: ") + error.message();
+}
+
+// No signal will come when this is over.
+bool isSilence(const QDBusError& error)
+{
+    switch (error.type()) {
+    case QDBusError::NoReply:
+    case QDBusError::Timeout:
+    case QDBusError::TimedOut:
+        return true;
+    default:
+        return false;
+    }
+}
+
 } // namespace
 
-SettingsPortal::SettingsPortal(const QString& group, const QString& key, int patience)
+SettingsPortal::SettingsPortal(const QString& group, const QString& key, int timeoutMs)
     : m_group(group),
       m_key(key),
       m_address(BusProbe::sessionAddress()),
-      m_bus(QString())
+      m_bus(QString()),
+      m_retry(this)
 {
+    // The slot's argument types are looked up by name, which Qt does not know before a type's first use.
+    qRegisterMetaType<QDBusVariant>();
+    m_retry.setSingleShot(true);
+    Diagnostic::checkConnection(connect(&m_retry, SIGNAL(timeout()), this, SLOT(retry())), constructor,
+                                "QTimer::timeout()");
     if (m_address.isEmpty()) {
-        m_fault = QStringLiteral("no session bus");
+        m_reason = QStringLiteral("no session bus");
         return;
     }
-    const QDeadlineTimer deadline(patience);
-    m_probe = std::make_unique<BusProbe>(m_address);
-    if (!m_probe->fault().isEmpty()) {
-        m_fault = m_probe->fault();
-    } else if (m_probe->waitForAnswer(patience)) {
-        join();
-        wait(deadline);
-    } else {
-        m_fault = QStringLiteral("the session bus does not answer");
-        // Queued, because the probe has served its turn then and is destroyed.
-        connect(m_probe.get(), SIGNAL(answered()), this, SLOT(join()), Qt::QueuedConnection);
-        m_probe->listen();
+    if (timeoutMs == later) {
+        QMetaObject::invokeMethod(this, "retry", Qt::QueuedConnection);
+        return;
+    }
+    const QDeadlineTimer deadline(timeoutMs);
+    if (!findBus()) {
+        return;
+    }
+    if (!m_probe->waitForAnswer(timeoutMs)) {
+        lose(QStringLiteral("the session bus does not answer"));
+        awaitBus();
+    } else if (join()) {
+        askNow(deadline);
     }
 }
 
 SettingsPortal::~SettingsPortal()
 {
-    m_call.reset();
-    if (!m_bus.name().isEmpty()) {
-        QDBusConnection::disconnectFromBus(m_bus.name());
-    }
+    leave();
 }
 
-void SettingsPortal::join()
+bool SettingsPortal::findBus()
+{
+    m_probe = std::make_unique<BusProbe>(m_address, this);
+    const QString reason = m_probe->reason();
+    if (!reason.isEmpty()) {
+        m_probe.reset();
+        lose(reason);
+        retryLater();
+    }
+    return reason.isEmpty();
+}
+
+void SettingsPortal::awaitBus()
+{
+    // Queued: join() destroys the probe.
+    Diagnostic::checkConnection(
+        connect(m_probe.get(), SIGNAL(answered()), this, SLOT(onBusAnswered()), Qt::QueuedConnection), constructor,
+        "BusProbe::answered()");
+    m_probe->listen();
+}
+
+bool SettingsPortal::join()
 {
     m_probe.reset();
     m_bus = QDBusConnection::connectToBus(m_address, connectionName());
     if (!m_bus.isConnected()) {
         lose(QStringLiteral("no session bus: ") + m_bus.lastError().message());
-        return;
+        retryLater();
+        return false;
     }
+    m_isListening = listen();
+    return true;
+}
+
+void SettingsPortal::leave()
+{
+    m_call.reset();
+    if (!m_bus.name().isEmpty()) {
+        QDBusConnection::disconnectFromBus(m_bus.name());
+    }
+    m_bus = QDBusConnection(QString());
+}
+
+bool SettingsPortal::listen()
+{
     const QString local = QStringLiteral("org.freedesktop.DBus.Local");
-    m_bus.connect(QString(), QString(), local, QStringLiteral("Disconnected"), this, SLOT(onBusGone()));
-    m_bus.connect(service(), path(), interface(), QStringLiteral("SettingChanged"), {m_group, m_key},
-                  QStringLiteral("ssv"), this, SLOT(onSettingChanged(QString, QString, QDBusVariant)));
-    auto* const watcher = new QDBusServiceWatcher(service(), m_bus, QDBusServiceWatcher::WatchForOwnerChange, this);
-    connect(watcher, SIGNAL(serviceOwnerChanged(QString, QString, QString)), this,
-            SLOT(onOwnerChanged(QString, QString, QString)));
-    ask(readOne());
+    const bool isListening =
+        m_bus.connect(QString(), QString(), local, QStringLiteral("Disconnected"), this, SLOT(onBusGone())) &&
+        m_bus.connect(service(), path(), interface(), QStringLiteral("SettingChanged"), {m_group, m_key},
+                      QStringLiteral("ssv"), this, SLOT(onSettingChanged(QString, QString, QDBusVariant))) &&
+        m_bus.connect(busService(), busPath(), busService(), QStringLiteral("NameOwnerChanged"), {service()},
+                      QStringLiteral("sss"), this, SLOT(onOwnerChanged(QString, QString, QString)));
+    if (!isListening) {
+        Diagnostic::write(QtWarningMsg, "bool zel::utility::i18n::SettingsPortal::listen()",
+                          "cannot subscribe to the settings portal and polls it");
+    }
+    return isListening;
+}
+
+QDBusMessage SettingsPortal::question(const QString& method) const
+{
+    QDBusMessage message = QDBusMessage::createMethodCall(service(), path(), interface(), method);
+    message << m_group << m_key;
+    return message;
+}
+
+void SettingsPortal::askNow(const QDeadlineTimer& deadline)
+{
+    const auto askOnce = [&](const QString& method) {
+        const int timeoutMs = std::max(1, static_cast<int>(deadline.remainingTime()));
+        return QDBusReply<QDBusVariant>(m_bus.call(question(method), QDBus::Block, timeoutMs));
+    };
+    QDBusReply<QDBusVariant> reply = askOnce(readOne());
+    if (reply.error().type() == QDBusError::UnknownMethod) {
+        reply = askOnce(read());
+    }
+    if (reply.isValid()) {
+        take(reply.value());
+    } else if (isSilence(reply.error())) {
+        lose(silence());
+        ask(readOne());
+    } else {
+        refuse(reply.error());
+    }
 }
 
 void SettingsPortal::ask(const QString& method)
 {
-    QDBusMessage message = QDBusMessage::createMethodCall(service(), path(), interface(), method);
-    message << m_group << m_key;
     m_method = method;
-    m_call = std::make_unique<QDBusPendingCallWatcher>(m_bus.asyncCall(message));
-    // Queued, because the call is destroyed there.
-    connect(m_call.get(), SIGNAL(finished(QDBusPendingCallWatcher*)), this, SLOT(onFinished()), Qt::QueuedConnection);
-}
-
-void SettingsPortal::wait(const QDeadlineTimer& deadline)
-{
-    while (m_call && !deadline.hasExpired()) {
-        onFinished();
-        QThread::msleep(1);
-    }
-    if (m_call) {
-        m_fault = QStringLiteral("the settings portal does not answer");
-    }
+    m_call = std::make_unique<QDBusPendingCallWatcher>(m_bus.asyncCall(question(method)), this);
+    // Queued: onFinished() destroys the call.
+    Diagnostic::checkConnection(connect(m_call.get(), SIGNAL(finished(QDBusPendingCallWatcher*)), this,
+                                        SLOT(onFinished()), Qt::QueuedConnection),
+                                "void zel::utility::i18n::SettingsPortal::ask(const QString&)",
+                                "QDBusPendingCallWatcher::finished()");
 }
 
 void SettingsPortal::onFinished()
 {
     if (!m_call || !m_call->isFinished()) {
-        return;
+        return; // of a call that was given up
     }
     const QDBusPendingReply<QDBusVariant> reply = *m_call;
     if (!reply.isError()) {
         take(reply.value());
     } else if (reply.error().type() == QDBusError::UnknownMethod && m_method == readOne()) {
-        ask(QStringLiteral("Read"));
+        ask(read());
     } else {
-        lose(QStringLiteral("the settings portal does not tell: ") + reply.error().message());
+        refuse(reply.error());
     }
 }
 
@@ -154,7 +263,28 @@ void SettingsPortal::onOwnerChanged(const QString& /*name*/, const QString& /*pr
 
 void SettingsPortal::onBusGone()
 {
+    leave();
     lose(QStringLiteral("the session bus has gone"));
+    retryLater();
+}
+
+void SettingsPortal::onBusAnswered()
+{
+    if (join()) {
+        ask(readOne());
+    }
+}
+
+// The bus answers at once, also where the portal does not.
+QString SettingsPortal::silence() const
+{
+    constexpr int timeoutMs = 10;
+    QDBusMessage message =
+        QDBusMessage::createMethodCall(busService(), busPath(), busService(), QStringLiteral("NameHasOwner"));
+    message << service();
+    const QDBusReply<bool> hasOwner = m_bus.call(message, QDBus::Block, timeoutMs);
+    return hasOwner.isValid() && !hasOwner.value() ? QStringLiteral("the settings portal is starting")
+                                                   : QStringLiteral("the settings portal does not answer");
 }
 
 // Whatever is heard last holds; an answer that is still under way would be older.
@@ -162,16 +292,45 @@ void SettingsPortal::take(const QDBusVariant& value)
 {
     m_call.reset();
     m_value = unwrapped(value.variant());
-    m_fault.clear();
-    Q_EMIT changed();
+    m_reason.clear();
+    m_retry.stop();
+    m_retry.setInterval(0);
+    if (!m_isListening) {
+        retryLater();
+    }
+    Q_EMIT changed(m_value, m_reason);
 }
 
-void SettingsPortal::lose(const QString& fault)
+void SettingsPortal::refuse(const QDBusError& error)
+{
+    lose(isSilence(error) ? silence() : explanation(error));
+    if (isSilence(error) || !m_isListening) {
+        retryLater();
+    }
+}
+
+void SettingsPortal::lose(const QString& reason)
 {
     m_call.reset();
     m_value = QVariant();
-    m_fault = fault;
-    Q_EMIT changed();
+    m_reason = reason;
+    Q_EMIT changed(m_value, m_reason);
+}
+
+void SettingsPortal::retryLater()
+{
+    m_retry.setInterval(qBound(firstRetryMs, 2 * m_retry.interval(), lastRetryMs));
+    // Queued: a timer needs the event loop of the thread, which may not run yet.
+    QMetaObject::invokeMethod(&m_retry, "start", Qt::QueuedConnection);
+}
+
+void SettingsPortal::retry()
+{
+    if (m_bus.isConnected()) {
+        ask(readOne());
+    } else if (findBus()) {
+        awaitBus();
+    }
 }
 
 } // namespace zel::utility::i18n

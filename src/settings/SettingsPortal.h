@@ -5,18 +5,21 @@
 #include <memory>
 #include <QtCore/QObject>
 #include <QtCore/QString>
+#include <QtCore/QTimer>
 #include <QtCore/QVariant>
 #include <QtDBus/QDBusConnection>
+#include <QtDBus/QDBusMessage>
 #include <QtDBus/QDBusPendingCallWatcher>
 #include <QtDBus/QDBusVariant>
 
+class QDBusError;
 class QDeadlineTimer;
 
 namespace zel::utility::i18n {
 
 /**
  * One setting of the desktop, asked of the settings portal on the session bus and followed there, also when the portal
- * goes away and comes back. Belongs to the thread that created it.
+ * or the bus goes away and comes back. Follows through the event loop of its thread.
  */
 class SettingsPortal : public QObject
 {
@@ -25,44 +28,59 @@ class SettingsPortal : public QObject
 
 public:
     /**
-     * Asks for the setting. An answer that comes later than within `patience` milliseconds is taken when it comes.
+     * Asks for the setting and waits for the answer, but not longer than the timeout. A later answer is taken when it
+     * comes. With `later`, asks as soon as the event loop of the thread runs.
      *
      * @param group the namespace of the setting
      */
-    SettingsPortal(const QString& group, const QString& key, int patience);
+    static constexpr int later = 0;
+    SettingsPortal(const QString& group, const QString& key, int timeoutMs);
     ~SettingsPortal() override;
 
-    /** The setting; invalid as long as the portal does not tell. */
+    /** The setting; invalid as long as the portal does not answer. */
     QVariant value() const { return m_value; }
 
     /** Why there is no value. */
-    QString fault() const { return m_fault; }
+    QString reason() const { return m_reason; }
 
 Q_SIGNALS:
-    void changed();
+    /** What value() and reason() are now. */
+    void changed(const QVariant& value, const QString& reason);
 
 private Q_SLOTS:
-    void join();
+    void onBusAnswered();
     void onFinished();
     void onSettingChanged(const QString& group, const QString& key, const QDBusVariant& value);
     void onOwnerChanged(const QString& name, const QString& previous, const QString& owner);
     void onBusGone();
+    void retry();
 
 private:
+    bool findBus();
+    void awaitBus();
+    bool join();
+    void leave();
+    bool listen();
+    QDBusMessage question(const QString& method) const;
+    void askNow(const QDeadlineTimer& deadline);
     void ask(const QString& method);
-    void wait(const QDeadlineTimer& deadline);
+    QString silence() const;
     void take(const QDBusVariant& value);
-    void lose(const QString& fault);
+    void refuse(const QDBusError& error);
+    void lose(const QString& reason);
+    void retryLater();
 
     const QString m_group;
     const QString m_key;
     const QString m_address;
     QVariant m_value;
-    QString m_fault;
+    QString m_reason;
     std::unique_ptr<BusProbe> m_probe;
     QDBusConnection m_bus;
+    bool m_isListening = false;
     QString m_method;
     std::unique_ptr<QDBusPendingCallWatcher> m_call;
+    QTimer m_retry;
 };
 
 } // namespace zel::utility::i18n

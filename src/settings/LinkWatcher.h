@@ -1,0 +1,34 @@
+#ifndef ZEL_UTILITY_I18N_SETTINGS_LINKWATCHER_H
+#define ZEL_UTILITY_I18N_SETTINGS_LINKWATCHER_H
+
+#include <memory>
+#include <QtCore/QFileSystemWatcher>
+#include <QtCore/QObject>
+#include <QtCore/QString>
+
+namespace zel::utility::i18n {
+
+/** Hears, through the event loop of the thread that created it, when a symbolic link may have been replaced. */
+class LinkWatcher : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(LinkWatcher)
+
+public:
+    explicit LinkWatcher(const QString& link);
+    ~LinkWatcher() override = default;
+
+Q_SIGNALS:
+    void changed();
+
+private Q_SLOTS:
+    void start();
+
+private:
+    const QString m_link;
+    std::unique_ptr<QFileSystemWatcher> m_watcher;
+};
+
+} // namespace zel::utility::i18n
+
+#endif
