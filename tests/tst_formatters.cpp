@@ -56,6 +56,8 @@ private Q_SLOTS:
     void ladder();
     void ladderSpeaksTheLocale_data();
     void ladderSpeaksTheLocale();
+    void wording_data();
+    void wording();
     void settersSignalChanges();
     void typeStartsFromDefaults();
     void invalidTypeFormatsNothing();
@@ -316,6 +318,56 @@ void FormattersTest::ladderSpeaksTheLocale()
     QCOMPARE(written, texts);
 }
 
+void FormattersTest::wording_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<RelativeDateFormat::Type>("type");
+    QTest::addColumn<QString>("anchor");
+    QTest::addColumn<QString>("moment");
+    QTest::addColumn<QString>("exact");
+    QTest::addColumn<QString>("natural");
+    const auto row = [](const char* locale, RelativeDateFormat::Type type, const char* anchor, const char* moment,
+                        const char* exact, const char* natural) {
+        QTest::addRow("%s %d %s from %s", locale, type, moment, anchor)
+            << locale << type << anchor << moment << QString::fromUtf8(exact) << QString::fromUtf8(natural);
+    };
+    constexpr auto time = RelativeDateFormat::TimeCritical;
+    constexpr auto day = RelativeDateFormat::NonTimeCritical;
+    const char* const newYear = "2013-01-01T00:02:00";
+    row("en", time, newYear, "2013-01-01T00:02:59", "in 0 minutes", "now");
+    row("de", time, newYear, "2013-01-01T00:01:01", "in 0 Minuten", "jetzt");
+    row("ar", time, newYear, newYear, "خلال ٠ دقيقة", "الآن");
+    row("zh", time, newYear, newYear, "0分钟后", "现在");
+    row("en", time, newYear, "2013-01-01T00:01:00", "1 minute ago", "1 minute ago");
+    row("en", day, newYear, newYear, "today", "today");
+    row("en", time, newYear, "2012-12-31T23:59:00", "December 2012", "yesterday 23:59");
+    row("en", time, newYear, "2012-12-30T10:00:00", "December 2012", "Sun 10:00");
+    row("en", day, newYear, "2012-12-29T10:00:00", "December 2012", "Saturday");
+    row("en", time, newYear, "2012-12-28T23:59:59", "December 2012", "December 2012");
+    row("fr", time, "2012-12-31T23:59:00", "2013-01-01T00:00:00", "janvier 2013", "demain 00:00");
+    row("en", day, "2012-12-31T23:59:00", "2013-01-02T00:00:00", "January 2013", "Wednesday");
+    row("en", time, "2012-05-16T12:00:00", "2012-05-15T12:00:00", "yesterday 12:00", "yesterday 12:00");
+}
+
+void FormattersTest::wording()
+{
+    QFETCH(QString, locale);
+    QFETCH(RelativeDateFormat::Type, type);
+    QFETCH(QString, anchor);
+    QFETCH(QString, moment);
+    MessageLog log;
+    RelativeDateFormatter formatter(type);
+    formatter.setLocale(QLocale(locale));
+    formatter.setClockFormat(ClockFormat::Use24hourClock);
+    formatter.setAnchorTime(at(qPrintable(anchor)));
+    QTEST(formatter.format(at(qPrintable(moment))), "exact");
+    formatter.setWording(RelativeDateWording::Natural);
+    QTEST(formatter.format(at(qPrintable(moment))), "natural");
+    formatter.setWording(static_cast<RelativeDateWording::Type>(3));
+    QTEST(formatter.format(at(qPrintable(moment))), "exact");
+    QCOMPARE(log.take(), QStringList());
+}
+
 void FormattersTest::settersSignalChanges()
 {
     RelativeDateFormatter formatter(RelativeDateFormat::TimeCritical);
@@ -344,10 +396,20 @@ void FormattersTest::settersSignalChanges()
     QCOMPARE(signalled(), 1);
     formatter.setClockFormat(ClockFormat::Use24hourClock);
     QCOMPARE(signalled(), 0);
+    formatter.setWording(RelativeDateWording::Exact);
+    QCOMPARE(signalled(), 0);
+    formatter.setWording(RelativeDateWording::Natural);
+    QCOMPARE(signalled(), 1);
+    QCOMPARE(formatter.locale(), QLocale("fr_FR"));
+    QCOMPARE(formatter.clockFormat(), ClockFormat::Use24hourClock);
     formatter.setType(RelativeDateFormat::TimeCritical);
     QCOMPARE(signalled(), 0);
     formatter.setType(RelativeDateFormat::NonTimeCritical);
     QCOMPARE(signalled(), 1);
+    QCOMPARE(formatter.wording(), RelativeDateWording::Exact);
+    QCOMPARE(formatter.clockFormat(), ClockFormat::ApplyUserFormat);
+    formatter.setAnchorTime(anchor);
+    QCOMPARE(formatter.anchorTime(), anchor);
 }
 
 void FormattersTest::typeStartsFromDefaults()

@@ -149,6 +149,7 @@ private:
     void checkPattern(const QLocale& locale, const QString& pattern, const QString& qtPattern, bool hasTime);
     void checkAmPm(const QLocale& locale, const QString& pattern);
     void checkNamedDays(const QLocale& locale, const RelativeDateFormatter& formatter);
+    void checkNow(const QLocale& locale, RelativeDateFormatter& formatter);
     void checkPhrases(const QLocale& locale, const RelativeDateFormatter& formatter);
     void checkRoundTrip(const QLocale& locale, const QString& pattern);
     void finish(const QStringList& messages);
@@ -330,6 +331,23 @@ void SweepTest::checkNamedDays(const QLocale& locale, const RelativeDateFormatte
     }
 }
 
+/** The word for now is that of ICU's own formatter, unless that is the one of the root. */
+void SweepTest::checkNow(const QLocale& locale, RelativeDateFormatter& formatter)
+{
+    UErrorCode status = U_ZERO_ERROR;
+    icu::UnicodeString expected;
+    icu::RelativeDateTimeFormatter(Locale::toICU(locale), status)
+        .format(UDAT_DIRECTION_PLAIN, UDAT_ABSOLUTE_NOW, expected, status);
+    const QString zero = formatter.format(moment);
+    formatter.setWording(RelativeDateWording::Natural);
+    const QString now = formatter.format(moment);
+    formatter.setWording(RelativeDateWording::Exact);
+    const bool isOwn = now == String::toQt(expected) && now != zero;
+    const bool isRoots = now == zero && expected == u"now" && locale.language() != QLocale::English;
+    check(U_SUCCESS(status) && (isOwn || isRoots), locale,
+          now + QStringLiteral(" instead of ") + String::toQt(expected));
+}
+
 /** The phrases are those of ICU's own formatter, and stand alone. */
 void SweepTest::checkPhrases(const QLocale& locale, const RelativeDateFormatter& formatter)
 {
@@ -363,6 +381,7 @@ void SweepTest::relativeDates()
             formatter.setLocale(locale);
             if (type == RelativeDateFormat::TimeCritical) {
                 checkPhrases(locale, formatter);
+                checkNow(locale, formatter);
             }
             checkNamedDays(locale, formatter);
             for (const qint64 distance : distances) {

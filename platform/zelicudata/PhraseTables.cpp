@@ -95,14 +95,17 @@ std::optional<ResourceTree> PhraseTables::forLocale(const std::string& locale, s
     if (!addTexts(table, locale, {"fields", "day", "relative"}, days, days, error)) {
         return std::nullopt;
     }
-    return tree;
+    // The root's word is English, which is nobody else's: empty stands for no word.
+    ResourceTree& now = fields.children["second"].children["relative"].children["0"];
+    now.text = text(locale, {"fields", "second", "relative", "0"}, Root::LeftOut, error).value_or(std::u16string());
+    return error.empty() ? std::make_optional(std::move(tree)) : std::nullopt;
 }
 
 bool PhraseTables::addTexts(ResourceTree& table, const std::string& locale, const Path& source, const Path& keys,
                             const Path& required, std::string& error)
 {
     for (const std::string& key : keys) {
-        if (auto phrase = text(locale, source + Path{key}, error)) {
+        if (auto phrase = text(locale, source + Path{key}, Root::Included, error)) {
             table.children[key].text = *std::move(phrase);
         }
     }
@@ -114,12 +117,17 @@ bool PhraseTables::addTexts(ResourceTree& table, const std::string& locale, cons
     return error.empty();
 }
 
-std::optional<std::u16string> PhraseTables::text(const std::string& locale, const Path& path, std::string& error)
+std::optional<std::u16string> PhraseTables::text(const std::string& locale, const Path& path, Root root,
+                                                 std::string& error)
 {
+    const ResourceBundleReader* const leftOut = root == Root::LeftOut ? m_bundles.find(rootName, error) : nullptr;
     Place place{locale, path};
     for (int aliases = 0; aliases <= mostAliases && error.empty(); ++aliases) {
         Found found;
         for (const ResourceBundleReader* bundle : chain(place.locale, error)) {
+            if (bundle == leftOut) {
+                break; // the last of every chain
+            }
             found = findIn(*bundle, place, error);
             if (found.text || found.elsewhere) {
                 break;

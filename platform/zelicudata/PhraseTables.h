@@ -27,8 +27,11 @@ public:
     /** All phrase tables; none, with the reason in \a error, where ICU's data lacks a phrase that must be there. */
     std::optional<ResourceTree> forLocale(const std::string& locale, std::string& error);
 
+    /** Whether what only the root bundle has counts as found. */
+    enum class Root { Included, LeftOut };
+
     /** The text at a path as ICU finds it for a locale, through parents and aliases; none where ICU finds none. */
-    std::optional<std::u16string> text(const std::string& locale, const Path& path, std::string& error);
+    std::optional<std::u16string> text(const std::string& locale, const Path& path, Root root, std::string& error);
 
 private:
     using Chain = std::vector<const ResourceBundleReader*>;

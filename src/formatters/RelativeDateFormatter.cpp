@@ -6,6 +6,8 @@
 #include "formatters/RelativeDateFormatter_p.h"
 #include "relative/DateOffsetRange.h"
 #include "relative/RelativeDatePattern.h"
+#include "relative/RelativeDistance.h"
+#include "resources/NowWord.h"
 #include <algorithm>
 #include <iterator>
 #include <utility>
@@ -13,68 +15,6 @@
 namespace zel::utility::i18n {
 
 namespace {
-
-enum class Counting { Calendar, Elapsed };
-enum class Side { After, AtOrBefore };
-enum class Shown { Plain, Relative };
-
-/** A step of the ladder: which moments it takes, and how it shows them. */
-struct Slot
-{
-    RelativeDateElement::Type element;
-    unsigned int minimum;
-    Counting counting;
-    Side side;
-    const char* skeleton;
-    Shown shown;
-};
-
-// The first slot that takes a moment shows it: the after side first, and on each side the coarsest test first.
-constexpr Slot timeCritical[] = {
-    {RelativeDateElement::Years, 1, Counting::Calendar, Side::After, "yMMMM", Shown::Plain},
-    {RelativeDateElement::NamedDays, 4, Counting::Calendar, Side::After, "MMMd", Shown::Plain},
-    {RelativeDateElement::NamedDays, 2, Counting::Calendar, Side::After, "Ejm", Shown::Plain},
-    {RelativeDateElement::NamedDays, 1, Counting::Calendar, Side::After, "Ejm", Shown::Relative},
-    {RelativeDateElement::Hours, 1, Counting::Elapsed, Side::After, "H", Shown::Relative},
-    {RelativeDateElement::Minutes, 0, Counting::Elapsed, Side::After, "m", Shown::Relative},
-    {RelativeDateElement::Years, 1, Counting::Calendar, Side::AtOrBefore, "yMMMM", Shown::Plain},
-    {RelativeDateElement::NamedDays, 4, Counting::Calendar, Side::AtOrBefore, "MMMd", Shown::Plain},
-    {RelativeDateElement::NamedDays, 2, Counting::Calendar, Side::AtOrBefore, "Ejm", Shown::Plain},
-    {RelativeDateElement::NamedDays, 1, Counting::Calendar, Side::AtOrBefore, "Ejm", Shown::Relative},
-    {RelativeDateElement::Hours, 1, Counting::Elapsed, Side::AtOrBefore, "H", Shown::Relative},
-    {RelativeDateElement::Minutes, 0, Counting::Elapsed, Side::AtOrBefore, "m", Shown::Relative},
-};
-constexpr Slot nonTimeCritical[] = {
-    {RelativeDateElement::Years, 1, Counting::Calendar, Side::After, "yMMMM", Shown::Plain},
-    {RelativeDateElement::NamedDays, 4, Counting::Calendar, Side::After, "MMMd", Shown::Plain},
-    {RelativeDateElement::NamedDays, 2, Counting::Calendar, Side::After, "EEEE", Shown::Plain},
-    {RelativeDateElement::NamedDays, 0, Counting::Elapsed, Side::After, "E", Shown::Relative},
-    {RelativeDateElement::Years, 1, Counting::Calendar, Side::AtOrBefore, "yMMMM", Shown::Plain},
-    {RelativeDateElement::NamedDays, 4, Counting::Calendar, Side::AtOrBefore, "MMMd", Shown::Plain},
-    {RelativeDateElement::NamedDays, 2, Counting::Calendar, Side::AtOrBefore, "EEEE", Shown::Plain},
-    {RelativeDateElement::NamedDays, 0, Counting::Elapsed, Side::AtOrBefore, "E", Shown::Relative},
-};
-
-/** The slots of a type; none for an invalid one. */
-struct Ladder
-{
-    const Slot* slots;
-    int count;
-
-    const Slot* begin() const { return slots; }
-    const Slot* end() const { return slots + count; }
-};
-
-Ladder ladderOf(RelativeDateFormat::Type type)
-{
-    switch (type) {
-    case RelativeDateFormat::TimeCritical:
-        return {timeCritical, std::size(timeCritical)};
-    case RelativeDateFormat::NonTimeCritical:
-        return {nonTimeCritical, std::size(nonTimeCritical)};
-    }
-    return {nullptr, 0};
-}
 
 /** Counts the calls that are under way in an object, so that it outlives them. */
 class Use
@@ -96,30 +36,31 @@ constexpr const char* formatSignature =
 
 } // namespace
 
-RelativeDateFormatterPrivate::RelativeDateFormatterPrivate(RelativeDateFormatter* owner, RelativeDateFormat::Type table)
+RelativeDateFormatterPrivate::RelativeDateFormatterPrivate(RelativeDateFormatter* owner,
+                                                           RelativeDateFormat::Type requested)
     : q(owner),
-      type(table),
+      type(requested),
+      table(requested),
       anchorTime(QDateTime::currentDateTime()),
       locale(Locale::region())
 {
-    const Ladder ladder = ladderOf(type);
-    count = ladder.count;
+    count = table.size();
     if (count == 0) {
         Diagnostic::write(QtCriticalMsg, constructorSignature, "called with invalid format type",
                           static_cast<int>(type));
         return;
     }
-    for (const Slot& slot : ladder) {
+    for (const RelativeDateTable::Slot& slot : table) {
         ranges.push_back(std::make_unique<DateOffsetRange>(anchorTime, slot.element, slot.minimum,
-                                                           slot.counting == Counting::Calendar,
-                                                           slot.side == Side::AtOrBefore, this));
+                                                           slot.counting == RelativeDateTable::Counting::Calendar,
+                                                           slot.side == RelativeDateTable::Side::AtOrBefore, this));
     }
     if (static_cast<int>(ranges.size()) < count) {
         Diagnostic::write(QtCriticalMsg, constructorSignature, "not enough ranges!");
     }
-    for (const Slot& slot : ladder) {
+    for (const RelativeDateTable::Slot& slot : table) {
         QList<RelativeDateElement::Type> elements;
-        if (slot.shown == Shown::Relative) {
+        if (slot.shown == RelativeDateTable::Shown::Relative) {
             elements.append(slot.element);
         }
         patterns.push_back(std::make_unique<RelativeDatePattern>(locale, clockFormat, anchorTime,
@@ -158,6 +99,11 @@ bool RelativeDateFormatterPrivate::setLocale(const QLocale& newLocale)
     return true;
 }
 
+bool RelativeDateFormatterPrivate::setWording(RelativeDateWording::Type newWording)
+{
+    return std::exchange(wording, newWording) != newWording;
+}
+
 bool RelativeDateFormatterPrivate::setClockFormat(ClockFormat::Type newClockFormat)
 {
     if (newClockFormat == clockFormat) {
@@ -188,11 +134,16 @@ QString RelativeDateFormatterPrivate::format(const QDateTime& dateTime) const
         Diagnostic::write(QtWarningMsg, formatSignature, "cannot use malconstructed RelativeDateFormatterPrivate");
         return {};
     }
+    if (wording == RelativeDateWording::Natural) {
+        const std::optional<QString> text = naturalText(dateTime);
+        if (text) {
+            return *text;
+        }
+    }
     // Day offsets compare days of the year: last November would pass for a later day than this May.
     const bool later = DateTime::wallClock(dateTime) > DateTime::wallClock(anchorTime);
-    const Ladder ladder = ladderOf(type);
     for (std::size_t slot = 0; slot < ranges.size(); ++slot) {
-        if (ladder.slots[slot].side == Side::After && !later) {
+        if (table.at(static_cast<int>(slot)).side == RelativeDateTable::Side::After && !later) {
             continue;
         }
         if (ranges[slot]->contains(dateTime)) {
@@ -202,6 +153,22 @@ QString RelativeDateFormatterPrivate::format(const QDateTime& dateTime) const
     Diagnostic::write(QtCriticalMsg, formatSignature,
                       "cannot find appropriate date range for given date-time:", dateTime);
     return {};
+}
+
+std::optional<QString> RelativeDateFormatterPrivate::naturalText(const QDateTime& dateTime) const
+{
+    const RelativeDistance distance(RelativeDistance::reading(anchorTime), RelativeDistance::reading(dateTime));
+    const int nearDay = table.slotOfNearDay(distance.days());
+    if (nearDay != -1) {
+        return patterns[static_cast<std::size_t>(nearDay)]->format(dateTime, static_cast<int>(distance.days()));
+    }
+    const int slot = table.slotOf(distance);
+    if (table.at(slot).element == RelativeDateElement::Minutes &&
+        distance.difference(RelativeDateElement::Minutes) == 0) {
+        const QString now = NowWord::of(locale);
+        return now.isEmpty() ? std::nullopt : std::make_optional(now);
+    }
+    return std::nullopt;
 }
 
 RelativeDateFormatter::RelativeDateFormatter(RelativeDateFormat::Type type, QObject* parent)
@@ -230,6 +197,33 @@ void RelativeDateFormatter::setType(RelativeDateFormat::Type type)
 void RelativeDateFormatter::setLocale(const QLocale& locale)
 {
     if (d->setLocale(locale)) {
+        Q_EMIT changed();
+    }
+}
+
+QLocale RelativeDateFormatter::locale() const
+{
+    return d->locale;
+}
+
+QDateTime RelativeDateFormatter::anchorTime() const
+{
+    return d->anchorTime;
+}
+
+ClockFormat::Type RelativeDateFormatter::clockFormat() const
+{
+    return d->clockFormat;
+}
+
+RelativeDateWording::Type RelativeDateFormatter::wording() const
+{
+    return d->wording;
+}
+
+void RelativeDateFormatter::setWording(RelativeDateWording::Type wording)
+{
+    if (d->setWording(wording)) {
         Q_EMIT changed();
     }
 }

@@ -1,8 +1,9 @@
 #ifndef ZEL_UTILITY_I18N_FORMATTERS_RELATIVEDATEFORMATTER_P_H
 #define ZEL_UTILITY_I18N_FORMATTERS_RELATIVEDATEFORMATTER_P_H
 
-#include <cstddef>
+#include "relative/RelativeDateTable.h"
 #include <memory>
+#include <optional>
 #include <QtCore/QDateTime>
 #include <QtCore/QLocale>
 #include <QtCore/QObject>
@@ -10,6 +11,7 @@
 #include <vector>
 #include <zel/utility/i18n/ClockFormat.h>
 #include <zel/utility/i18n/RelativeDateFormat.h>
+#include <zel/utility/i18n/RelativeDateWording.h>
 
 namespace zel::utility::i18n {
 
@@ -24,13 +26,14 @@ class RelativeDateFormatterPrivate : public QObject
     Q_DISABLE_COPY_MOVE(RelativeDateFormatterPrivate)
 
 public:
-    RelativeDateFormatterPrivate(RelativeDateFormatter* owner, RelativeDateFormat::Type table);
+    RelativeDateFormatterPrivate(RelativeDateFormatter* owner, RelativeDateFormat::Type requested);
     ~RelativeDateFormatterPrivate() override;
 
     /** The setters answer whether the value changed. */
     bool setAnchorTime(const QDateTime& anchorTime);
     bool setLocale(const QLocale& locale);
     bool setClockFormat(zel::utility::i18n::ClockFormat::Type clockFormat);
+    bool setWording(RelativeDateWording::Type wording);
 
     /** The text for a moment; a null string, with a message, on failure. */
     QString format(const QDateTime& dateTime) const;
@@ -40,14 +43,20 @@ public:
 
     RelativeDateFormatter* q;
     RelativeDateFormat::Type type;
+    RelativeDateTable table;
     QDateTime anchorTime;
     QLocale locale;
     ClockFormat::Type clockFormat = ClockFormat::ApplyUserFormat;
+    RelativeDateWording::Type wording = RelativeDateWording::Exact;
     int count = 0;
     std::vector<std::unique_ptr<DateOffsetRange>> ranges;
     std::vector<std::unique_ptr<RelativeDatePattern>> patterns;
     mutable int uses = 0;
     std::vector<std::unique_ptr<RelativeDateFormatterPrivate>> predecessors;
+
+private:
+    /** What the natural wording says where it differs from the exact one. */
+    std::optional<QString> naturalText(const QDateTime& dateTime) const;
 };
 
 } // namespace zel::utility::i18n

@@ -77,11 +77,16 @@ QString RelativeDatePattern::format(const QDateTime& dateTime) const
 {
     QString text = m_pattern;
     for (const RelativeDateElement::Type element : m_elements) {
-        const int elementCount = count(element, dateTime);
-        const ResourceFormatter formatter(m_locale, element, nullptr);
-        if (formatter.isValid()) {
-            text = withPhrase(text, element, formatter.format(elementCount));
-        }
+        text = withPhraseFor(text, element, count(element, dateTime));
+    }
+    return DatePattern::formatFromPattern(text, dateTime, m_locale);
+}
+
+QString RelativeDatePattern::format(const QDateTime& dateTime, int elementCount) const
+{
+    QString text = m_pattern;
+    for (const RelativeDateElement::Type element : m_elements) {
+        text = withPhraseFor(text, element, elementCount);
     }
     return DatePattern::formatFromPattern(text, dateTime, m_locale);
 }
@@ -95,6 +100,13 @@ int RelativeDatePattern::count(RelativeDateElement::Type element, const QDateTim
 {
     return RelativeDate::offsetIsAbsolute(element) ? RelativeDate::offset(m_anchorTime, dateTime, element)
                                                    : RelativeDate::difference(m_anchorTime, dateTime, element, true);
+}
+
+QString RelativeDatePattern::withPhraseFor(const QString& text, RelativeDateElement::Type element,
+                                           int elementCount) const
+{
+    const ResourceFormatter formatter(m_locale, element, nullptr);
+    return formatter.isValid() ? withPhrase(text, element, formatter.format(elementCount)) : text;
 }
 
 QString RelativeDatePattern::withPhrase(const QString& text, RelativeDateElement::Type element,

@@ -37,9 +37,13 @@ public:
     /** The text for a moment; a null string, with messages, on failure. */
     QString format(const QDateTime& dateTime) const;
 
+    /** The same with the count of every element given. */
+    QString format(const QDateTime& dateTime, int elementCount) const;
+
 private:
     void initPattern();
     int count(RelativeDateElement::Type element, const QDateTime& dateTime) const;
+    QString withPhraseFor(const QString& text, RelativeDateElement::Type element, int elementCount) const;
     QString withPhrase(const QString& text, RelativeDateElement::Type element, const QString& phrase) const;
 
     QLocale m_locale;

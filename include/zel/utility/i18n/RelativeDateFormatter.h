@@ -9,6 +9,7 @@
 #include <zel/utility/i18n/ClockFormat.h>
 #include <zel/utility/i18n/Global.h>
 #include <zel/utility/i18n/RelativeDateFormat.h>
+#include <zel/utility/i18n/RelativeDateWording.h>
 
 namespace zel::utility::i18n {
 
@@ -63,12 +64,27 @@ public:
 
     /**
      * Changes the ladder. With another one, everything starts from its defaults again: the current time as anchor, the
-     * user's region locale and clock.
+     * user's region locale and clock, and RelativeDateWording::Exact.
      */
     void setType(RelativeDateFormat::Type type);
 
+    /** The locale of texts and phrases. */
+    QLocale locale() const;
+
     /** Changes the locale of texts and phrases. */
     void setLocale(const QLocale& locale);
+
+    /** The moment from which distances are counted. */
+    QDateTime anchorTime() const;
+
+    /** The clock as it was set last; ClockFormat::ApplyUserFormat until then. */
+    ClockFormat::Type clockFormat() const;
+
+    /** How distances are worded; RelativeDateWording::Exact until another wording is set. */
+    RelativeDateWording::Type wording() const;
+
+    /** Changes the wording. */
+    void setWording(RelativeDateWording::Type wording);
 
     /**
      * The text for a moment.
@@ -79,7 +95,8 @@ public:
     Q_INVOKABLE QString format(const QDateTime& dateTime) const;
 
     ZEL_UTILITY_I18N_SIGNALS
-    /** The anchor, the locale, the clock or the ladder has changed: texts made before may be out of date. */
+    /** The anchor, the locale, the clock, the wording or the ladder has changed: texts made before may be out of date.
+     */
     Q_SIGNAL void changed();
 
 public Q_SLOTS:

@@ -1,0 +1,95 @@
+#include "relative/RelativeDateTable.h"
+
+#include "relative/RelativeDistance.h"
+#include <algorithm>
+#include <iterator>
+
+namespace zel::utility::i18n {
+
+namespace {
+
+using Counting = RelativeDateTable::Counting;
+using Side = RelativeDateTable::Side;
+using Shown = RelativeDateTable::Shown;
+using Slot = RelativeDateTable::Slot;
+
+constexpr qint64 lastNearDay = 3;
+
+constexpr Slot timeCritical[] = {
+    {RelativeDateElement::Years, 1, Counting::Calendar, Side::After, "yMMMM", Shown::Plain},
+    {RelativeDateElement::NamedDays, 4, Counting::Calendar, Side::After, "MMMd", Shown::Plain},
+    {RelativeDateElement::NamedDays, 2, Counting::Calendar, Side::After, "Ejm", Shown::Plain},
+    {RelativeDateElement::NamedDays, 1, Counting::Calendar, Side::After, "Ejm", Shown::Relative},
+    {RelativeDateElement::Hours, 1, Counting::Elapsed, Side::After, "H", Shown::Relative},
+    {RelativeDateElement::Minutes, 0, Counting::Elapsed, Side::After, "m", Shown::Relative},
+    {RelativeDateElement::Years, 1, Counting::Calendar, Side::AtOrBefore, "yMMMM", Shown::Plain},
+    {RelativeDateElement::NamedDays, 4, Counting::Calendar, Side::AtOrBefore, "MMMd", Shown::Plain},
+    {RelativeDateElement::NamedDays, 2, Counting::Calendar, Side::AtOrBefore, "Ejm", Shown::Plain},
+    {RelativeDateElement::NamedDays, 1, Counting::Calendar, Side::AtOrBefore, "Ejm", Shown::Relative},
+    {RelativeDateElement::Hours, 1, Counting::Elapsed, Side::AtOrBefore, "H", Shown::Relative},
+    {RelativeDateElement::Minutes, 0, Counting::Elapsed, Side::AtOrBefore, "m", Shown::Relative},
+};
+constexpr Slot nonTimeCritical[] = {
+    {RelativeDateElement::Years, 1, Counting::Calendar, Side::After, "yMMMM", Shown::Plain},
+    {RelativeDateElement::NamedDays, 4, Counting::Calendar, Side::After, "MMMd", Shown::Plain},
+    {RelativeDateElement::NamedDays, 2, Counting::Calendar, Side::After, "EEEE", Shown::Plain},
+    {RelativeDateElement::NamedDays, 0, Counting::Elapsed, Side::After, "E", Shown::Relative},
+    {RelativeDateElement::Years, 1, Counting::Calendar, Side::AtOrBefore, "yMMMM", Shown::Plain},
+    {RelativeDateElement::NamedDays, 4, Counting::Calendar, Side::AtOrBefore, "MMMd", Shown::Plain},
+    {RelativeDateElement::NamedDays, 2, Counting::Calendar, Side::AtOrBefore, "EEEE", Shown::Plain},
+    {RelativeDateElement::NamedDays, 0, Counting::Elapsed, Side::AtOrBefore, "E", Shown::Relative},
+};
+
+/** The counts of a slot's date range, which looks at calendar years and days, or at what has elapsed. */
+qint64 countOf(const Slot& slot, const RelativeDistance& distance)
+{
+    if (slot.counting == Counting::Elapsed) {
+        return distance.difference(slot.element);
+    }
+    return slot.element == RelativeDateElement::Years ? distance.years() : distance.days();
+}
+
+bool takes(const Slot& slot, const RelativeDistance& distance)
+{
+    if (slot.side == Side::After && !distance.isLater()) {
+        return false;
+    }
+    const qint64 count = countOf(slot, distance);
+    return (count > 0) == (slot.side == Side::After) && qAbs(count) >= slot.minimum;
+}
+
+} // namespace
+
+RelativeDateTable::RelativeDateTable(RelativeDateFormat::Type type)
+{
+    switch (type) {
+    case RelativeDateFormat::TimeCritical:
+        m_slots = timeCritical;
+        m_size = std::size(timeCritical);
+        break;
+    case RelativeDateFormat::NonTimeCritical:
+        m_slots = nonTimeCritical;
+        m_size = std::size(nonTimeCritical);
+        break;
+    }
+}
+
+int RelativeDateTable::slotOf(const RelativeDistance& distance) const
+{
+    const auto* const slot = std::find_if(begin(), end(), [&](const Slot& each) { return takes(each, distance); });
+    return slot == end() ? -1 : static_cast<int>(slot - begin());
+}
+
+int RelativeDateTable::slotOfNearDay(qint64 days) const
+{
+    if (days == 0 || qAbs(days) > lastNearDay) {
+        return -1;
+    }
+    const auto* const slot = std::find_if(begin(), end(), [&](const Slot& each) {
+        return each.element == RelativeDateElement::NamedDays &&
+               each.side == (days > 0 ? Side::After : Side::AtOrBefore) && qAbs(days) >= each.minimum;
+    });
+    return slot == end() ? -1 : static_cast<int>(slot - begin());
+}
+
+} // namespace zel::utility::i18n

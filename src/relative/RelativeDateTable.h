@@ -1,0 +1,63 @@
+#ifndef ZEL_UTILITY_I18N_RELATIVE_RELATIVEDATETABLE_H
+#define ZEL_UTILITY_I18N_RELATIVE_RELATIVEDATETABLE_H
+
+#include "relative/RelativeDateElement.h"
+#include <zel/utility/i18n/RelativeDateFormat.h>
+
+namespace zel::utility::i18n {
+
+class RelativeDistance;
+
+/**
+ * The slots of a relative date formatter. The first slot that takes a moment formats it: the after side comes first,
+ * and on each side the coarsest test.
+ *
+ * @code
+ * const RelativeDateTable table(RelativeDateFormat::TimeCritical);
+ * table.slotOf(RelativeDistance(anchor, anchor - 300'000)); // 11, "5 minutes ago"
+ * @endcode
+ */
+class RelativeDateTable
+{
+public:
+    enum class Counting { Calendar, Elapsed };
+    enum class Side { After, AtOrBefore };
+    enum class Shown { Plain, Relative };
+
+    /** Which moments a slot takes, and how it formats them. */
+    struct Slot
+    {
+        RelativeDateElement::Type element;
+        unsigned int minimum;
+        Counting counting;
+        Side side;
+        const char* skeleton;
+        Shown shown;
+    };
+
+    /** The table of a type; an empty one for an invalid type. */
+    explicit RelativeDateTable(RelativeDateFormat::Type type);
+
+    const Slot* begin() const { return m_slots; }
+    const Slot* end() const { return m_slots + m_size; }
+    int size() const { return m_size; }
+    const Slot& at(int slot) const { return m_slots[slot]; }
+
+    /** The slot that takes a moment, or -1 in an empty table. */
+    int slotOf(const RelativeDistance& distance) const;
+
+    /**
+     * The slot for a day by name or weekday, one to three days away, whatever the year; -1 for any other distance.
+     *
+     * @param days calendar days from the anchor, negative before it
+     */
+    int slotOfNearDay(qint64 days) const;
+
+private:
+    const Slot* m_slots = nullptr;
+    int m_size = 0;
+};
+
+} // namespace zel::utility::i18n
+
+#endif

@@ -1,0 +1,65 @@
+#include "relative/RelativeDistance.h"
+
+#include "bridge/DateTime.h"
+#include <QtCore/QCalendar>
+
+namespace zel::utility::i18n {
+
+namespace {
+
+constexpr qint64 msPerMinute = 60'000;
+constexpr qint64 msPerHour = 60 * msPerMinute;
+constexpr qint64 msPerDay = 24 * msPerHour;
+constexpr qint64 julianDayOf1970 = 2'440'588;
+constexpr qint64 firstGregorianDay = 2'299'161; // 15 October 1582
+constexpr int firstGregorianYear = 1583;        // the first to begin in the Gregorian calendar
+
+const QCalendar& julian()
+{
+    static const QCalendar calendar(QCalendar::System::Julian);
+    return calendar;
+}
+
+} // namespace
+
+qint64 RelativeDistance::reading(const QDateTime& dateTime)
+{
+    return static_cast<qint64>(DateTime::wallClock(dateTime));
+}
+
+qint64 RelativeDistance::day(qint64 reading)
+{
+    return reading / msPerDay - (reading % msPerDay < 0 ? 1 : 0);
+}
+
+int RelativeDistance::year(qint64 day)
+{
+    const QDate date = QDate::fromJulianDay(day + julianDayOf1970);
+    return date.toJulianDay() < firstGregorianDay ? date.year(julian()) : date.year();
+}
+
+qint64 RelativeDistance::firstDay(int year)
+{
+    const QDate date = year < firstGregorianYear ? QDate(year, 1, 1, julian()) : QDate(year, 1, 1);
+    return date.toJulianDay() - julianDayOf1970;
+}
+
+int RelativeDistance::years() const
+{
+    return year(day(m_moment)) - year(day(m_anchor));
+}
+
+qint64 RelativeDistance::difference(RelativeDateElement::Type element) const
+{
+    const qint64 elapsed = m_moment - m_anchor;
+    switch (element) {
+    case RelativeDateElement::Minutes:
+        return elapsed / msPerMinute;
+    case RelativeDateElement::Hours:
+        return elapsed / msPerHour;
+    default:
+        return elapsed / msPerDay;
+    }
+}
+
+} // namespace zel::utility::i18n

@@ -1,0 +1,55 @@
+#ifndef ZEL_UTILITY_I18N_RELATIVE_RELATIVEDISTANCE_H
+#define ZEL_UTILITY_I18N_RELATIVE_RELATIVEDISTANCE_H
+
+#include "relative/RelativeDateElement.h"
+#include <QtCore/QDateTime>
+
+namespace zel::utility::i18n {
+
+/**
+ * How far a moment is from an anchor, both by their wall-clock readings in the years 1 to 9999: the counts of
+ * RelativeDate in plain arithmetic, without a calendar object. Days before 15 October 1582 are those of the Julian
+ * calendar, as in ICU.
+ *
+ * @code
+ * const RelativeDistance distance(RelativeDistance::reading(anchor), RelativeDistance::reading(moment));
+ * distance.difference(RelativeDateElement::Minutes); // -5 for "5 minutes ago"
+ * @endcode
+ */
+class RelativeDistance
+{
+public:
+    /** Both in milliseconds from 1970-01-01 00:00 on the wall clock. */
+    RelativeDistance(qint64 anchor, qint64 moment) : m_anchor(anchor), m_moment(moment) {}
+
+    /** The date and time that a moment shows, whatever its time specification. */
+    static qint64 reading(const QDateTime& dateTime);
+
+    /** The day of a reading, counted from 1970-01-01. */
+    static qint64 day(qint64 reading);
+
+    /** The year of a day. */
+    static int year(qint64 day);
+
+    /** The first day of a year. */
+    static qint64 firstDay(int year);
+
+    bool isLater() const { return m_moment > m_anchor; }
+
+    /** The years between the calendar years. */
+    int years() const;
+
+    /** The days between the calendar days. */
+    qint64 days() const { return day(m_moment) - day(m_anchor); }
+
+    /** Whole minutes, hours or days from the anchor to the moment, truncated towards zero. */
+    qint64 difference(RelativeDateElement::Type element) const;
+
+private:
+    qint64 m_anchor;
+    qint64 m_moment;
+};
+
+} // namespace zel::utility::i18n
+
+#endif
