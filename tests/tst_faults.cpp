@@ -12,6 +12,7 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QProcess>
 #include <QtCore/QSet>
+#include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 #include <sys/inotify.h>
 #include <sys/stat.h>
@@ -20,6 +21,7 @@
 #include <unistd.h>
 #include <zel/icu/DataDirectory.h>
 #include <zel/PpsObject.h>
+#include <zel/system/LocaleHandler.h>
 #include <zel/utility/i18n/CustomDateFormatter.h>
 #include <zel/utility/i18n/RelativeDateFormatter.h>
 
@@ -35,6 +37,8 @@ namespace {
 
 std::atomic<bool> noInstances{false};
 std::atomic<bool> noWatches{false};
+std::atomic<bool> coarseTimes{false};
+std::atomic<int> looksToTear{0}; // at the region, of which the last finds it torn
 constexpr std::size_t longestStep = 1024;
 std::atomic<int> stepsToLive{-1}; // in a process that writes and is to be killed
 
@@ -42,6 +46,14 @@ template <typename Function>
 Function systemFunction(const char* name)
 {
     return reinterpret_cast<Function>(dlsym(RTLD_NEXT, name));
+}
+
+void cutTimes(struct stat& status)
+{
+    if (coarseTimes) {
+        status.st_mtim.tv_nsec = 0;
+        status.st_ctim.tv_nsec = 0;
+    }
 }
 
 void takeStep()
@@ -66,6 +78,26 @@ extern "C" Q_DECL_EXPORT int inotify_add_watch(int fd, const char* name, uint32_
     static const auto add = systemFunction<int (*)(int, const char*, uint32_t)>("inotify_add_watch");
     errno = ENOSPC;
     return noWatches ? -1 : add(fd, name, mask);
+}
+
+// A file system whose times have no fractions of a second.
+extern "C" Q_DECL_EXPORT int stat(const char* file, struct stat* status) noexcept
+{
+    static const auto look = systemFunction<int (*)(const char*, struct stat*)>("stat");
+    if (looksToTear > 0 && QByteArray(file).endsWith("/pps/system/locale") && --looksToTear == 0) {
+        ::truncate(file, 0);
+    }
+    const int result = look(file, status);
+    cutTimes(*status);
+    return result;
+}
+
+extern "C" Q_DECL_EXPORT int fstat(int fd, struct stat* status) noexcept
+{
+    static const auto look = systemFunction<int (*)(int, struct stat*)>("fstat");
+    const int result = look(fd, status);
+    cutTimes(*status);
+    return result;
 }
 
 // A writer is killed in the middle of its writing, before it syncs, and before the rename that shows the new object.
@@ -108,19 +140,29 @@ void replaceByFile(const QString& directory)
 }
 
 // Nothing is denied to root, so root becomes nobody.
-void lockOut(const SettingsRoot& root)
+void becomeNobody()
 {
-    QFile::setPermissions(root.path(), {});
     if (::geteuid() == 0 && ::setresuid(nobody, nobody, 0) != 0) {
         qFatal("cannot become nobody");
     }
 }
 
-void mend(const SettingsRoot& root)
+void becomeRoot()
 {
     if (::setresuid(static_cast<uid_t>(-1), 0, static_cast<uid_t>(-1)) == 0 && ::setresuid(0, 0, 0) != 0) {
         qFatal("cannot become root again");
     }
+}
+
+void lockOut(const SettingsRoot& root)
+{
+    QFile::setPermissions(root.path(), {});
+    becomeNobody();
+}
+
+void mend(const SettingsRoot& root)
+{
+    becomeRoot();
     QFile::setPermissions(root.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     QFile::remove(root.path());
     QFile::remove(root.file(QStringLiteral("/pps/system")));
@@ -294,6 +336,13 @@ bool install(const QString& tree)
     return done;
 }
 
+QString failedToRead(const SettingsRoot& root, const QString& reason)
+{
+    return QStringLiteral("warning: void zel::utility::i18n::PpsManager::onPpsUpdate() failed to read PPS at "
+                          "/pps/system/settings  :  \"%1: %2\" ")
+        .arg(root.file(path), reason);
+}
+
 bool becomes(const PpsManager& manager, int value)
 {
     return QTest::qWaitFor([&manager, value] { return manager.value() == QVariant(value); });
@@ -308,6 +357,10 @@ class FaultsTest : public QObject
 private Q_SLOTS:
     void followsThroughFault_data();
     void followsThroughFault();
+    void followsWhatWasUnreadable_data();
+    void followsWhatWasUnreadable();
+    void followsCoarseTimes();
+    void tellsWhatWasTornMeanwhile();
     void followsWithoutInotify_data();
     void followsWithoutInotify();
     void seesNoTornValue();
@@ -350,12 +403,72 @@ void FaultsTest::followsThroughFault()
     const QStringList messages = log.take();
     const QVariant value = manager.value();
     mend(root);
-    QCOMPARE(messages, {QStringLiteral("warning: void zel::utility::i18n::PpsManager::onPpsUpdate() failed to read PPS "
-                                       "at /pps/system/settings  :  \"%1: %2\" ")
-                            .arg(root.file(path), reason)});
+    QCOMPARE(messages, QStringList{failedToRead(root, reason)});
     QCOMPARE(value, QVariant(12));
     QVERIFY(becomes(manager, 24));
     QCOMPARE(log.take(), QStringList());
+}
+
+void FaultsTest::followsWhatWasUnreadable_data()
+{
+    QTest::addColumn<QString>("unreadable");
+    QTest::newRow("object") << path;
+    QTest::newRow("directory") << QStringLiteral("/pps");
+}
+
+void FaultsTest::followsWhatWasUnreadable()
+{
+    QFETCH(const QString, unreadable);
+    const SettingsRoot root;
+    QVERIFY(root.setClock("24"));
+    QFile::setPermissions(root.path(), QFile::Permissions(0x5555));
+    const auto permissions = QFile::permissions(root.file(unreadable));
+    QFile::setPermissions(root.file(unreadable), {});
+    MessageLog log;
+    becomeNobody();
+    const PpsManager manager("/pps/system/settings", "@settings", "hourFormat", nullptr);
+    QTest::qWait(longerThanQuiet);
+    becomeRoot();
+    QFile::setPermissions(root.file(unreadable), permissions);
+    QCOMPARE(log.take(), QStringList{failedToRead(root, QStringLiteral("Permission denied"))});
+    QVERIFY(becomes(manager, 24));
+}
+
+void FaultsTest::followsCoarseTimes()
+{
+    const SettingsRoot root;
+    QVERIFY(root.setRegion("de_DE"));
+    const zel::system::LocaleHandler handler(zel::system::LocaleType::Region);
+    QSignalSpy changes(&handler, SIGNAL(changed()));
+    coarseTimes = true;
+    handler.locale();
+    QTest::qWait(longerThanQuiet);
+    QVERIFY(root.rewrite(QStringLiteral("/pps/system/locale"), "@locale\nregion::fr_FR\n"));
+    const QString name = handler.locale().name();
+    const bool heard = changes.wait();
+    coarseTimes = false;
+    QCOMPARE(name, QStringLiteral("fr_FR"));
+    QVERIFY(heard);
+}
+
+// The object is torn between the reading that is announced and the answer to that, and is then what it was.
+void FaultsTest::tellsWhatWasTornMeanwhile()
+{
+    const QString region = QStringLiteral("/pps/system/locale");
+    const SettingsRoot root;
+    QVERIFY(root.setRegion("de_DE"));
+    const zel::system::LocaleHandler handler(zel::system::LocaleType::Region);
+    QSignalSpy changes(&handler, SIGNAL(changed()));
+    QTest::qWait(longerThanQuiet);
+    MessageLog log;
+    looksToTear = 3; // two make sure that the change is over
+    QVERIFY(root.rewrite(region, "@locale\nregion::fr_FR\n"));
+    while (looksToTear > 0) {
+        QCoreApplication::processEvents();
+    }
+    QVERIFY(root.rewrite(region, "@locale\nregion::fr_FR\n"));
+    QVERIFY(changes.count() > 0 || changes.wait());
+    QCOMPARE(handler.locale().name(), QStringLiteral("fr_FR"));
 }
 
 void FaultsTest::followsWithoutInotify_data()

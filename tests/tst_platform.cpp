@@ -3,10 +3,13 @@
 #include "support/MessageLog.h"
 #include "support/SettingsRoot.h"
 #include <algorithm>
+#include <atomic>
+#include <cstdio>
 #include <limits>
 #include <QtCore/QElapsedTimer>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
+#include <sys/stat.h>
 #include <thread>
 #include <unistd.h>
 #include <zel/PpsObject.h>
@@ -104,6 +107,8 @@ private Q_SLOTS:
     void fallsBackToPosixLocale();
     void reportsEachBadContentOnce();
     void seesChangeWithinOneTick();
+    void neverWaits();
+    void keepsRelativeRoot();
     void doesNotReadAgain();
     void tellsChangedRegion();
 };
@@ -553,6 +558,43 @@ void PlatformTest::seesChangeWithinOneTick()
         QVERIFY(root.rewrite(path, object(next)));
         QCOMPARE(region().name(), QString::fromLatin1(next));
     }
+}
+
+void PlatformTest::neverWaits()
+{
+    const SettingsRoot root;
+    QVERIFY(root.setRegion("de_DE"));
+    const QByteArray file = QFile::encodeName(root.file(path));
+    const QByteArray other = file + '2';
+    std::atomic<bool> done{false};
+    std::thread swapper([&] {
+        for (int i = 0; i < 500; ++i) {
+            ::mkfifo(other.constData(), 0666);
+            std::rename(other.constData(), file.constData());
+            root.rewrite(path + QLatin1Char('2'), object("de_DE"));
+            std::rename(other.constData(), file.constData());
+        }
+        done = true;
+    });
+    MessageLog log;
+    while (!done) {
+        QCOMPARE(region().name(), QStringLiteral("de_DE"));
+    }
+    swapper.join();
+}
+
+void PlatformTest::keepsRelativeRoot()
+{
+    const SettingsRoot root;
+    QVERIFY(root.setRegion("de_DE"));
+    const QString before = QDir::currentPath();
+    QDir::setCurrent(QDir(root.path()).filePath(QStringLiteral("..")));
+    qputenv("ZEL_PPS_ROOT", QFile::encodeName(QFileInfo(root.path()).fileName()));
+    QCOMPARE(region().name(), QStringLiteral("de_DE"));
+    QDir::setCurrent(before);
+    QVERIFY(root.setRegion("fr_FR"));
+    QCOMPARE(region().name(), QStringLiteral("fr_FR"));
+    QCOMPARE(PpsObject::filePath(path), root.file(path));
 }
 
 void PlatformTest::doesNotReadAgain()

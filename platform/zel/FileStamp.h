@@ -8,17 +8,17 @@
 
 namespace zel {
 
-/** By which a file is known to be the same with the same contents, at the price of one look at its status. */
+/** Identifies one version of a file; costs one stat(). */
 class FileStamp
 {
 public:
     /** Differs from every stamp of a file. */
     FileStamp() = default;
     explicit FileStamp(const char* file) : m_error(::stat(file, &m_status) == 0 ? 0 : errno) {}
+    explicit FileStamp(int descriptor) : m_error(::fstat(descriptor, &m_status) == 0 ? 0 : errno) {}
 
-    /** Why there is no status, as an errno; 0 where there is one. */
+    /** Why there is no status, as an errno; 0 if there is one. */
     int error() const { return m_error; }
-    bool isMissing() const { return m_error == ENOENT; }
     mode_t mode() const { return m_status.st_mode; }
 
     bool operator==(const FileStamp& other) const
@@ -29,21 +29,22 @@ public:
     }
 
     /**
-     * File systems tell the time in ticks of some milliseconds. A file that changed just now can change again within
-     * the same tick, and its stamp does not.
+     * Whether the file changed just now. It can then change again within the same tick of its time stamps, and its
+     * stamp stays the same. A tick is some milliseconds; where the time has no fraction, up to two seconds.
      */
     bool isFresh() const
     {
         timespec now = {};
         ::clock_gettime(CLOCK_REALTIME, &now);
-        const long long age =
-            (now.tv_sec - m_status.st_ctim.tv_sec) * nanosecondsPerSecond + (now.tv_nsec - m_status.st_ctim.tv_nsec);
-        return m_error == 0 && std::llabs(age) < longestTick;
+        const timespec& changed = m_status.st_ctim;
+        const long long age = (now.tv_sec - changed.tv_sec) * nanosecondsPerSecond + (now.tv_nsec - changed.tv_nsec);
+        return m_error == 0 && std::llabs(age) < (changed.tv_nsec == 0 ? coarseTick : fineTick);
     }
 
 private:
     static constexpr long long nanosecondsPerSecond = 1000000000;
-    static constexpr long long longestTick = 20000000;
+    static constexpr long long fineTick = 20000000;
+    static constexpr long long coarseTick = 2 * nanosecondsPerSecond;
 
     static bool same(const timespec& a, const timespec& b) { return a.tv_sec == b.tv_sec && a.tv_nsec == b.tv_nsec; }
 

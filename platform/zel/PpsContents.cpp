@@ -2,8 +2,8 @@
 
 #include "PpsCodec.h"
 #include <cerrno>
+#include <fcntl.h>
 #include <QtCore/QFile>
-#include <QtCore/QFileInfo>
 #include <sys/stat.h>
 #include <system_error>
 #include <zel/PpsObject.h>
@@ -17,41 +17,59 @@ QString errorText(int error)
     return QString::fromLocal8Bit(std::generic_category().message(error).c_str());
 }
 
+bool isPermanent(int error)
+{
+    return error == ENOTDIR || error == ENAMETOOLONG || error == ENXIO;
+}
+
+// The file itself, not its name, is asked what it is: the name may stand for another file by now.
+void readRegular(QFile& file, PpsContents& contents)
+{
+    if (!S_ISREG(contents.stamp.mode())) {
+        contents.error = S_ISDIR(contents.stamp.mode()) ? errorText(EISDIR) : QStringLiteral("Not a regular file");
+        contents.permanent = true;
+        return;
+    }
+    const QByteArray bytes = file.read(PpsObject::maximumSize + 1);
+    if (file.error() != QFileDevice::NoError) {
+        contents.error = file.errorString();
+    } else if (bytes.size() > PpsObject::maximumSize) {
+        contents.error = QStringLiteral("larger than %1 bytes").arg(PpsObject::maximumSize);
+    } else {
+        contents.bytes = bytes;
+    }
+}
+
 } // namespace
 
-PpsContents PpsContents::read(const QString& file)
+PpsContents PpsContents::read(const QByteArray& file)
 {
-    const FileStamp stamp(QFile::encodeName(file).constData());
-    const bool settled = !stamp.isFresh();
-    if (stamp.error() != 0) {
-        return {{}, errorText(stamp.error()), !stamp.isMissing(), stamp, settled};
+    PpsContents contents;
+    // For a file that cannot be opened. Taken first, so that it differs if the file comes or goes meanwhile.
+    contents.stamp = FileStamp(file.constData());
+    // A FIFO would otherwise wait for a writer.
+    const int descriptor = ::open(file.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (descriptor < 0) {
+        contents.permanent = isPermanent(errno);
+        contents.error = errorText(errno);
+        contents.settled = !contents.stamp.isFresh();
+        return contents;
     }
-    // Opening anything else could wait for ever.
-    if (!S_ISREG(stamp.mode())) {
-        return {
-            {}, S_ISDIR(stamp.mode()) ? errorText(EISDIR) : QStringLiteral("Not a regular file"), true, stamp, settled};
-    }
-    QFile device(file);
-    if (!device.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
-        return {{}, device.errorString(), QFileInfo::exists(file), stamp, settled};
-    }
-    const QByteArray bytes = device.read(PpsObject::maximumSize + 1);
-    if (device.error() != QFileDevice::NoError) {
-        return {{}, device.errorString(), false, stamp, settled};
-    }
-    if (bytes.size() > PpsObject::maximumSize) {
-        return {{}, QStringLiteral("larger than %1 bytes").arg(PpsObject::maximumSize), false, stamp, settled};
-    }
-    return {bytes, {}, false, stamp, settled};
+    QFile opened;
+    opened.open(descriptor, QIODevice::ReadOnly | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle);
+    contents.stamp = FileStamp(descriptor);
+    contents.settled = !contents.stamp.isFresh();
+    readRegular(opened, contents);
+    return contents;
 }
 
 bool PpsContents::isWhole() const
 {
-    QString fault = error;
-    if (fault.isEmpty()) {
-        PpsCodec::decode(bytes, fault);
+    QString reason = error;
+    if (reason.isEmpty()) {
+        PpsCodec::decode(bytes, reason);
     }
-    return fault.isEmpty();
+    return reason.isEmpty();
 }
 
 } // namespace zel

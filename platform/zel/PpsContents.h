@@ -7,16 +7,17 @@
 
 namespace zel {
 
-/** What a look at an object's file finds: its bytes, or why there are none. */
+/** What one read of an object's file finds: its bytes, or why there are none. */
 struct PpsContents
 {
     QByteArray bytes;
-    QString error;         ///< empty where the file could be read
-    bool hopeless = false; ///< no write of the object can mend the error
-    FileStamp stamp = {};  ///< of the file just before it was read
-    bool settled = false;  ///< a change since then shows in the stamp
+    QString error;          ///< empty if the file could be read
+    bool permanent = false; ///< rewriting the object, or its permissions, cannot fix the error
+    FileStamp stamp = {};   ///< of the file before it was read
+    bool settled = false;   ///< a later change shows in the stamp
 
-    static PpsContents read(const QString& file);
+    /** Never waits, whatever the file is. */
+    static PpsContents read(const QByteArray& file);
 
     /** The bytes are those of an object, not half of one. */
     bool isWhole() const;

@@ -3,7 +3,11 @@
 #include "PpsCodec.h"
 #include "PpsContents.h"
 #include "PpsWatcher.h"
+#include <cerrno>
 #include <cstdlib>
+#include <map>
+#include <memory>
+#include <mutex>
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
@@ -12,6 +16,23 @@
 #include <utility>
 
 namespace zel {
+
+namespace {
+
+// As the working directory was when the root was first used. The answers are never destroyed.
+const char* absoluteRoot(const QByteArray& root)
+{
+    static std::mutex mutex;
+    static auto& roots = *std::make_unique<std::map<QByteArray, QByteArray>>().release();
+    const std::lock_guard lock(mutex);
+    QByteArray& absolute = roots[root];
+    if (absolute.isEmpty()) {
+        absolute = QFile::encodeName(QFileInfo(QFile::decodeName(root)).absoluteFilePath());
+    }
+    return absolute.constData();
+}
+
+} // namespace
 
 class PpsObject::Private
 {
@@ -27,6 +48,7 @@ public:
     const QString file;
     const QByteArray encodedFile;
     QFlags<PpsOpenMode::Type> mode;
+    bool follows = false;   // opened for notification, even if that failed for the object's state
     PpsContents seen;       // what was last read or announced
     bool announced = false; // readyRead() is being emitted for what was seen
     std::unique_ptr<PpsWatcher> watcher;
@@ -41,6 +63,8 @@ bool PpsObject::open(QFlags<PpsOpenMode::Type> mode)
 {
     setReadyReadEnabled(false);
     d->mode = {};
+    d->follows = false;
+    d->announced = false;
     const QFlags<PpsOpenMode::Type> known = PpsOpenMode::Publish | PpsOpenMode::Subscribe;
     if (!mode || (mode & known) != mode) {
         return fail(QStringLiteral("unknown open mode"));
@@ -48,12 +72,13 @@ bool PpsObject::open(QFlags<PpsOpenMode::Type> mode)
     if (!d->path.startsWith(QLatin1Char('/'))) {
         return fail(QStringLiteral("not an absolute path"));
     }
-    d->seen = PpsContents::read(d->file);
-    if (d->seen.hopeless) {
+    d->seen = PpsContents::read(d->encodedFile);
+    d->follows = mode.testFlag(PpsOpenMode::Subscribe);
+    setReadyReadEnabled(true);
+    if (d->seen.permanent) {
         return fail(d->seen.error);
     }
     d->mode = mode;
-    setReadyReadEnabled(true);
     return true;
 }
 
@@ -61,8 +86,8 @@ void PpsObject::setReadyReadEnabled(bool enabled)
 {
     if (!enabled) {
         d->watcher.reset();
-    } else if (!d->watcher && d->mode.testFlag(PpsOpenMode::Subscribe)) {
-        d->watcher = std::make_unique<PpsWatcher>(d->file, this);
+    } else if (!d->watcher && d->follows) {
+        d->watcher = std::make_unique<PpsWatcher>(d->encodedFile, this);
         connect(d->watcher.get(), SIGNAL(settled()), this, SLOT(onSettled()));
     }
 }
@@ -88,7 +113,7 @@ QByteArray PpsObject::read(bool* ok)
         fail(QStringLiteral("not open for reading"));
     } else {
         if (!std::exchange(d->announced, false)) {
-            d->seen = PpsContents::read(d->file);
+            d->seen = PpsContents::read(d->encodedFile);
         }
         done = d->seen.error.isEmpty() || fail(d->seen.error);
     }
@@ -96,6 +121,11 @@ QByteArray PpsObject::read(bool* ok)
         *ok = done;
     }
     return done ? d->seen.bytes : QByteArray();
+}
+
+bool PpsObject::exists() const
+{
+    return d->seen.stamp.error() != ENOENT;
 }
 
 bool PpsObject::isCurrent() const
@@ -162,7 +192,10 @@ QByteArray PpsObject::encode(const QVariantMap& record, bool* ok, QString* error
 const char* PpsObject::root()
 {
     const char* const root = ::secure_getenv("ZEL_PPS_ROOT");
-    return root == nullptr ? "" : root;
+    if (root == nullptr) {
+        return "";
+    }
+    return *root == '/' || *root == '\0' ? root : absoluteRoot(root);
 }
 
 QString PpsObject::filePath(const QString& path)

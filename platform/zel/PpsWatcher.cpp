@@ -1,6 +1,7 @@
 #include "PpsWatcher.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QTimer>
 #include <utility>
@@ -28,7 +29,10 @@ QStringList trailOf(const QString& file)
 
 } // namespace
 
-PpsWatcher::PpsWatcher(const QString& file, QObject* parent) : QObject(parent), m_file(file), m_trail(trailOf(file))
+PpsWatcher::PpsWatcher(const QByteArray& file, QObject* parent)
+    : QObject(parent),
+      m_file(file),
+      m_trail(trailOf(QFile::decodeName(file)))
 {
     QMetaObject::invokeMethod(this, "start", Qt::QueuedConnection);
 }

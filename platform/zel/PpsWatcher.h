@@ -24,7 +24,7 @@ class PpsWatcher : public QObject
     Q_OBJECT
 
 public:
-    PpsWatcher(const QString& file, QObject* parent);
+    PpsWatcher(const QByteArray& file, QObject* parent);
 
     /** What the last look found. */
     const PpsContents& contents() const { return m_contents; }
@@ -42,7 +42,7 @@ private Q_SLOTS:
 private:
     void watch();
 
-    const QString m_file;
+    const QByteArray m_file;
     const QStringList m_trail;
     std::unique_ptr<QFileSystemWatcher> m_watcher;
     PpsContents m_contents;

@@ -2,18 +2,16 @@
 
 #include "RegionCache.h"
 #include <QtCore/QMetaMethod>
+#include <QtCore/QTimer>
 #include <zel/PpsObject.h>
 
 namespace zel::system {
 
-class LocaleHandler::Watch
-{
-public:
-    explicit Watch(QObject* parent) : object(QStringLiteral("/pps/system/locale"), parent) {}
+namespace {
 
-    PpsObject object;
-    QLocale last;
-};
+constexpr int writeInterval = 20; // milliseconds that an object may be half written
+
+} // namespace
 
 LocaleHandler::LocaleHandler(LocaleType::Type type, QObject* parent) : QObject(parent), m_type(type) {}
 
@@ -34,24 +32,22 @@ void LocaleHandler::connectNotify(const QMetaMethod& signal)
 
 void LocaleHandler::startWatching()
 {
-    if (m_watch) {
+    if (m_object) {
         return;
     }
-    m_watch = std::make_unique<Watch>(this);
-    connect(&m_watch->object, SIGNAL(readyRead()), this, SLOT(onObjectChanged()));
-    if (!m_watch->object.open(PpsOpenMode::Subscribe)) {
-        qWarning("zel::system::LocaleHandler: changes are not noticed: %s",
-                 qUtf8Printable(m_watch->object.errorString()));
-    }
-    m_watch->last = locale();
+    m_object = std::make_unique<PpsObject>(QStringLiteral("/pps/system/locale"), this);
+    connect(m_object.get(), SIGNAL(readyRead()), this, SLOT(onObjectChanged()));
+    m_object->open(PpsOpenMode::Subscribe);
+    RegionCache& cache = RegionCache::instance();
+    cache.refresh();
+    // Of the cache, not of the object: whoever reads a change first, all hear of it. Queued, as it may be in a query.
+    connect(&cache, SIGNAL(changed()), this, SIGNAL(changed()), Qt::QueuedConnection);
 }
 
 void LocaleHandler::onObjectChanged()
 {
-    const QLocale now = locale();
-    if (now != m_watch->last) {
-        m_watch->last = now;
-        Q_EMIT changed();
+    if (!RegionCache::instance().refresh()) {
+        QTimer::singleShot(writeInterval, this, SLOT(onObjectChanged()));
     }
 }
 

@@ -3,12 +3,10 @@
 #include "LocaleName.h"
 #include <algorithm>
 #include <cstdlib>
-#include <memory>
 #include <mutex>
 #include <optional>
 #include <QtCore/QVariantMap>
 #include <utility>
-#include <zel/PpsObject.h>
 
 namespace zel::system {
 
@@ -38,31 +36,46 @@ QString shown(const QString& value)
     return QLatin1Char('"') + text + QLatin1String(value.size() > enough ? "...\"" : "\"");
 }
 
-struct Region
+/** What one look at the object finds. */
+struct Reading
 {
-    QVariant value; // invalid where the region is not set
+    std::shared_ptr<PpsObject> object = std::make_shared<PpsObject>(QString::fromLatin1(objectPath));
     QByteArray contents;
-    QString fault;
+    QVariant value; // invalid if the region is not set
+    QString error;
 };
 
-Region readRegion()
+QString errorOfObject(const QString& reason)
 {
-    PpsObject object(QString::fromLatin1(objectPath));
-    bool ok = false;
-    const QByteArray contents = object.open(PpsOpenMode::Subscribe) ? object.read(&ok) : QByteArray();
+    return PpsObject::filePath(QString::fromLatin1(objectPath)) + QLatin1String(": ") + reason;
+}
+
+Reading readRegion()
+{
+    Reading reading;
+    PpsObject& object = *reading.object;
+    bool ok = object.open(PpsOpenMode::Subscribe);
+    // Asked, not listened to: the thread of the caller may be gone the next time.
+    object.setReadyReadEnabled(false);
+    reading.contents = ok ? object.read(&ok) : QByteArray();
     if (!ok) {
-        return {{}, {}, object.errorString()};
+        reading.error = object.exists() ? object.errorString() : QString();
+        return reading;
     }
-    QString error;
-    const QVariantMap record = PpsObject::decode(contents, &ok, &error);
+    const QVariantMap record = PpsObject::decode(reading.contents, &ok, &reading.error);
     if (!ok) {
-        return {{}, contents, PpsObject::filePath(QString::fromLatin1(objectPath)) + QLatin1String(": ") + error};
+        reading.error = errorOfObject(reading.error);
     }
-    const QVariantMap attributes = record.value(QStringLiteral("@locale")).toMap();
-    return {attributes.value(QStringLiteral("region")), contents, {}};
+    reading.value = record.value(QStringLiteral("@locale")).toMap().value(QStringLiteral("region"));
+    return reading;
 }
 
 } // namespace
+
+RegionCache::RegionCache()
+{
+    moveToThread(nullptr);
+}
 
 RegionCache& RegionCache::instance()
 {
@@ -73,72 +86,82 @@ RegionCache& RegionCache::instance()
 
 QLocale RegionCache::locale()
 {
-    const Answer given = answer();
-    // Outside the lock: the message handler may well ask for the region itself, to write the time.
-    if (!given.complaint.isEmpty()) {
-        qWarning("zel::system::LocaleHandler: %s", qUtf8Printable(given.complaint));
-    }
-    return given.locale;
+    refresh();
+    const std::shared_lock lock(m_mutex);
+    return m_region.locale;
 }
 
-RegionCache::Answer RegionCache::answer()
+bool RegionCache::refresh()
 {
-    const char* const root = PpsObject::root();
     {
         // Threads look at the file side by side; only a change makes them wait for each other.
-        const std::shared_lock<std::shared_mutex> lock(m_mutex);
-        if (isCurrent(root)) {
-            return {m_locale, {}};
+        const std::shared_lock lock(m_mutex);
+        if (m_region.isCurrent()) {
+            return true;
         }
     }
-    const std::lock_guard<std::shared_mutex> lock(m_mutex);
-    if (m_file.isEmpty() || m_root != root) {
-        m_root = root;
-        m_file = m_root + objectPath;
-        m_set = false;
+    Region next;
+    bool isOther = false;
+    {
+        const std::lock_guard lock(m_mutex);
+        next = m_region.next();
+        isOther = next.locale != m_region.locale;
+        m_region = next;
     }
-    m_stamp = FileStamp(m_file.constData());
-    m_racy = m_stamp.isFresh();
-    const QString complaint = update();
-    return {m_locale, complaint};
+    // Outside the lock: the message handler may well ask for the region itself, to write the time.
+    if (!next.message.isEmpty()) {
+        qWarning("zel::system::LocaleHandler: %s", qUtf8Printable(next.message));
+    }
+    if (isOther) {
+        Q_EMIT changed();
+    }
+    return !next.isTorn;
 }
 
-bool RegionCache::isCurrent(const char* root) const
+bool RegionCache::Region::isCurrent() const
 {
-    return !m_file.isEmpty() && m_root == root && !m_racy && FileStamp(m_file.constData()) == m_stamp &&
-           (m_set || m_posix == posixLocaleName());
+    return object && root == PpsObject::root() && object->isCurrent() && (isSet || posix == posixLocaleName());
 }
 
-// Reads the region, and returns what is to be said about it.
-QString RegionCache::update()
+RegionCache::Region RegionCache::Region::next() const
 {
-    Region region = m_stamp.isMissing() ? Region() : readRegion();
-    if (m_set && !region.fault.isEmpty()) {
-        return complaintOf(region.fault, region.contents);
+    Region region = *this;
+    region.message.clear();
+    region.root = PpsObject::root();
+    const bool wasSet = isSet && region.root == root;
+    Reading reading = readRegion();
+    region.object = reading.object;
+    region.isTorn = !reading.error.isEmpty() && !reading.object->isCurrent();
+    if (wasSet && !reading.error.isEmpty()) {
+        region.report(reading.error, reading.contents);
+        return region;
     }
-    const bool wasSet = std::exchange(m_set, false);
-    if (region.value.isValid()) {
-        const QString name = region.value.toString();
-        const auto locale = wasSet && name == m_name ? std::make_optional(m_locale) : LocaleName::find(name);
-        if (locale) {
-            m_name = name;
-            m_locale = *locale;
-            m_set = true;
-            m_reported.clear();
-            return {};
+    region.isSet = false;
+    if (reading.value.isValid()) {
+        const QString text = reading.value.toString();
+        const auto found = wasSet && text == name ? std::make_optional(locale) : LocaleName::find(text);
+        if (found) {
+            region.isSet = true;
+            region.name = text;
+            region.locale = *found;
+            region.reported.clear();
+            return region;
         }
-        region.fault = QStringLiteral("%1: region %2 is not a locale").arg(QString::fromLocal8Bit(m_file), shown(name));
+        reading.error = errorOfObject(QStringLiteral("region %1 is not a locale").arg(shown(text)));
     }
-    m_posix = posixLocaleName();
-    m_locale = LocaleName::closest(QString::fromLocal8Bit(m_posix));
-    return complaintOf(region.fault, region.contents);
+    region.posix = posixLocaleName();
+    region.locale = LocaleName::closest(QString::fromLocal8Bit(region.posix));
+    region.report(reading.error, reading.contents);
+    return region;
 }
 
-QString RegionCache::complaintOf(const QString& fault, const QByteArray& contents)
+void RegionCache::Region::report(const QString& error, const QByteArray& contents)
 {
-    const QByteArray report = fault.isEmpty() ? QByteArray() : fault.toUtf8() + contents;
-    const bool news = report != std::exchange(m_reported, report);
-    return news && !fault.isEmpty() ? fault + QLatin1String("; using the locale ") + m_locale.name() : QString();
+    const QByteArray report = error.isEmpty() ? QByteArray() : error.toUtf8() + contents;
+    const bool isNews = report != std::exchange(reported, report);
+    if (isNews && !error.isEmpty()) {
+        message = error + QLatin1String("; using the locale ") + locale.name();
+    }
 }
 
 } // namespace zel::system

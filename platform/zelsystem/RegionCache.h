@@ -1,49 +1,66 @@
 #ifndef ZEL_SYSTEM_REGIONCACHE_H
 #define ZEL_SYSTEM_REGIONCACHE_H
 
-#include "FileStamp.h"
+#include <memory>
 #include <QtCore/QByteArray>
 #include <QtCore/QLocale>
+#include <QtCore/QObject>
 #include <QtCore/QString>
 #include <shared_mutex>
+#include <zel/PpsObject.h>
 
 namespace zel::system {
 
 /**
- * The region and what it was made from. The settings object is parsed again only when its file's status or the
- * environment has changed, and each bad content of it is reported once. An object that is torn, as while it is
- * rewritten in place, takes nothing from the region that it gave before. Any thread may ask.
+ * The region and what it was made from. The settings object is read again only if its file's status or the environment
+ * has changed, and each bad content of it is reported once. An object that is torn, as while it is rewritten in place,
+ * takes nothing from the region that it gave before. Any thread may ask; the cache itself belongs to none.
  */
-class RegionCache
+class RegionCache : public QObject
 {
+    Q_OBJECT
+
 public:
+    RegionCache();
+
     /** The cache of this process. */
     static RegionCache& instance();
 
+    /** The region as of now; costs one stat() if nothing has changed. */
     QLocale locale();
 
+    /**
+     * Reads the region again if the object or the environment has changed.
+     *
+     * @return false if the object is being written just now and cannot be read, so that another call is needed soon
+     */
+    bool refresh();
+
+Q_SIGNALS:
+    /** The region is another one. Emitted on the thread that noticed it. */
+    void changed();
+
 private:
-    struct Answer
+    /** What the region is and why. */
+    struct Region
     {
-        QLocale locale;
-        QString complaint;
+        std::shared_ptr<PpsObject> object; // as it was read; null before the first time
+        QByteArray root;
+        bool isSet = false; // the locale is the region that the object gave
+        QString name;       // by which the object gave it
+        QByteArray posix;   // the name of the fallback
+        QLocale locale = QLocale::c();
+        QByteArray reported; // the error that was reported last, with the content that has it
+        bool isTorn = false; // the object is being written
+        QString message;     // what is to be reported now
+
+        bool isCurrent() const;
+        Region next() const;
+        void report(const QString& error, const QByteArray& contents);
     };
 
-    Answer answer();
-    bool isCurrent(const char* root) const;
-    QString update();
-    QString complaintOf(const QString& fault, const QByteArray& contents);
-
     std::shared_mutex m_mutex;
-    QByteArray m_root;
-    QByteArray m_file;
-    bool m_set = false; // the locale is the region that the object gave
-    QString m_name;     // by which the object gave it
-    QByteArray m_posix; // the name that stands in where it gave none
-    FileStamp m_stamp;
-    bool m_racy = false; // the stamp was taken too soon after a change to show a further one
-    QLocale m_locale = QLocale::c();
-    QByteArray m_reported; // the fault that was reported last, with the content that has it
+    Region m_region;
 };
 
 } // namespace zel::system

@@ -25,7 +25,6 @@ public:
     Q_SIGNAL void changed();
 
 private Q_SLOTS:
-    void listen();
     void onChange();
 
 private:

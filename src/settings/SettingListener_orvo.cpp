@@ -11,7 +11,6 @@ namespace zel::utility::i18n {
 namespace {
 
 constexpr int writeInterval = 20; // milliseconds that an object may be half written
-constexpr int openInterval = 1000;
 
 } // namespace
 
@@ -27,18 +26,10 @@ SettingListener::SettingListener(PpsManager* manager)
 {
     connect(manager, SIGNAL(changed()), this, SIGNAL(changed()), Qt::QueuedConnection);
     connect(m_source.get(), SIGNAL(readyRead()), this, SLOT(onChange()));
-    listen();
+    m_source->open(zel::PpsOpenMode::Subscribe);
 }
 
 SettingListener::~SettingListener() = default;
-
-// The reader has reported an object that cannot be opened.
-void SettingListener::listen()
-{
-    if (!m_source->open(zel::PpsOpenMode::Subscribe)) {
-        QTimer::singleShot(openInterval, this, SLOT(listen()));
-    }
-}
 
 void SettingListener::onChange()
 {

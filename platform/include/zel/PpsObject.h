@@ -52,10 +52,11 @@ public:
 
     /**
      * Opens the object. One that does not exist can be opened too, even where its directories do not exist: it notifies
-     * as soon as it appears.
+     * as soon as it appears, and one that may not be read as soon as it may.
      *
-     * @return false for what cannot become readable by being written: a path that is not absolute, a directory,
-     *         a path through a regular file, an object or directory that may not be read; and for a bad mode
+     * @return false for a bad mode, a path that is not absolute, and what rewriting the object cannot fix: a directory,
+     *         a device, a path through a regular file. These last notify, too, when they change; open() can then be
+     *         called again.
      */
     bool open(QFlags<PpsOpenMode::Type> mode);
 
@@ -69,6 +70,9 @@ public:
      * @param ok set to whether the object exists and could be read
      */
     QByteArray read(bool* ok = nullptr);
+
+    /** Whether there was an object, readable or not, when it was last looked at. */
+    bool exists() const;
 
     /**
      * Whether read() would give what it last gave, for all that the file's status tells. Costs one stat(); false, too,
@@ -104,8 +108,9 @@ public:
     static QByteArray encode(const QVariantMap& record, bool* ok = nullptr, QString* error = nullptr);
 
     /**
-     * The directory that is put in front of every object's path: the environment's ZEL_PPS_ROOT. Empty where that is
-     * not set, and always in a process that runs with raised privileges.
+     * The directory that is put in front of every object's path: the environment's ZEL_PPS_ROOT. A relative one is made
+     * absolute when it is first used. Empty if that is not set, and always in a process that runs with raised
+     * privileges.
      */
     static const char* root();
 

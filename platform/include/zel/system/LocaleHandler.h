@@ -6,7 +6,11 @@
 #include <QtCore/QObject>
 #include <zel/Global.h>
 
-namespace zel::system {
+namespace zel {
+
+class PpsObject;
+
+namespace system {
 
 /** Which of the user's locales. */
 namespace LocaleType {
@@ -49,12 +53,12 @@ private Q_SLOTS:
     void onObjectChanged();
 
 private:
-    class Watch;
-
     const LocaleType::Type m_type;
-    std::unique_ptr<Watch> m_watch;
+    std::unique_ptr<PpsObject> m_object; // announces changes; null while nobody is connected
 };
 
-} // namespace zel::system
+} // namespace system
+
+} // namespace zel
 
 #endif
