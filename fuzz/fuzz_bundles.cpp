@@ -1,11 +1,12 @@
-// Reads anything at all as a compiled resource bundle. One that opens can be read everywhere, and a copy with more in
-// it opens again and has what was added.
+// Reads anything at all as a compiled resource bundle, and as the texts of one. One that opens can be read everywhere,
+// and a copy with more in it opens again and has what was added.
 
 #include "Require.h"
 
 #include "ResourceBundleReader.h"
 #include "ResourceBundleWriter.h"
 #include "StockBundles.h"
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -26,6 +27,7 @@ const ResourceBundleReader* stockPool()
 
 void requireReadable(const ResourceBundleReader& bundle)
 {
+    bundle.hasNoFallback();
     std::vector<Resource> pending{bundle.root()};
     std::unordered_set<Resource> seen;
     while (!pending.empty()) {
@@ -72,11 +74,37 @@ void readAll(const BundleData& data, const ResourceBundleReader* pool)
     }
 }
 
+/** A bundle of two texts in 16-bit units, both somewhere in the input. */
+std::string bundleAround(std::string_view input)
+{
+    constexpr std::uint32_t root = 5U << 28U; // a table with 16-bit keys and items, at the first unit
+    constexpr std::uint32_t indexWords = 8;
+    constexpr std::uint32_t keysTop = indexWords + 1;
+    constexpr std::size_t tableUnits = 5;
+    std::vector<char16_t> units{2, 4 * indexWords, 4 * indexWords + 2, tableUnits, tableUnits};
+    for (std::size_t at = 0; at + 1 < input.size(); at += 2) {
+        units.push_back(static_cast<char16_t>(static_cast<unsigned char>(input[at]) |
+                                              static_cast<unsigned char>(input[at + 1]) << 8U));
+    }
+    units[4] = static_cast<char16_t>(tableUnits + input.size() % 7);
+    units.resize(units.size() / 2 * 2 + 2);
+    const auto top = static_cast<std::uint32_t>(keysTop + units.size() / 2);
+    const std::array<std::uint32_t, keysTop> words{root, indexWords - 1,  keysTop, top, top, 2, 0,
+                                                   top,  'a' | 'b' << 16U};
+    std::string body(reinterpret_cast<const char*>(words.data()), sizeof words);
+    return body.append(reinterpret_cast<const char*>(units.data()), units.size() * sizeof units.front());
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const std::string_view file(reinterpret_cast<const char*>(data), size);
+    BundleData texts = stockPool()->data();
+    const std::string body = bundleAround(file);
+    texts.body = body;
+    readAll(texts, nullptr);
+
     std::string error;
     const auto bundle = BundleData::fromFile(file, error);
     ZEL_REQUIRE(bundle.has_value() == error.empty());

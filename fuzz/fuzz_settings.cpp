@@ -1,9 +1,11 @@
-// Decodes anything at all as a settings object. What decodes comes back from its encoded form as it was.
+// Decodes anything at all as a settings object, and encodes any record. What decodes comes back from its encoded form
+// as it was, and what encodes decodes to what it was.
 
 #include "Require.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <fuzzer/FuzzedDataProvider.h>
 #include <zel/PpsObject.h>
 
 using zel::PpsObject;
@@ -19,10 +21,51 @@ void requireSame(const QVariantMap& one, const QVariantMap& other)
     }
 }
 
+QString textFrom(FuzzedDataProvider& input)
+{
+    return QString::fromStdString(input.ConsumeRandomLengthString());
+}
+
+QVariant valueFrom(FuzzedDataProvider& input)
+{
+    switch (input.ConsumeIntegralInRange(0, 5)) {
+    case 0:
+        return textFrom(input);
+    case 1:
+        return input.ConsumeBool();
+    case 2:
+        return input.ConsumeIntegral<int>();
+    case 3:
+        return qlonglong(input.ConsumeIntegral<std::int64_t>());
+    case 4:
+        return input.ConsumeFloatingPoint<double>();
+    default:
+        return QStringList(textFrom(input));
+    }
+}
+
+void requireHonestEncoding(FuzzedDataProvider input)
+{
+    QVariantMap record;
+    while (input.remaining_bytes() > 0) {
+        QVariantMap attributes;
+        for (int count = input.ConsumeIntegralInRange(0, 3); count > 0; --count) {
+            attributes[textFrom(input)] = valueFrom(input);
+        }
+        record[QLatin1Char('@') + textFrom(input)] = attributes;
+    }
+    bool ok = false;
+    QString error;
+    const QByteArray encoded = PpsObject::encode(record, &ok, &error);
+    ZEL_REQUIRE(ok == error.isEmpty() && ok != encoded.isEmpty());
+    ZEL_REQUIRE(!ok || PpsObject::decode(encoded) == record);
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
+    requireHonestEncoding({data, size});
     const QByteArray contents(reinterpret_cast<const char*>(data), static_cast<int>(size));
     bool ok = false;
     QString error;

@@ -1,22 +1,30 @@
-// Formats with anything at all as a skeleton, in locales that write dates in different ways. A formatter that is valid
-// has a text to show, and one that is not has none.
+// Formats with anything at all as a skeleton, in locales that write dates in different ways, under both clocks and in
+// several time zones. A formatter that is valid shows what ICU shows, and one that is not shows nothing.
 
 #include "Require.h"
 #include "support/SettingsRoot.h"
 
+#include "bridge/Locale.h"
+#include "bridge/String.h"
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <fuzzer/FuzzedDataProvider.h>
+#include <map>
+#include <memory>
 #include <QtCore/QDateTime>
 #include <string>
+#include <unicode/dtptngen.h>
+#include <unicode/smpdtfmt.h>
 #include <utility>
 #include <zel/utility/i18n/CustomDateFormatter.h>
 
-using zel::utility::i18n::CustomDateFormatter;
+using namespace zel::utility::i18n;
 
 namespace {
 
+constexpr std::array<const char*, 2> clocks{"12", "24"};
+constexpr std::array<const char*, 4> zones{"Europe/Berlin", "Asia/Kolkata", "America/St_Johns", "Pacific/Apia"};
 constexpr std::array<const char*, 8> regions{"en_US", "de_DE", "fr_CA", "ja_JP", "zh_TW", "ar_EG", "th_TH", "fa_IR"};
 
 // ICU itself is not instrumented and gives the fuzzer no hints, so bytes are made letters and runs of letters here.
@@ -33,11 +41,73 @@ QString skeletonOf(const std::string& bytes)
     return skeleton;
 }
 
-void requireText(const CustomDateFormatter& formatter, const QDateTime& moment)
+/** A setting of the device, written where it is another one. */
+class Setting
 {
-    const QString text = formatter.format(moment);
-    ZEL_REQUIRE(text.isNull() != formatter.isValid());
-}
+public:
+    using Set = bool (SettingsRoot::*)(const QByteArray&) const;
+
+    explicit Setting(Set set) : m_set(set) {}
+
+    const char* take(const char* value)
+    {
+        static const SettingsRoot settings;
+        if (std::exchange(m_value, value) != value) {
+            ZEL_REQUIRE((settings.*m_set)(value));
+        }
+        return value;
+    }
+
+private:
+    Set m_set;
+    const char* m_value = nullptr;
+};
+
+/** The settings of the device, and the text that ICU makes of a skeleton under them. */
+struct Device
+{
+    const char* region;
+    const char* clock;
+    const char* zone;
+
+    QString text(const QString& skeleton, const QDateTime& moment) const
+    {
+        UErrorCode status = U_ZERO_ERROR;
+        QString clocked = skeleton;
+        const bool is24Hour = clock == clocks[1];
+        clocked.replace(QLatin1Char(is24Hour ? 'h' : 'H'), QLatin1Char(is24Hour ? 'H' : 'h'));
+        const icu::Locale locale = zel::utility::i18n::Locale::toICU(QLocale(QLatin1String(region)));
+        auto& generator = generators()[region];
+        if (!generator) {
+            generator.reset(icu::DateTimePatternGenerator::createInstance(locale, status));
+        }
+        icu::SimpleDateFormat format(generator->getBestPattern(String::toICU(clocked), status), locale, status);
+        if (U_FAILURE(status)) {
+            return {};
+        }
+        const bool showsZone = skeleton.contains(QLatin1Char('z'), Qt::CaseInsensitive) ||
+                               skeleton.contains(QLatin1Char('v'), Qt::CaseInsensitive);
+        format.adoptTimeZone(icu::TimeZone::createTimeZone(showsZone ? zone : "GMT"));
+        icu::UnicodeString text;
+        format.format(static_cast<UDate>(moment.toMSecsSinceEpoch()), text);
+        return text.isEmpty() ? QString(QLatin1String("")) : String::toQt(text);
+    }
+
+    void requireText(const CustomDateFormatter& formatter, const QDateTime& moment) const
+    {
+        const QString shown = formatter.format(moment);
+        ZEL_REQUIRE(shown.isNull() != formatter.isValid());
+        ZEL_REQUIRE(shown == text(formatter.skeleton(), moment));
+    }
+
+private:
+    using Generators = std::map<std::string, std::unique_ptr<icu::DateTimePatternGenerator>>;
+    static Generators& generators()
+    {
+        static Generators known;
+        return known;
+    }
+};
 
 } // namespace
 
@@ -49,21 +119,20 @@ extern "C" int LLVMFuzzerInitialize(int* /*argc*/, char*** /*argv*/)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    static const SettingsRoot settings;
-    [[maybe_unused]] static const bool is24Hour = settings.setClock("24");
-    static const char* region = nullptr;
+    static Setting region(&SettingsRoot::setRegion);
+    static Setting clock(&SettingsRoot::setClock);
+    static Setting zone(&SettingsRoot::setTimeZone);
     FuzzedDataProvider input(data, size);
-    if (const char* const next = input.PickValueInArray(regions); std::exchange(region, next) != next) {
-        ZEL_REQUIRE(settings.setRegion(next));
-    }
-    const QDateTime moment = QDateTime::fromMSecsSinceEpoch(input.ConsumeIntegral<std::int64_t>()).toUTC();
+    const Device device{region.take(input.PickValueInArray(regions)), clock.take(input.PickValueInArray(clocks)),
+                        zone.take(input.PickValueInArray(zones))};
+    const QDateTime moment = QDateTime::fromMSecsSinceEpoch(input.ConsumeIntegral<std::int64_t>() >> 10, Qt::UTC);
     const QString first = skeletonOf(input.ConsumeRandomLengthString());
     const QString second = skeletonOf(input.ConsumeRemainingBytesAsString());
 
     CustomDateFormatter formatter(first);
-    requireText(formatter, moment);
+    device.requireText(formatter, moment);
     formatter.setSkeleton(second);
     ZEL_REQUIRE(formatter.skeleton() == second);
-    requireText(formatter, moment);
+    device.requireText(formatter, moment);
     return 0;
 }
