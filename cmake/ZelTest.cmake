@@ -12,7 +12,7 @@ function(zel_add_test name)
     target_link_libraries(tst_${name} PRIVATE zelutilityi18n_static Qt::Test zel_warnings)
     if(Qt6Test_VERSION VERSION_GREATER_EQUAL 6.7 AND Qt6Test_VERSION VERSION_LESS 6.11)
         # The QTRY macros of these versions convert carelessly themselves.
-        target_compile_options(tst_${name} PRIVATE -Wno-conversion)
+        set_source_files_properties(tst_${name}.cpp PROPERTIES COMPILE_OPTIONS -Wno-conversion)
     endif()
     add_test(NAME ${name} COMMAND tst_${name})
     set_tests_properties(${name} PROPERTIES TIMEOUT 300)

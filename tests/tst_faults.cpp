@@ -476,9 +476,10 @@ void FaultsTest::followsWithoutInotify_data()
     QTest::addColumn<bool>("hasInstances");
     QTest::addColumn<QStringList>("messages");
     QTest::newRow("no instance left") << false << QStringList();
+    // Qt's own message, whose type depends on the version.
     QTest::newRow("no watch left") << true
-                                   << QStringList(QStringLiteral("critical: inotify_add_watch(/) failed: (No space "
-                                                                 "left on device)"));
+                                   << QStringList(QStringLiteral("inotify_add_watch(/) failed: (No space left on "
+                                                                 "device)"));
 }
 
 void FaultsTest::followsWithoutInotify()
@@ -496,7 +497,8 @@ void FaultsTest::followsWithoutInotify()
     QVERIFY(becomes(manager, 24));
     noInstances = false;
     noWatches = false;
-    QCOMPARE(log.take(), messages);
+    QCOMPARE(log.take().replaceInStrings(QRegularExpression(QStringLiteral("^(warning|critical): ")), QString()),
+             messages);
 }
 
 void FaultsTest::seesNoTornValue()
@@ -550,8 +552,12 @@ void FaultsTest::answersWithIcuDataDamaged_data()
             QFile::resize(list, qint64(1) << 40);
         });
     row("another release", "%1/" U_ICUDATA_NAME ": made for another ICU", [](const QDir& bundles) {
-        change(bundles.filePath(QStringLiteral("bundles.list")),
-               [](const QByteArray& list) { return "806 1" + list.mid(5); });
+        change(bundles.filePath(QStringLiteral("bundles.list")), [](const QByteArray& list) {
+            QByteArray other = list;
+            const auto lastDigit = list.indexOf('\n') - 1;
+            other[lastDigit] = list.at(lastDigit) == '1' ? '2' : '1';
+            return other;
+        });
     });
     row("bundle missing", "%1/" U_ICUDATA_NAME ": ak.res is missing or damaged",
         [](const QDir& bundles) { QFile::remove(bundles.filePath(QStringLiteral("ak.res"))); });

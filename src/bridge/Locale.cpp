@@ -9,6 +9,9 @@ namespace zel::utility::i18n {
 // Qt leaves a likely territory out ("ar" for Egypt), but ICU 76 and later take "ar" for Arabic with Latin digits.
 icu::Locale Locale::named(const QLocale& locale)
 {
+    if (locale.language() == QLocale::C) {
+        return icu::Locale::getEnglish(); // Qt 6.9 and later add the variant POSIX
+    }
     QByteArray name = locale.bcp47Name().toUtf8();
     const QByteArray qtName = locale.name().toUtf8();
     const QByteArray territory = qtName.mid(qtName.lastIndexOf('_') + 1);
