@@ -53,6 +53,9 @@ class LoadTest : public QObject
 private Q_SLOTS:
     void staysFlat_data();
     void staysFlat();
+
+private:
+    SettingsRoot m_root;
 };
 
 void LoadTest::staysFlat_data()
@@ -65,8 +68,7 @@ void LoadTest::staysFlat_data()
 void LoadTest::staysFlat()
 {
     QFETCH(const Write, write);
-    const SettingsRoot root;
-    QVERIFY(root.setClock("24") && root.setRegion("pl_PL") && root.setTimeZone("Asia/Tokyo"));
+    QVERIFY(m_root.setClock("24") && m_root.setRegion("pl_PL") && m_root.setTimeZone("Asia/Tokyo"));
     MessageLog log;
     constexpr int count = 1000000;
     constexpr int warmUp = 10000;

@@ -17,11 +17,14 @@ private Q_SLOTS:
     void hasPhrases();
 
 private:
+    // As long as the plug-in, which follows the settings.
+    SettingsRoot m_root;
     QLibrary m_plugin{QStringLiteral(ZEL_PLUGIN)};
 };
 
 void PluginTest::initTestCase()
 {
+    QVERIFY(m_root.setClock("24"));
     UErrorCode status = U_ZERO_ERROR;
     const icu::ResourceBundle used(nullptr, icu::Locale::getGermany(), status);
     QVERIFY(U_SUCCESS(status));
@@ -40,8 +43,6 @@ void PluginTest::hasPhrases_data()
 
 void PluginTest::hasPhrases()
 {
-    const SettingsRoot root;
-    QVERIFY(root.setClock("24"));
     const auto relativeTexts =
         reinterpret_cast<void (*)(const QLocale&, QStringList&)>(m_plugin.resolve("relativeTexts"));
     QVERIFY(relativeTexts != nullptr);
