@@ -9,49 +9,41 @@ namespace zel::tool {
 
 namespace {
 
-constexpr const char* all = "LC_ALL";
-constexpr const char* characters = "LC_CTYPE";
+constexpr const char* variable = "LC_ALL";
 constexpr const char* utf8 = "C.UTF-8";
 
-bool isUtf8()
+void takeFromEnvironment()
 {
-    std::setlocale(LC_ALL, "");
-    return std::strcmp(::nl_langinfo(CODESET), "UTF-8") == 0;
+    if (std::setlocale(LC_ALL, "") == nullptr) {
+        std::setlocale(LC_ALL, "C"); // one of the names is unknown
+    }
 }
 
 } // namespace
 
-Utf8Environment::Utf8Environment() : m_changed(!isUtf8()), m_all(valueOf(all)), m_characters(valueOf(characters))
+Utf8Environment::Utf8Environment()
 {
+    takeFromEnvironment();
+    m_changed = std::strcmp(::nl_langinfo(CODESET), "UTF-8") != 0;
     if (m_changed) {
-        ::unsetenv(all); // it would win over the category
-        ::setenv(characters, utf8, 1);
+        const char* const value = std::getenv(variable);
+        m_value = value == nullptr ? std::nullopt : std::make_optional<std::string>(value);
+        ::setenv(variable, utf8, 1);
     }
 }
 
 Utf8Environment::~Utf8Environment()
 {
-    if (m_changed) {
-        restore(all, m_all);
-        restore(characters, m_characters);
-        std::setlocale(LC_ALL, "");
-        std::setlocale(LC_CTYPE, utf8);
+    if (!m_changed) {
+        return;
     }
-}
-
-Utf8Environment::Value Utf8Environment::valueOf(const char* variable)
-{
-    const char* const value = std::getenv(variable);
-    return value == nullptr ? Value() : Value(value);
-}
-
-void Utf8Environment::restore(const char* variable, const Value& value)
-{
-    if (value) {
-        ::setenv(variable, value->c_str(), 1);
+    if (m_value) {
+        ::setenv(variable, m_value->c_str(), 1);
     } else {
         ::unsetenv(variable);
     }
+    takeFromEnvironment();
+    std::setlocale(LC_CTYPE, utf8);
 }
 
 } // namespace zel::tool

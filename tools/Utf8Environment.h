@@ -20,14 +20,8 @@ public:
     Utf8Environment& operator=(const Utf8Environment&) = delete;
 
 private:
-    using Value = std::optional<std::string>;
-
-    static Value valueOf(const char* variable);
-    static void restore(const char* variable, const Value& value);
-
-    bool m_changed;
-    Value m_all;
-    Value m_characters;
+    bool m_changed = false;
+    std::optional<std::string> m_value;
 };
 
 } // namespace zel::tool
