@@ -1,4 +1,5 @@
-# zel_add_test(<name>) builds tests/tst_<name>.cpp against the static library and registers it with ctest.
+# zel_add_test(<name>) builds tests/tst_<name>.cpp against the static library and registers it, or only the
+# test functions in ZEL_TEST_FUNCTIONS, with ctest.
 
 if(ZEL_QT_MAJOR EQUAL 5)
     find_package(Qt5 REQUIRED COMPONENTS Test)
@@ -14,7 +15,7 @@ function(zel_add_test name)
         # The QTRY macros of these versions convert carelessly themselves.
         set_source_files_properties(tst_${name}.cpp PROPERTIES COMPILE_OPTIONS -Wno-conversion)
     endif()
-    add_test(NAME ${name} COMMAND tst_${name})
+    add_test(NAME ${name} COMMAND tst_${name} ${ZEL_TEST_FUNCTIONS})
     set_tests_properties(${name} PROPERTIES TIMEOUT 300)
     if(ZEL_SANITIZE MATCHES thread)
         # Qt, ICU and the C library are not instrumented: the sanitizer cannot see their locks and atomics.

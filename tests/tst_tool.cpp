@@ -163,6 +163,12 @@ void ToolTest::answers_data()
     row("format|Hm|2012-05-16T10:30|--json|--device|hour-format=24,region=en_GB",
         R"({"moment":"2012-05-16T10:30:00","text":"10:30"})");
 
+    row("format|hmz|2012-05-16T10:30Z|--device|hour-format=24,region=en_GB",
+        "10:30 GMT"); // whatever the process's zone
+    row("format|yMMMMd|2012-05-16|--locale|fr_FR|--device|region=de_DE", "16 mai 2012");
+    row("format|hmz|2012-05-16T10:30Z|--locale|de_DE|--device|hour-format=24,region=en_GB,time-zone=Europe/Berlin",
+        "12:30 MESZ");
+
     row("relative|--anchor|2012-05-16T10:30|--locale|de|2012-05-16T07:30|2012-05-15T09:00|--clock|24",
         "vor 3 Stunden\ngestern, 09:00");
     row("relative|--anchor|2012-05-16T10:30|--locale|de|2012-05-15T09:00|--device|hour-format=12",
@@ -336,7 +342,7 @@ void ToolTest::columnsStandBelowEachOther()
     QCOMPARE(formats.at(3), QString::fromUtf8("date       long    yyyy年M月d日                    2012年5月16日"));
     QCOMPARE(formats.at(5), QString::fromUtf8("time       short   h:mm                            15:30"));
     const QStringList ladder =
-        run("relative|--table|--type|time-critical|--locale|ja|--locale|en").output.split(QLatin1Char('\n'));
+        run("relative|--table|--type|time-critical|--clock|12|--locale|ja|--locale|en").output.split(QLatin1Char('\n'));
     QCOMPARE(ladder.at(5), QString::fromUtf8("3 hours before    2012-05-16 07:30  3 時間前        3 hours ago"));
     QCOMPARE(ladder.at(2), QString::fromUtf8("4 days before     2012-05-12 10:30  5月12日         May 12"));
 }
@@ -344,6 +350,11 @@ void ToolTest::columnsStandBelowEachOther()
 void ToolTest::badLinesAreReported()
 {
     const SettingsRoot root;
+    const Result percentages = run("percent|-|--locale|en_US", "0.5\nhalf\n-1\r\n");
+    QCOMPARE(percentages.output, QStringLiteral("50%\n-100%\n"));
+    QCOMPARE(percentages.errors, QStringLiteral("zel-i18n: line 2: 'half' is not a number such as 0.256\n"));
+    QCOMPARE(percentages.status, 1);
+
     const QByteArray longLine(300000, '1');
     const QByteArray input = "2012-05-16\r\nyesterday\n\n" + longLine + "\n2012-02-29T10:30\n2011-02-29";
     const Result result = run("format|yMMMd|-|--device|region=en_US", input);

@@ -40,11 +40,11 @@ public:
     /** A Failure where a setting cannot be read, so that no answer is given under a setting that nobody chose. */
     static void requireReadable();
 
-    /** The clocks among which a throw-away device can choose; none where the clock is the host's. */
-    static QStringList clocks();
+    /** Becomes, for this process, a device whose settings are kept in a directory, and none of them set. */
+    static void useEmpty(const QString& directory);
 
-    /** Takes settings from another root directory from now on. */
-    static void useRoot(const QString& directory);
+    /** Becomes, for this process, the same device with another region. What changes is kept in a directory. */
+    static void useRegion(const QString& name, const QString& directory);
 
     /**
      * Whether a message says no more than that a setting has never been made, which is nothing to worry about on a

@@ -4,6 +4,7 @@
 #include "bridge/Locale.h"
 #include "Device.h"
 #include "Failure.h"
+#include "settings/ChosenSetting.h"
 #include "settings/ClockSetting.h"
 #include "settings/HostClock.h"
 #include "settings/HostTimeZone.h"
@@ -13,13 +14,14 @@ namespace zel::tool {
 
 namespace {
 
+using zel::utility::i18n::ChosenSetting;
 using zel::utility::i18n::ClockSetting;
 using zel::utility::i18n::HostClock;
 using zel::utility::i18n::HostTimeZone;
 using zel::utility::i18n::TimeZoneSetting;
 
-// Whether the settings given to set() are those of this process only.
-bool onlyHere = false;
+// The settings of this process, where it has its own.
+std::optional<QMap<QString, QString>> ownSettings;
 
 QString advice(const QString& key)
 {
@@ -37,10 +39,39 @@ QString regionSource()
 {
     for (const char* const variable : {"LC_ALL", "LC_TIME", "LANG"}) {
         if (!qEnvironmentVariableIsEmpty(variable)) {
-            return QLatin1String(variable);
+            return QLatin1String(variable) +
+                   QStringLiteral("; running programs see no change of the session's environment");
         }
     }
     return QStringLiteral("the default, as neither LC_ALL, LC_TIME nor LANG is set");
+}
+
+void requireOwn(const QString& key)
+{
+    if (!ownSettings) {
+        throw Failure(key + QStringLiteral(" belongs to the desktop: ") + advice(key));
+    }
+}
+
+void takeOwnSettings()
+{
+    QMap<QString, QVariant> settings;
+    if (ownSettings->contains(Assignments::hourFormat())) {
+        settings[QStringLiteral("hourFormat")] = ownSettings->value(Assignments::hourFormat()).toInt();
+    }
+    if (ownSettings->contains(Assignments::timeZone())) {
+        settings[QStringLiteral("_CS_TIMEZONE")] = ownSettings->value(Assignments::timeZone());
+    }
+    ChosenSetting::choose(settings);
+    if (ownSettings->contains(Assignments::region())) {
+        qputenv("LC_ALL", ownSettings->value(Assignments::region()).toUtf8());
+    }
+}
+
+Finding examineOwn(const QString& key)
+{
+    const std::optional<QString> value = Device::get(key);
+    return {value ? Finding::Good : Finding::Note, key, value.value_or(QStringLiteral("not set")), {}};
 }
 
 Finding examineSetting(const QString& key, const QString& value, const QString& source)
@@ -54,6 +85,9 @@ Finding examineSetting(const QString& key, const QString& value, const QString& 
 
 std::optional<QString> Device::get(const QString& key)
 {
+    if (ownSettings) {
+        return ownSettings->contains(key) ? std::make_optional(ownSettings->value(key)) : std::nullopt;
+    }
     if (key == Assignments::hourFormat()) {
         return QString::number(ClockSetting::clockFormat());
     }
@@ -66,23 +100,20 @@ std::optional<QString> Device::get(const QString& key)
 
 void Device::set(const QMap<QString, QString>& values, Permissions /*permissions*/)
 {
-    for (const QString& key : values.keys()) {
-        if (!onlyHere) {
-            throw Failure(key + QStringLiteral(" belongs to the desktop: ") + advice(key));
-        }
-        if (key == Assignments::hourFormat()) {
-            throw Failure(key + QStringLiteral(" is the desktop's and has no other value for one program"));
-        }
-        // What the environment says goes before what the host says.
-        qputenv(key == Assignments::timeZone() ? "TZ" : "LC_ALL", values.value(key).toUtf8());
+    for (auto value = values.begin(); value != values.end(); ++value) {
+        requireOwn(value.key());
+        ownSettings->insert(value.key(), value.value());
     }
+    takeOwnSettings();
 }
 
 void Device::unset(const QStringList& keys)
 {
     for (const QString& key : keys) {
-        throw Failure(key + QStringLiteral(" belongs to the desktop: ") + advice(key));
+        requireOwn(key);
+        ownSettings->remove(key);
     }
+    takeOwnSettings();
 }
 
 QLocale Device::region()
@@ -92,14 +123,15 @@ QLocale Device::region()
 
 void Device::requireReadable() {}
 
-QStringList Device::clocks()
+void Device::useEmpty(const QString& /*directory*/)
 {
-    return {};
+    ownSettings.emplace();
+    takeOwnSettings();
 }
 
-void Device::useRoot(const QString& /*directory*/)
+void Device::useRegion(const QString& name, const QString& /*directory*/)
 {
-    onlyHere = true;
+    qputenv("LC_ALL", name.toUtf8());
 }
 
 bool Device::isUnset(const QString& message)
@@ -110,6 +142,10 @@ bool Device::isUnset(const QString& message)
 
 QList<Finding> Device::examine()
 {
+    if (ownSettings) {
+        return {examineOwn(Assignments::hourFormat()), examineOwn(Assignments::timeZone()),
+                examineOwn(Assignments::region())};
+    }
     // Nobody waits for a text here: long enough for a portal that is just being started.
     constexpr int portalTimeoutMs = 5000;
     const HostClock clock(portalTimeoutMs);

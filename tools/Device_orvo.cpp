@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdlib>
+#include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <zel/PpsObject.h>
@@ -204,14 +205,24 @@ void Device::requireReadable()
     }
 }
 
-QStringList Device::clocks()
-{
-    return {QStringLiteral("12"), QStringLiteral("24")};
-}
-
-void Device::useRoot(const QString& directory)
+void Device::useEmpty(const QString& directory)
 {
     qputenv("ZEL_PPS_ROOT", QFile::encodeName(directory));
+}
+
+void Device::useRegion(const QString& name, const QString& directory)
+{
+    // The other objects stay where they are, and are followed there.
+    for (const QString& key : {Assignments::hourFormat(), Assignments::timeZone()}) {
+        const QString object = placeOf(key).object;
+        const QString link = directory + object;
+        if (!QDir().mkpath(QFileInfo(link).path()) ||
+            !QFile::link(QFileInfo(PpsObject::filePath(object)).absoluteFilePath(), link)) {
+            throw Failure(QStringLiteral("cannot create '%1'").arg(link));
+        }
+    }
+    useEmpty(directory);
+    set({{Assignments::region(), name}}, {});
 }
 
 bool Device::isUnset(const QString& message)

@@ -4,6 +4,7 @@
 #include "Arguments.h"
 #include "Device.h"
 #include "Moments.h"
+#include "OtherRegion.h"
 #include "Skeleton.h"
 #include <zel/utility/i18n/CustomDateFormatter.h>
 
@@ -18,11 +19,18 @@ CommandHelp FormatCommand::help() const
                            "standard input, reports the bad ones and goes on.\n\n") +
                 Skeleton::description() +
                 QStringLiteral("\n\nMoments are ISO 8601: 2012-05-16, 2012-05-16T10:30, 2012-05-16T10:30:00.500Z,\n"
-                               "2012-05-16T10:30+02:00. Without an offset they are local time."),
+                               "2012-05-16T10:30+02:00. Without an offset they are local time. A zone is that\n"
+                               "of the device, and GMT where it has none."),
             QStringLiteral("format yMMMMEEEEd\n"
+                           "format yMMMMEEEEd 2012-05-16 --locale fr_FR\n"
                            "format hm 2012-05-16T22:30 --device region=en_US,hour-format=12\n"
                            "format yMdhmz 2012-05-16T22:30Z --device time-zone=Asia/Tokyo\n"
                            "format yMMMd - < moments.txt")};
+}
+
+QList<QCommandLineOption> FormatCommand::options() const
+{
+    return {OtherRegion::option()};
 }
 
 ExitStatus FormatCommand::run(const Arguments& arguments, Console& console) const
@@ -31,6 +39,7 @@ ExitStatus FormatCommand::run(const Arguments& arguments, Console& console) cons
     const QString skeleton = Skeleton::from(words);
     const Moments moments(words.mid(1));
     Device::requireReadable();
+    const OtherRegion region(arguments);
     const zel::utility::i18n::CustomDateFormatter formatter(skeleton);
     if (!formatter.isValid()) {
         throw Failure(QStringLiteral("no pattern for the skeleton ") + quoted(skeleton));

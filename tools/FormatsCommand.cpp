@@ -16,11 +16,11 @@ namespace zel::tool {
 
 namespace {
 
-/** The current time as a clock in the device's time zone shows it. */
+/** The current time as a clock in the device's time zone shows it, or, as for the library, in GMT without one. */
 QDateTime now()
 {
-    const QTimeZone zone(Device::get(Assignments::timeZone()).value_or(QString()).toLatin1());
-    const QDateTime current = QDateTime::currentDateTime();
+    const QTimeZone zone(Device::get(Assignments::timeZone()).value_or(QStringLiteral("GMT")).toLatin1());
+    const QDateTime current = QDateTime::currentDateTimeUtc();
     return zone.isValid() ? current.toTimeZone(zone) : current;
 }
 

@@ -89,12 +89,8 @@ void fill(QList<GalleryEntry>& entries, ProgressBar& progress, const Console& co
 QStringList fill(QList<GalleryEntry>& entries, const Console& console)
 {
     const ThrowAwayDevice device(QStringLiteral("time-zone=UTC"));
-    const QStringList clocks = Device::clocks();
-    ProgressBar progress(static_cast<int>(entries.size() * qMax(qsizetype(1), qsizetype(clocks.size()))));
-    if (clocks.isEmpty()) {
-        fill(entries, progress, console);
-        return {QStringLiteral("clock of the host")};
-    }
+    const QStringList clocks = {QStringLiteral("12"), QStringLiteral("24")};
+    ProgressBar progress(static_cast<int>(entries.size() * clocks.size()));
     QStringList names;
     for (const QString& clock : clocks) {
         useClock(clock);

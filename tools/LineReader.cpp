@@ -10,6 +10,28 @@ namespace {
 
 constexpr std::size_t longestLine = 1024;
 
+std::string_view withoutCarriageReturn(std::string_view line)
+{
+    return line.substr(0, line.size() - (!line.empty() && line.back() == '\r' ? 1 : 0));
+}
+
+} // namespace
+
+ExitStatus LineReader::forEach(Console& console, const std::function<void(std::string_view)>& handler)
+{
+    ExitStatus status = Worked;
+    LineReader reader(console);
+    qlonglong number = 0;
+    while (const auto line = reader.next()) {
+        ++number;
+        try {
+            handler(withoutCarriageReturn(*line));
+        } catch (const Failure& failure) {
+            console.complain(QStringLiteral("line %1: ").arg(number) + failure.text());
+            status = NoAnswer;
+        }
+    }
+    return status;
 }
 
 std::optional<std::string_view> LineReader::next()

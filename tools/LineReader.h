@@ -1,7 +1,9 @@
 #ifndef ZEL_TOOL_LINEREADER_H
 #define ZEL_TOOL_LINEREADER_H
 
+#include "Failure.h"
 #include <array>
+#include <functional>
 #include <optional>
 #include <string_view>
 
@@ -17,6 +19,9 @@ class LineReader
 {
 public:
     explicit LineReader(Console& console) : m_console(console) {}
+
+    /** Hands each line to the handler. One for which it fails is reported and passed over. */
+    static ExitStatus forEach(Console& console, const std::function<void(std::string_view)>& handler);
 
     /**
      * The next line without its end, valid until the next call; nothing at the end of the input. Of a line that is

@@ -1,19 +1,9 @@
 #include "Moments.h"
 
-#include "Console.h"
 #include "LineReader.h"
 #include "Moment.h"
 
 namespace zel::tool {
-
-namespace {
-
-std::string_view withoutCarriageReturn(std::string_view line)
-{
-    return line.substr(0, line.size() - (!line.empty() && line.back() == '\r' ? 1 : 0));
-}
-
-} // namespace
 
 Moments::Moments(const QStringList& words) : m_fromInput(words == QStringList(QStringLiteral("-")))
 {
@@ -34,29 +24,12 @@ Moments::Moments(const QStringList& words) : m_fromInput(words == QStringList(QS
 ExitStatus Moments::forEach(Console& console, const Handler& handler) const
 {
     if (m_fromInput) {
-        return forEachLine(console, handler);
+        return LineReader::forEach(console, [&](std::string_view line) { handler(Moment::parse(line)); });
     }
     for (const QDateTime& moment : m_moments) {
         handler(moment);
     }
     return Worked;
-}
-
-ExitStatus Moments::forEachLine(Console& console, const Handler& handler)
-{
-    ExitStatus status = Worked;
-    LineReader reader(console);
-    qlonglong number = 0;
-    while (const auto line = reader.next()) {
-        ++number;
-        try {
-            handler(Moment::parse(withoutCarriageReturn(*line)));
-        } catch (const Failure& failure) {
-            console.complain(QStringLiteral("line %1: ").arg(number) + failure.text());
-            status = NoAnswer;
-        }
-    }
-    return status;
 }
 
 } // namespace zel::tool

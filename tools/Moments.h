@@ -25,8 +25,6 @@ public:
     ExitStatus forEach(Console& console, const Handler& handler) const;
 
 private:
-    static ExitStatus forEachLine(Console& console, const Handler& handler);
-
     bool m_fromInput;
     QList<QDateTime> m_moments;
 };

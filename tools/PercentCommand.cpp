@@ -2,6 +2,7 @@
 
 #include "Arguments.h"
 #include "Console.h"
+#include "LineReader.h"
 #include <cmath>
 #include <zel/utility/i18n/Formatting.h>
 
@@ -25,10 +26,12 @@ double number(const QString& word)
 
 CommandHelp PercentCommand::help() const
 {
-    return {QStringLiteral("percent"), QStringLiteral("VALUE..."), QStringLiteral("Write numbers as percentages."),
+    return {QStringLiteral("percent"), QStringLiteral("VALUE... | -"), QStringLiteral("Write numbers as percentages."),
             QStringLiteral("Writes each VALUE as a percentage, one a line: 0.25 becomes 25% in English. Values\n"
-                           "have a decimal point; 1 is a hundred percent."),
+                           "have a decimal point; 1 is a hundred percent. '-' takes one a line from standard\n"
+                           "input, reports the bad ones and goes on."),
             QStringLiteral("percent 0.256\n"
+                           "percent - < values.txt\n"
                            "percent --max 1 0.256 -0.5\n"
                            "percent --min 2 --locale ar_EG 12.5")};
 }
@@ -45,17 +48,19 @@ QList<QCommandLineOption> PercentCommand::options() const
 
 ExitStatus PercentCommand::run(const Arguments& arguments, Console& console) const
 {
-    QList<double> values;
-    for (const QString& word : arguments.positional()) {
-        values.append(number(word));
-    }
-    if (values.isEmpty()) {
+    const QStringList words = arguments.positional();
+    if (words.isEmpty()) {
         throw Failure::usage(QStringLiteral("no value given"));
+    }
+    const bool fromInput = words == QStringList(QStringLiteral("-"));
+    QList<double> values;
+    for (const QString& word : fromInput ? QStringList() : words) {
+        values.append(number(word));
     }
     const int fewest = arguments.number(QStringLiteral("min"), 0, mostDigits);
     const int most = arguments.number(QStringLiteral("max"), fewest, mostDigits);
     const NamedLocale locale = arguments.locale();
-    for (const double value : values) {
+    const auto write = [&](double value) {
         const QString text = zel::utility::i18n::toPercentageString(locale.locale, value, most, fewest);
         if (text.isNull()) {
             throw Failure(QStringLiteral("no percentages for the locale ") + quoted(locale.name));
@@ -67,6 +72,14 @@ ExitStatus PercentCommand::run(const Arguments& arguments, Console& console) con
         } else {
             console.line(text);
         }
+    };
+    if (fromInput) {
+        return LineReader::forEach(console, [&](std::string_view line) {
+            write(number(QString::fromUtf8(line.data(), static_cast<int>(line.size()))));
+        });
+    }
+    for (const double value : values) {
+        write(value);
     }
     return Worked;
 }

@@ -13,7 +13,7 @@ ThrowAwayDevice::ThrowAwayDevice(const QString& settings)
     if (!m_root.isValid()) {
         throw Failure(QStringLiteral("no temporary directory for the device: ") + m_root.errorString());
     }
-    Device::useRoot(m_root.path());
+    Device::useEmpty(m_root.path());
     Device::set(values, {});
     const QString zone = values.value(Assignments::timeZone());
     if (!zone.isEmpty()) {

@@ -5,6 +5,7 @@
 #include "Device.h"
 #include "LiveText.h"
 #include "Moment.h"
+#include "OtherRegion.h"
 #include "Skeleton.h"
 
 namespace zel::tool {
@@ -21,6 +22,11 @@ CommandHelp WatchCommand::help() const
                            "watch yMMMdhmz 2012-05-16T22:30Z")};
 }
 
+QList<QCommandLineOption> WatchCommand::options() const
+{
+    return {OtherRegion::option()};
+}
+
 ExitStatus WatchCommand::run(const Arguments& arguments, Console& console) const
 {
     const QStringList words = arguments.positional();
@@ -30,6 +36,7 @@ ExitStatus WatchCommand::run(const Arguments& arguments, Console& console) const
     }
     const auto moment = words.size() == 2 ? std::make_optional(Moment::parse(words.at(1))) : std::nullopt;
     Device::requireReadable();
+    const OtherRegion region(arguments);
     try {
         LiveText(skeleton, moment, console, arguments.json()).run();
     } catch (const Console::Interrupted&) {

@@ -10,6 +10,7 @@ class WatchCommand : public Command
 {
 public:
     CommandHelp help() const override;
+    QList<QCommandLineOption> options() const override;
     ExitStatus run(const Arguments& arguments, Console& console) const override;
 };
 

@@ -3,6 +3,7 @@
 #include "settings/PpsManager.h"
 
 #include "bridge/Diagnostic.h"
+#include "settings/ChosenSetting.h"
 #include "settings/HostClock.h"
 #include "settings/HostTimeZone.h"
 #include "settings/PpsManagerSource.h"
@@ -17,6 +18,9 @@ constexpr const char* constructorSignature =
 
 std::unique_ptr<HostSetting> settingFor(QLatin1String path, QLatin1String key)
 {
+    if (ChosenSetting::isInUse()) {
+        return std::make_unique<ChosenSetting>(key);
+    }
     if (path == QLatin1String("/pps/system/settings") && key == QLatin1String("hourFormat")) {
         return std::make_unique<HostClock>();
     }
