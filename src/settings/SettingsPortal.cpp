@@ -256,6 +256,7 @@ void SettingsPortal::onOwnerChanged(const QString& /*name*/, const QString& /*pr
 {
     if (owner.isEmpty()) {
         lose(QStringLiteral("the settings portal has gone"));
+        retryLater(); // the bus starts it for whoever asks
     } else {
         ask(readOne());
     }
