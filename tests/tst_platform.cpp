@@ -326,6 +326,25 @@ void PlatformTest::notifies_data()
         removeDirectory(root, "/pps");
         root.write(path, object("fr_FR"));
     });
+    const Action createLinked = [](const SettingsRoot& root) {
+        root.write(QStringLiteral("/one/locale"), object("de_DE"));
+        root.write(QStringLiteral("/two/locale"), object("fr_FR"));
+        QDir().mkpath(root.file(QStringLiteral("/pps")));
+        QFile::link(QStringLiteral("../one"), root.file(QStringLiteral("/pps/system")));
+    };
+    row("linked object rewritten", createLinked,
+        [](const SettingsRoot& root) { root.rewrite(QStringLiteral("/one/locale"), object("fr_FR")); });
+    row("linked object replaced", createLinked,
+        [](const SettingsRoot& root) { root.write(QStringLiteral("/one/locale"), object("fr_FR")); });
+    row("linked directory replaced", createLinked, [](const SettingsRoot& root) {
+        removeDirectory(root, "/one");
+        root.write(QStringLiteral("/one/locale"), object("fr_FR"));
+    });
+    row("link in the middle swapped", createLinked, [](const SettingsRoot& root) {
+        QFile::link(root.file(QStringLiteral("/two")), root.file(QStringLiteral("/pps/other")));
+        std::rename(QFile::encodeName(root.file(QStringLiteral("/pps/other"))).constData(),
+                    QFile::encodeName(root.file(QStringLiteral("/pps/system"))).constData());
+    });
     row("directory above renamed", create, [](const SettingsRoot& root) {
         QDir().rename(root.file(QStringLiteral("/pps")), root.file(QStringLiteral("/old")));
     });

@@ -1,109 +1,139 @@
 #include "PpsWatcher.h"
 
-#include <QtCore/QDir>
-#include <QtCore/QFile>
-#include <QtCore/QFileInfo>
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <climits>
+#include <QtCore/QList>
 #include <QtCore/QTimer>
+#include <unistd.h>
 #include <utility>
 
 namespace zel {
 
 namespace {
 
-constexpr int lookInterval = 20;
-constexpr int longestRow = 200;
-constexpr int pollInterval = 1000;
+constexpr int pollInterval = 20;
+constexpr int longestSeries = 200;
+constexpr int retryInterval = 1000;
 
-// Every path from the topmost directory down to the file itself.
-QStringList trailOf(const QString& file)
+QByteArray linkTarget(const QByteArray& path)
 {
-    QStringList trail;
-    QString path = QDir::cleanPath(QFileInfo(file).absoluteFilePath());
-    while (!path.isEmpty() && path != QLatin1String("/")) {
-        trail.prepend(path);
-        path.truncate(path.lastIndexOf(QLatin1Char('/')));
-    }
-    trail.prepend(QStringLiteral("/"));
-    return trail;
+    std::array<char, PATH_MAX> target{};
+    const ssize_t size = ::readlink(path.constData(), target.data(), target.size());
+    return size < 0 ? QByteArray() : QByteArray(target.data(), static_cast<int>(size));
 }
 
 } // namespace
 
-PpsWatcher::PpsWatcher(const QByteArray& file, QObject* parent)
-    : QObject(parent),
-      m_file(file),
-      m_trail(trailOf(QFile::decodeName(file)))
+PpsWatcher::PpsWatcher(const QByteArray& file, QObject* parent) : QObject(parent), m_file(file)
 {
-    QMetaObject::invokeMethod(this, "start", Qt::QueuedConnection);
+    notify();
+}
+
+PpsWatcher::~PpsWatcher()
+{
+    for (const Inotify::Watch& watch : m_watches) {
+        Inotify::instance().remove(watch, this);
+    }
+}
+
+void PpsWatcher::notify()
+{
+    if (!m_notified.exchange(true)) {
+        QMetaObject::invokeMethod(this, "start", Qt::QueuedConnection);
+    }
 }
 
 void PpsWatcher::start()
 {
-    m_watcher = std::make_unique<QFileSystemWatcher>(this);
-    connect(m_watcher.get(), SIGNAL(fileChanged(QString)), this, SLOT(touch()));
-    connect(m_watcher.get(), SIGNAL(directoryChanged(QString)), this, SLOT(touch()));
-    touch();
-}
-
-void PpsWatcher::touch()
-{
-    if (!m_row.isValid()) {
-        look();
-    }
-}
-
-void PpsWatcher::look()
-{
-    watch();
-    // Read after the watches are set, so that no change falls between.
-    const PpsContents previous = std::exchange(m_contents, PpsContents::read(m_file));
-    const bool first = !m_row.isValid();
-    if (first) {
-        m_row.start();
-    }
-    const bool quiet = !first && m_contents == previous && m_contents.stamp == previous.stamp;
-    if (!quiet && !(m_row.hasExpired(longestRow) && m_contents.isWhole())) {
-        // Not a member timer: one that is still active could not be destroyed on another thread, as at process exit.
-        QTimer::singleShot(lookInterval, this, SLOT(look()));
-        return;
-    }
-    m_row.invalidate();
-    Q_EMIT settled();
-}
-
-void PpsWatcher::watch()
-{
-    if (m_polling) {
-        return;
-    }
-    // Anew every time: a watch stays with the old file when another one is renamed over it.
-    const QStringList old = m_watcher->files() + m_watcher->directories();
-    if (!old.isEmpty()) {
-        m_watcher->removePaths(old);
-    }
-    // Top down: what appears below a watched directory later is noticed. All but the lowest may be blind spots.
-    bool blind = false;
-    for (const QString& path : m_trail) {
-        if (!QFileInfo::exists(path)) {
-            break;
-        }
-        blind = !QFileInfo(path).isReadable();
-        if (!blind && !m_watcher->addPath(path)) {
-            // The system has no more watches to give, unless the path has gone just now.
-            blind = QFileInfo::exists(path);
-            break;
-        }
-    }
-    if (blind) {
-        m_polling = true;
-        QTimer::singleShot(pollInterval, this, SLOT(poll()));
+    m_notified = false;
+    if (!m_settling.isValid()) {
+        poll();
     }
 }
 
 void PpsWatcher::poll()
 {
-    QTimer::singleShot(pollInterval, this, SLOT(poll()));
-    touch();
+    const bool isWatched = watch();
+    // Read after the watches are set, so that no change falls between.
+    const PpsContents previous = std::exchange(m_contents, PpsContents::read(m_file));
+    const bool isFirst = !m_settling.isValid();
+    if (isFirst) {
+        m_settling.start();
+    }
+    const bool isQuiet = !isFirst && m_contents == previous && m_contents.stamp == previous.stamp;
+    if (!isQuiet && !(m_settling.hasExpired(longestSeries) && m_contents.isWhole())) {
+        // Not a member timer: one that is still active could not be destroyed on another thread, as at process exit.
+        QTimer::singleShot(pollInterval, this, SLOT(poll()));
+        return;
+    }
+    m_settling.invalidate();
+    if (!isWatched && !std::exchange(m_retrying, true)) {
+        QTimer::singleShot(retryInterval, this, SLOT(retry()));
+    }
+    Q_EMIT settled();
+}
+
+void PpsWatcher::retry()
+{
+    m_retrying = false;
+    start();
+}
+
+bool PpsWatcher::watch()
+{
+    const std::vector<Inotify::Watch> previous = std::exchange(m_watches, {});
+    const bool isComplete = watchTrail();
+    // Removed last, so that a watch that stays is not interrupted.
+    for (const Inotify::Watch& watch : previous) {
+        Inotify::instance().remove(watch, this);
+    }
+    return isComplete;
+}
+
+// Follows the path as the system does, and watches each directory before a name is looked up there, so that no change
+// falls between.
+bool PpsWatcher::watchTrail()
+{
+    constexpr int mostLinks = 40; // as many as the system follows
+    bool isComplete = true;
+    int links = 0;
+    QByteArray directory = "/";
+    QList<QByteArray> names = m_file.split('/');
+    while (!names.isEmpty() && links <= mostLinks) {
+        const QByteArray name = names.takeFirst();
+        if (name.isEmpty() || name == ".") {
+            continue;
+        }
+        if (name == "..") {
+            directory.truncate(std::max<int>(1, static_cast<int>(directory.lastIndexOf('/'))));
+            continue;
+        }
+        isComplete = add(directory, name) && isComplete;
+        const QByteArray path = (directory == "/" ? QByteArray() : directory) + '/' + name;
+        const QByteArray target = linkTarget(path);
+        if (target.isEmpty()) {
+            directory = path;
+            continue;
+        }
+        ++links;
+        names = target.split('/') + names;
+        if (target.startsWith('/')) {
+            directory = "/";
+        }
+    }
+    return add(directory, {}) && isComplete;
+}
+
+// What is not there will be noticed in the directory above.
+bool PpsWatcher::add(const QByteArray& path, const QByteArray& name)
+{
+    const Inotify::Watch watch = Inotify::instance().add(path, name, this);
+    if (watch.id >= 0) {
+        m_watches.push_back(watch);
+    }
+    return watch.id >= 0 || watch.error == ENOENT || watch.error == ENOTDIR || watch.error == ELOOP;
 }
 
 } // namespace zel

@@ -1,20 +1,21 @@
 #ifndef ZEL_PPSWATCHER_H
 #define ZEL_PPSWATCHER_H
 
+#include "Inotify.h"
 #include "PpsContents.h"
-#include <memory>
+#include <atomic>
 #include <QtCore/QElapsedTimer>
-#include <QtCore/QFileSystemWatcher>
 #include <QtCore/QObject>
-#include <QtCore/QStringList>
+#include <vector>
 
 namespace zel {
 
 /**
- * Follows an object's file, whatever is done to it and to the directories above it.
+ * Follows an object's file, whatever is done to it, to the directories above it and to the links on the way there.
  *
- * A file that is rewritten in place is empty for a moment. So the first sign of a change starts a row of looks; it ends
- * when nothing was done to the file between two looks, or with a whole object after a while where changes never cease.
+ * A file that is rewritten in place is empty for a moment. So the first sign of a change starts a series of polls; it
+ * ends when nothing was done to the file between two polls, or with a whole object after a while if changes never
+ * cease. What cannot be watched is polled once a second, and watched again as soon as that is possible.
  *
  * Everything starts with the first turn of the thread's event loop. Until then nothing is watched, so that neither
  * a thread without an event loop nor an application object that is created later is a reason for a warning.
@@ -22,32 +23,39 @@ namespace zel {
 class PpsWatcher : public QObject
 {
     Q_OBJECT
+    Q_DISABLE_COPY_MOVE(PpsWatcher)
 
 public:
     PpsWatcher(const QByteArray& file, QObject* parent);
+    ~PpsWatcher() override;
 
-    /** What the last look found. */
+    /** What the last poll found. */
     const PpsContents& contents() const { return m_contents; }
 
+    /** There may be a change. Any thread may call. */
+    void notify();
+
 Q_SIGNALS:
-    /** A row of looks has ended. The watcher may be deleted from here. */
+    /** A series of polls has ended. The watcher may be deleted from here. */
     void settled();
 
 private Q_SLOTS:
     void start();
-    void touch();
-    void look();
+    void retry();
     void poll();
 
 private:
-    void watch();
+    /** Returns whether every change will be noticed. */
+    bool watch();
+    bool watchTrail();
+    bool add(const QByteArray& path, const QByteArray& name);
 
     const QByteArray m_file;
-    const QStringList m_trail;
-    std::unique_ptr<QFileSystemWatcher> m_watcher;
+    std::vector<Inotify::Watch> m_watches;
     PpsContents m_contents;
-    QElapsedTimer m_row; // valid from the first look of a row to the last
-    bool m_polling = false;
+    QElapsedTimer m_settling; // valid from the first poll of a series to the last
+    std::atomic<bool> m_notified{false};
+    bool m_retrying = false;
 };
 
 } // namespace zel
