@@ -215,8 +215,10 @@ void SweepTest::checkAmPm(const QLocale& locale, const QString& pattern)
         icu::DateFormat::createDateTimeInstance(icu::DateFormat::kNone, icu::DateFormat::kShort, icuLocale));
     icu::UnicodeString ownPattern;
     static_cast<const icu::SimpleDateFormat&>(*own).toPattern(ownPattern);
-    // Of all French only that of Cameroon has it in front.
-    if (sideOfAmPm(String::toQt(ownPattern)) == 0 && locale.name() != QLatin1String("fr_CM")) {
+    // Of all French only that of Cameroon has it in front; the others do so from ICU 76 or 78 on.
+    static const QStringList elsewhere{QStringLiteral("fr_CM"), QStringLiteral("ii_CN"), QStringLiteral("ko_CN"),
+                                       QStringLiteral("za_CN"), QStringLiteral("cv_RU")};
+    if (sideOfAmPm(String::toQt(ownPattern)) == 0 && !elsewhere.contains(locale.name())) {
         const int expected = sideOfAmPm(String::toQt(generator->getBestPattern(u"hm", status)));
         const QString asInICU = withoutQuoted(pattern)
                                     .replace(QLatin1String("AP"), QLatin1String("a"))
