@@ -6,7 +6,7 @@ using namespace zel::utility::i18n;
 
 extern "C" Q_DECL_EXPORT void relativeTexts(const QLocale& locale, QStringList& texts)
 {
-    const QDateTime anchor(QDate(2024, 5, 15), QTime(12, 0), Qt::UTC);
+    const QDateTime anchor = QDateTime::fromString(QStringLiteral("2024-05-15T12:00Z"), Qt::ISODate);
     RelativeDateFormatter formatter(RelativeDateFormat::TimeCritical);
     formatter.setAnchorTime(anchor);
     formatter.setLocale(locale);

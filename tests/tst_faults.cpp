@@ -139,7 +139,7 @@ const QString current = QStringLiteral(U_ICUDATA_NAME);
 void replaceByFile(const QString& directory)
 {
     QDir(directory).removeRecursively();
-    QFile(directory).open(QIODevice::WriteOnly);
+    QVERIFY(QFile(directory).open(QIODevice::WriteOnly));
 }
 
 // Nothing is denied to root, so root becomes nobody.

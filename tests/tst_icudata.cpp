@@ -2,6 +2,7 @@
 #include "PhraseTables.h"
 #include "ResourceBundleReader.h"
 #include "ResourceBundleWriter.h"
+#include "support/IcuBundles.h"
 
 #include <zel/icu/DataDirectory.h>
 
@@ -330,6 +331,16 @@ int printDescriptions()
     return 0;
 }
 
+/** Why there are no phrases for German. */
+int printProblem()
+{
+    StockBundles bundles;
+    std::string error;
+    PhraseTables(bundles).forLocale("de", error);
+    std::puts(error.c_str());
+    return 0;
+}
+
 int printDataDirectory()
 {
     std::printf("%s %d %d\n", u_getDataDirectory(), isDataDirectoryInUse(), hasPhraseTables());
@@ -358,6 +369,8 @@ private Q_SLOTS:
     void phrasesAreThoseOfIcu();
     void aliasesAreFollowed_data() { addLocales(); }
     void aliasesAreFollowed();
+    void unknownDataIsReported_data();
+    void unknownDataIsReported();
     void additionsReplaceNothing();
     void damageIsReported_data();
     void damageIsReported();
@@ -482,6 +495,30 @@ void TestIcuData::aliasesAreFollowed()
                                                  PhraseTables::Root::Included, error);
     QVERIFY2(error.empty(), error.c_str());
     QCOMPARE(utf8(icu::UnicodeString(text.value_or(u"").c_str())), utf8(expected));
+}
+
+void TestIcuData::unknownDataIsReported_data()
+{
+    QTest::addColumn<QByteArray>("bundle");
+    QTest::addColumn<QByteArray>("problem");
+    const auto row = [](const char* bundle, const char* problem) {
+        QTest::newRow(problem) << QByteArray(bundle) << QByteArray(problem);
+    };
+    row(R"("%%Fallback" { "en" })", "de: unknown key %%Fallback");
+    row(R"("%%Parent":int { 1 })", "de: %%Parent is not a text");
+    row(R"("%%Parent" { "de_XY" })", "de_XY: no such parent");
+    row(R"("%%Parent" { "de" })", "de: parents without an end");
+    row(R"(fields:alias { "/LOCALE/fields" })", "de: aliases without an end at /fields/minute/relativeTime/past/zero");
+    row(R"(fields:alias { "/OTHER/de/fields" })",
+        "de: an alias out of the locale data at /fields/minute/relativeTime/past/zero");
+}
+
+void TestIcuData::unknownDataIsReported()
+{
+    QFETCH(const QByteArray, bundle);
+    const IcuBundles bundles;
+    QVERIFY(bundles.compile(QStringLiteral("de"), "de { " + bundle + " }"));
+    QTEST(runSelf(QStringLiteral("--problem"), bundles.path()).first(), "problem");
 }
 
 std::optional<std::string> TestIcuData::withAdditions(const QByteArray& file, const ResourceTree& additions,
@@ -658,6 +695,9 @@ void TestIcuData::generatorsRunSideBySide()
 int main(int argc, char** argv)
 {
     const QByteArray mode(argc > 1 ? argv[1] : "");
+    if (mode == "--problem") {
+        return printProblem();
+    }
     if (mode == "--describe") {
         return printDescriptions();
     }

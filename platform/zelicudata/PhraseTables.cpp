@@ -28,6 +28,25 @@ std::optional<std::string> note(const ResourceBundleReader& bundle, const char* 
     return text ? std::make_optional(std::string(text->begin(), text->end())) : std::nullopt;
 }
 
+// What another version of ICU may say about a bundle's place is an error here, and not a guess at its parent.
+std::string problemOfNotes(const ResourceBundleReader& bundle)
+{
+    for (std::size_t position = 0; position < bundle.size(bundle.root()); ++position) {
+        const auto item = bundle.entry(bundle.root(), position);
+        if (!item || item->key.substr(0, 2) != "%%" || item->key == "%%ParentIsRoot") {
+            continue;
+        }
+        const std::string key(item->key);
+        if (key != "%%Parent" && key != "%%ALIAS") {
+            return "unknown key " + key;
+        }
+        if (!bundle.text(item->value)) {
+            return key + " is not a text";
+        }
+    }
+    return {};
+}
+
 // sr_Latn_RS, sr_Latn, sr, root
 std::string shorterName(const std::string& name)
 {
@@ -203,6 +222,12 @@ PhraseTables::Chain PhraseTables::makeChain(const std::string& locale, std::stri
     for (std::size_t length = 0; !name.empty() && length < longestChain; ++length) {
         const ResourceBundleReader* bundle = m_bundles.find(name, error);
         if (!error.empty()) {
+            return {};
+        }
+        const bool isNamed = !chain.empty() && note(*chain.back(), "%%Parent") == name;
+        const std::string problem = bundle != nullptr ? problemOfNotes(*bundle) : isNamed ? "no such parent" : "";
+        if (!problem.empty()) {
+            error = name + ": " + problem;
             return {};
         }
         if (const auto other = bundle != nullptr ? note(*bundle, "%%ALIAS") : std::nullopt) {

@@ -137,7 +137,7 @@ int run(const std::vector<std::string>& arguments)
     std::string error;
     const bool isNeeded = !unlessSound || !isSound(directory / U_ICUDATA_NAME);
     if (isNeeded && !generate(directory, error)) {
-        std::cerr << "zel-icudata-gen: " << error << '\n';
+        std::cerr << "zel-icudata-gen: " << error << " (this is ICU " U_ICU_VERSION "; ICU 72 to 78 are supported)\n";
         return EXIT_FAILURE;
     }
     return EXIT_SUCCESS;

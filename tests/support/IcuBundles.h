@@ -15,6 +15,8 @@ public:
     /** To be called before ICU opens any data. */
     void use() const { u_setDataDirectory(QFile::encodeName(m_directory.path()).constData()); }
 
+    QString path() const { return m_directory.path(); }
+
     bool compile(const QString& locale, const QByteArray& source) const
     {
         const QString target = m_directory.path() + QLatin1Char('/') + QLatin1String(U_ICUDATA_NAME);
