@@ -1,6 +1,7 @@
 #include "bridge/Diagnostic.h"
 
 #include "bridge/DeferredMessages.h"
+#include "bridge/DiagnosticSilence.h"
 #include <QtCore/QDateTime>
 #include <QtCore/QDebug>
 #include <QtCore/QLatin1String>
@@ -50,7 +51,7 @@ void Diagnostic::append(QString& text, const QDateTime& item)
 
 void Diagnostic::hand(QtMsgType type, const QString& text)
 {
-    if (DeferredMessages::hold(type, text)) {
+    if (DiagnosticSilence::drop() || DeferredMessages::hold(type, text)) {
         return;
     }
     const QByteArray utf8 = text.toUtf8();

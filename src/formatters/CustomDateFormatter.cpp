@@ -28,6 +28,34 @@ void reportFailure(const char* call, const icu::ErrorCode& status, const char* s
     Diagnostic::write(QtWarningMsg, signature, consequence);
 }
 
+constexpr const char* formatSignature =
+    "QString zel::utility::i18n::CustomDateFormatter::format(const QDateTime&) const";
+
+/** One message and one null string for each text that was asked for. */
+template <typename Count>
+QStringList reportInvalid(Count count)
+{
+    QStringList texts;
+    for (; count > 0; --count) {
+        Diagnostic::write(QtCriticalMsg, formatSignature, "called on invalid formatter");
+        texts.append(QString());
+    }
+    return texts;
+}
+
+QString textOf(UDate date, const icu::SimpleDateFormat& formatter)
+{
+    icu::ErrorCode status;
+    icu::UnicodeString text;
+    formatter.format(icu::Formattable(date), text, status);
+    if (status.isFailure()) {
+        reportFailure("icu::SimpleDateFormat::format( UDate, icu::UnicodeString &, UErrorCode & )", status,
+                      formatSignature, "failed to format date/time");
+        return {};
+    }
+    return String::toQt(text);
+}
+
 } // namespace
 
 CustomDateFormatterPrivate::CustomDateFormatterPrivate(CustomDateFormatter* owner, const QString& text)
@@ -134,16 +162,16 @@ void CustomDateFormatterPrivate::updateRegionLocale() const
     }
 }
 
-UDate CustomDateFormatterPrivate::adoptTimeZone(icu::SimpleDateFormat& target, const QDateTime& dateTime) const
+bool CustomDateFormatterPrivate::adoptTimeZone(icu::SimpleDateFormat& target) const
 {
-    if (hasTimeZone()) {
-        // Read first: a message handler called by this may format with the same object.
-        const QString timeZone = TimeZoneSetting::timeZone();
-        target.adoptTimeZone(icu::TimeZone::createTimeZone(String::toICU(timeZone)));
-        return DateTime::toICU(dateTime);
+    if (!hasTimeZone()) {
+        target.adoptTimeZone(icu::TimeZone::getGMT()->clone());
+        return false;
     }
-    target.adoptTimeZone(icu::TimeZone::getGMT()->clone());
-    return DateTime::wallClock(dateTime);
+    // Read first: a message handler called by this may format with the same object.
+    const QString timeZone = TimeZoneSetting::timeZone();
+    target.adoptTimeZone(icu::TimeZone::createTimeZone(String::toICU(timeZone)));
+    return true;
 }
 
 // NOLINTNEXTLINE(readability-make-member-function-const): it changes what the formatter shows
@@ -180,24 +208,24 @@ void CustomDateFormatter::setSkeleton(const QString& skeleton)
 
 QString CustomDateFormatter::format(const QDateTime& dateTime) const
 {
-    constexpr const char* signature = "QString zel::utility::i18n::CustomDateFormatter::format(const QDateTime&) const";
+    return formatAll({dateTime}).constFirst();
+}
+
+QStringList CustomDateFormatter::formatAll(const QList<QDateTime>& dateTimes) const
+{
     if (!isValid()) {
-        Diagnostic::write(QtCriticalMsg, signature, "called on invalid formatter");
-        return {};
+        return reportInvalid(dateTimes.size());
     }
     d->updateRegionLocale();
-    // Kept until the text is made: a message handler may set another skeleton.
+    // Kept until the texts are made: a message handler may set another skeleton.
     const std::shared_ptr<icu::SimpleDateFormat> formatter = d->formatter;
-    const UDate date = d->adoptTimeZone(*formatter, dateTime);
-    icu::ErrorCode status;
-    icu::UnicodeString text;
-    formatter->format(icu::Formattable(date), text, status);
-    if (status.isFailure()) {
-        reportFailure("icu::SimpleDateFormat::format( UDate, icu::UnicodeString &, UErrorCode & )", status, signature,
-                      "failed to format date/time");
-        return {};
+    const bool zoned = d->adoptTimeZone(*formatter);
+    QStringList texts;
+    texts.reserve(dateTimes.size());
+    for (const QDateTime& dateTime : dateTimes) {
+        texts.append(textOf(zoned ? DateTime::toICU(dateTime) : DateTime::wallClock(dateTime), *formatter));
     }
-    return String::toQt(text);
+    return texts;
 }
 
 } // namespace zel::utility::i18n

@@ -8,8 +8,6 @@
 #include <unicode/smpdtfmt.h>
 #include <unicode/unistr.h>
 
-class QDateTime;
-
 namespace zel::utility::i18n {
 
 class ClockSetting;
@@ -38,8 +36,8 @@ public:
     /** Takes the region as it is now and builds the formatter anew if that is another one. */
     void updateRegionLocale() const;
 
-    /** Gives a formatter the zone to show a moment in, and returns the date to format with it. */
-    UDate adoptTimeZone(icu::SimpleDateFormat& target, const QDateTime& dateTime) const;
+    /** Gives a formatter the zone of the device, and returns true; or GMT for a skeleton without a zone. */
+    bool adoptTimeZone(icu::SimpleDateFormat& target) const;
 
     CustomDateFormatter* q;
     QString skeleton;

@@ -3,9 +3,11 @@
 #include "bridge/DateTime.h"
 #include "bridge/Diagnostic.h"
 #include "bridge/Locale.h"
+#include "formatters/RelativeDateBatch.h"
 #include "formatters/RelativeDateFormatter_p.h"
 #include "relative/DateOffsetRange.h"
 #include "relative/RelativeDatePattern.h"
+#include "relative/RelativeDateValidity.h"
 #include "relative/RelativeDistance.h"
 #include "resources/NowWord.h"
 #include <algorithm>
@@ -155,6 +157,19 @@ QString RelativeDateFormatterPrivate::format(const QDateTime& dateTime) const
     return {};
 }
 
+QStringList RelativeDateFormatterPrivate::formatAll(const QList<QDateTime>& dateTimes) const
+{
+    const Use use(uses);
+    RelativeDateBatch batch(*this);
+    QStringList texts;
+    texts.reserve(dateTimes.size());
+    for (const QDateTime& dateTime : dateTimes) {
+        const std::optional<QString> text = batch.format(dateTime);
+        texts.append(text ? *text : format(dateTime));
+    }
+    return texts;
+}
+
 std::optional<QString> RelativeDateFormatterPrivate::naturalText(const QDateTime& dateTime) const
 {
     const RelativeDistance distance(RelativeDistance::reading(anchorTime), RelativeDistance::reading(dateTime));
@@ -162,9 +177,8 @@ std::optional<QString> RelativeDateFormatterPrivate::naturalText(const QDateTime
     if (nearDay != -1) {
         return patterns[static_cast<std::size_t>(nearDay)]->format(dateTime, static_cast<int>(distance.days()));
     }
-    const int slot = table.slotOf(distance);
-    if (table.at(slot).element == RelativeDateElement::Minutes &&
-        distance.difference(RelativeDateElement::Minutes) == 0) {
+    const RelativeDateTable::Step step = table.stepOf(distance, wording);
+    if (table.at(step.slot).element == RelativeDateElement::Minutes && step.count == 0) {
         const QString now = NowWord::of(locale);
         return now.isEmpty() ? std::nullopt : std::make_optional(now);
     }
@@ -231,6 +245,16 @@ void RelativeDateFormatter::setWording(RelativeDateWording::Type wording)
 QString RelativeDateFormatter::format(const QDateTime& dateTime) const
 {
     return d->format(dateTime);
+}
+
+QStringList RelativeDateFormatter::formatAll(const QList<QDateTime>& dateTimes) const
+{
+    return d->formatAll(dateTimes);
+}
+
+QDateTime RelativeDateFormatter::validUntil(const QDateTime& dateTime) const
+{
+    return RelativeDateValidity(d->table, d->wording).until(d->anchorTime, dateTime);
 }
 
 void RelativeDateFormatter::setAnchorTime(const QDateTime& anchorTime)

@@ -5,9 +5,11 @@
 #include <memory>
 #include <optional>
 #include <QtCore/QDateTime>
+#include <QtCore/QList>
 #include <QtCore/QLocale>
 #include <QtCore/QObject>
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 #include <vector>
 #include <zel/utility/i18n/ClockFormat.h>
 #include <zel/utility/i18n/RelativeDateFormat.h>
@@ -37,6 +39,9 @@ public:
 
     /** The text for a moment; a null string, with a message, on failure. */
     QString format(const QDateTime& dateTime) const;
+
+    /** The same for many moments. */
+    QStringList formatAll(const QList<QDateTime>& dateTimes) const;
 
     /** Deletes what this object replaces, or keeps it while a message handler has interrupted a call of it. */
     void keepWhileInUse(std::unique_ptr<RelativeDateFormatterPrivate> previous);

@@ -84,11 +84,27 @@ QString RelativeDatePattern::format(const QDateTime& dateTime) const
 
 QString RelativeDatePattern::format(const QDateTime& dateTime, int elementCount) const
 {
+    return DatePattern::formatFromPattern(patternFor(elementCount), dateTime, m_locale);
+}
+
+QString RelativeDatePattern::patternFor(int elementCount) const
+{
     QString text = m_pattern;
     for (const RelativeDateElement::Type element : m_elements) {
         text = withPhraseFor(text, element, elementCount);
     }
-    return DatePattern::formatFromPattern(text, dateTime, m_locale);
+    return text;
+}
+
+bool RelativeDatePattern::isPhraseAlone() const
+{
+    return m_elements.size() == 1 && isAlone(m_elements.constFirst());
+}
+
+bool RelativeDatePattern::isAlone(RelativeDateElement::Type element) const
+{
+    const QString fields = PatternText(m_pattern).fields();
+    return !fields.isEmpty() && consistsOf(fields, RelativeDate::characters(element));
 }
 
 void RelativeDatePattern::initPattern()
@@ -117,14 +133,13 @@ QString RelativeDatePattern::withPhrase(const QString& text, RelativeDateElement
     }
     QString literal = phrase;
     literal.replace(QLatin1Char('\''), QLatin1String("''"));
-    const QString letters = RelativeDate::characters(element);
     // Literal text around a single field belongs to its number ("15 Uhr"), not to a phrase.
-    const QString fields = PatternText(m_pattern).fields();
-    if (!fields.isEmpty() && consistsOf(fields, letters)) {
-        return RelativeDate::apply(fields, element, literal);
+    if (isAlone(element)) {
+        return RelativeDate::apply(PatternText(m_pattern).fields(), element, literal);
     }
     const bool isNamedDay = element == RelativeDateElement::NamedDays;
-    return RelativeDate::apply(isNamedDay ? withoutWeekdayPunctuation(text, letters) : text, element, literal);
+    return RelativeDate::apply(isNamedDay ? withoutWeekdayPunctuation(text, RelativeDate::characters(element)) : text,
+                               element, literal);
 }
 
 } // namespace zel::utility::i18n

@@ -40,9 +40,16 @@ public:
     /** The same with the count of every element given. */
     QString format(const QDateTime& dateTime, int elementCount) const;
 
+    /** The ICU pattern of texts with that count; an element without a phrase is gone from it, with messages. */
+    QString patternFor(int elementCount) const;
+
+    /** Whether the phrase of a single element takes the place of the whole text. */
+    bool isPhraseAlone() const;
+
 private:
     void initPattern();
     int count(RelativeDateElement::Type element, const QDateTime& dateTime) const;
+    bool isAlone(RelativeDateElement::Type element) const;
     QString withPhraseFor(const QString& text, RelativeDateElement::Type element, int elementCount) const;
     QString withPhrase(const QString& text, RelativeDateElement::Type element, const QString& phrase) const;
 

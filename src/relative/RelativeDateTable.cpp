@@ -74,10 +74,22 @@ RelativeDateTable::RelativeDateTable(RelativeDateFormat::Type type)
     }
 }
 
+RelativeDateTable::Step RelativeDateTable::stepOf(const RelativeDistance& distance,
+                                                  RelativeDateWording::Type wording) const
+{
+    const int nearDay = wording == RelativeDateWording::Natural ? slotOfNearDay(distance.days()) : -1;
+    const int slot = nearDay != -1 ? nearDay : slotOf(distance);
+    if (at(slot).shown == Shown::Plain) {
+        return {slot, 0};
+    }
+    const bool isDay = at(slot).element == RelativeDateElement::NamedDays;
+    return {slot, static_cast<int>(isDay ? distance.days() : distance.difference(at(slot).element))};
+}
+
 int RelativeDateTable::slotOf(const RelativeDistance& distance) const
 {
     const auto* const slot = std::find_if(begin(), end(), [&](const Slot& each) { return takes(each, distance); });
-    return slot == end() ? -1 : static_cast<int>(slot - begin());
+    return static_cast<int>(slot - begin()); // the last slot takes what is left
 }
 
 int RelativeDateTable::slotOfNearDay(qint64 days) const

@@ -3,6 +3,7 @@
 
 #include "relative/RelativeDateElement.h"
 #include <zel/utility/i18n/RelativeDateFormat.h>
+#include <zel/utility/i18n/RelativeDateWording.h>
 
 namespace zel::utility::i18n {
 
@@ -14,7 +15,8 @@ class RelativeDistance;
  *
  * @code
  * const RelativeDateTable table(RelativeDateFormat::TimeCritical);
- * table.slotOf(RelativeDistance(anchor, anchor - 300'000)); // 11, "5 minutes ago"
+ * const RelativeDistance distance(anchor, anchor - 300'000);
+ * table.stepOf(distance, RelativeDateWording::Exact); // slot 11, count -5: "5 minutes ago"
  * @endcode
  */
 class RelativeDateTable
@@ -35,6 +37,13 @@ public:
         Shown shown;
     };
 
+    /** The slot that formats a moment, and the count in its text; 0 where the text shows none. */
+    struct Step
+    {
+        int slot;
+        int count;
+    };
+
     /** The table of a type; an empty one for an invalid type. */
     explicit RelativeDateTable(RelativeDateFormat::Type type);
 
@@ -43,8 +52,8 @@ public:
     int size() const { return m_size; }
     const Slot& at(int slot) const { return m_slots[slot]; }
 
-    /** The slot that takes a moment, or -1 in an empty table. */
-    int slotOf(const RelativeDistance& distance) const;
+    /** How a moment is formatted. Not to be called on an empty table. */
+    Step stepOf(const RelativeDistance& distance, RelativeDateWording::Type wording) const;
 
     /**
      * The slot for a day by name or weekday, one to three days away, whatever the year; -1 for any other distance.
@@ -54,6 +63,8 @@ public:
     int slotOfNearDay(qint64 days) const;
 
 private:
+    int slotOf(const RelativeDistance& distance) const;
+
     const Slot* m_slots = nullptr;
     int m_size = 0;
 };

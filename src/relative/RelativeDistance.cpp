@@ -7,9 +7,6 @@ namespace zel::utility::i18n {
 
 namespace {
 
-constexpr qint64 msPerMinute = 60'000;
-constexpr qint64 msPerHour = 60 * msPerMinute;
-constexpr qint64 msPerDay = 24 * msPerHour;
 constexpr qint64 julianDayOf1970 = 2'440'588;
 constexpr qint64 firstGregorianDay = 2'299'161; // 15 October 1582
 constexpr int firstGregorianYear = 1583;        // the first to begin in the Gregorian calendar
@@ -25,6 +22,13 @@ const QCalendar& julian()
 qint64 RelativeDistance::reading(const QDateTime& dateTime)
 {
     return static_cast<qint64>(DateTime::wallClock(dateTime));
+}
+
+bool RelativeDistance::covers(qint64 reading)
+{
+    static const qint64 first = firstDay(1) * msPerDay;
+    static const qint64 end = firstDay(10'000) * msPerDay;
+    return reading >= first && reading < end;
 }
 
 qint64 RelativeDistance::day(qint64 reading)

@@ -19,11 +19,18 @@ namespace zel::utility::i18n {
 class RelativeDistance
 {
 public:
+    static constexpr qint64 msPerMinute = 60'000;
+    static constexpr qint64 msPerHour = 60 * msPerMinute;
+    static constexpr qint64 msPerDay = 24 * msPerHour;
+
     /** Both in milliseconds from 1970-01-01 00:00 on the wall clock. */
     RelativeDistance(qint64 anchor, qint64 moment) : m_anchor(anchor), m_moment(moment) {}
 
     /** The date and time that a moment shows, whatever its time specification. */
     static qint64 reading(const QDateTime& dateTime);
+
+    /** Whether a reading is in the years 1 to 9999. */
+    static bool covers(qint64 reading);
 
     /** The day of a reading, counted from 1970-01-01. */
     static qint64 day(qint64 reading);

@@ -3,8 +3,10 @@
 
 #include <memory>
 #include <QtCore/QDateTime>
+#include <QtCore/QList>
 #include <QtCore/QObject>
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 #include <zel/utility/i18n/Global.h>
 
 namespace zel::utility::i18n {
@@ -67,6 +69,16 @@ public:
      * @return the text; a null string, with a message, when the formatter is not valid or ICU cannot format the moment
      */
     Q_INVOKABLE QString format(const QDateTime& dateTime) const;
+
+    /**
+     * The texts that format() would give for many moments one by one, in order and with the same messages. Region,
+     * clock and time zone are read once. Nothing is kept afterwards. The call cannot be cancelled and blocks its
+     * thread.
+     *
+     * @param dateTimes the moments, as for format()
+     * @return as many texts; a null string where format() would return one
+     */
+    QStringList formatAll(const QList<QDateTime>& dateTimes) const;
 
 public Q_SLOTS:
     /**

@@ -3,9 +3,11 @@
 
 #include <memory>
 #include <QtCore/QDateTime>
+#include <QtCore/QList>
 #include <QtCore/QLocale>
 #include <QtCore/QObject>
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 #include <zel/utility/i18n/ClockFormat.h>
 #include <zel/utility/i18n/Global.h>
 #include <zel/utility/i18n/RelativeDateFormat.h>
@@ -93,6 +95,26 @@ public:
      * @return the text; a null string, with a message, when the type is invalid or ICU cannot format the moment
      */
     Q_INVOKABLE QString format(const QDateTime& dateTime) const;
+
+    /**
+     * The texts that format() would give for many moments one by one, in order and with the same messages. It costs
+     * much less than one call for each: what the texts need is prepared once. Nothing is kept afterwards. The call
+     * cannot be cancelled and blocks its thread.
+     *
+     * @param dateTimes the moments, as for format()
+     * @return as many texts; a null string where format() would return one
+     */
+    QStringList formatAll(const QList<QDateTime>& dateTimes) const;
+
+    /**
+     * The first anchor time after the present one at which the text of a moment may be another one: renew the text
+     * then, and not before. A clock that is put forward or back is counted in.
+     *
+     * @param dateTime the moment, in the years 1 to 9999
+     * @return a time in the anchor's time zone; an invalid one if the text can never change again, if the moment or the
+     * anchor is outside the years 1 to 9999, or if the type is invalid
+     */
+    QDateTime validUntil(const QDateTime& dateTime) const;
 
     ZEL_UTILITY_I18N_SIGNALS
     /** The anchor, the locale, the clock, the wording or the ladder has changed: texts made before may be out of date.

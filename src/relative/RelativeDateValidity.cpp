@@ -1,0 +1,124 @@
+#include "relative/RelativeDateValidity.h"
+
+#include "relative/RelativeDistance.h"
+#include <algorithm>
+#include <QtCore/QLatin1String>
+#include <QtCore/QTimeZone>
+
+namespace zel::utility::i18n {
+
+namespace {
+
+constexpr qint64 nearDays = 3; // told by name or weekday
+
+/** The next time at which a zone changes its offset. */
+std::optional<QDateTime> nextTransition(const QDateTime& dateTime)
+{
+    if (dateTime.timeSpec() != Qt::LocalTime && dateTime.timeSpec() != Qt::TimeZone) {
+        return std::nullopt;
+    }
+    const QTimeZone::OffsetData next = dateTime.timeZone().nextTransition(dateTime);
+    return next.atUtc.isValid() ? std::make_optional(next.atUtc) : std::nullopt;
+}
+
+QDateTime inZoneOf(QDateTime dateTime, qint64 msSinceEpoch)
+{
+    dateTime.setMSecsSinceEpoch(msSinceEpoch);
+    return dateTime;
+}
+
+/** The first reading of the anchor at which a count of whole units is another one. */
+qint64 nextCount(qint64 anchor, qint64 moment, qint64 unit)
+{
+    const qint64 ahead = (moment - anchor) / unit;
+    return ahead > 0 ? moment - ahead * unit + 1 : moment + (1 - ahead) * unit;
+}
+
+} // namespace
+
+QDateTime RelativeDateValidity::until(const QDateTime& anchor, const QDateTime& moment) const
+{
+    const qint64 target = RelativeDistance::reading(moment);
+    if (m_table.size() == 0 || !RelativeDistance::covers(target)) {
+        return {};
+    }
+    const Step present = stepAt(RelativeDistance::reading(anchor), target);
+    for (QDateTime from = anchor;;) {
+        const qint64 reading = RelativeDistance::reading(from);
+        const std::optional<qint64> change =
+            RelativeDistance::covers(reading) ? nextChange(reading, target) : std::nullopt;
+        if (!change) {
+            return {};
+        }
+        const QDateTime changed = inZoneOf(from, from.toMSecsSinceEpoch() + *change - reading);
+        const std::optional<QDateTime> transition = nextTransition(from);
+        if (!transition || changed < *transition) {
+            return changed;
+        }
+        from = inZoneOf(from, transition->toMSecsSinceEpoch());
+        if (!isSame(stepAt(RelativeDistance::reading(from), target), present)) {
+            return from;
+        }
+    }
+}
+
+RelativeDateTable::Step RelativeDateValidity::stepAt(qint64 anchor, qint64 moment) const
+{
+    return m_table.stepOf(RelativeDistance(anchor, moment), m_wording);
+}
+
+/** The two sides of a table have steps with the same text. */
+bool RelativeDateValidity::isSame(const Step& one, const Step& other) const
+{
+    return one.count == other.count &&
+           QLatin1String(m_table.at(one.slot).skeleton) == QLatin1String(m_table.at(other.slot).skeleton);
+}
+
+std::optional<qint64> RelativeDateValidity::nextChange(qint64 anchor, qint64 moment) const
+{
+    const Step present = stepAt(anchor, moment);
+    Step step = present;
+    while (isSame(step, present)) {
+        const std::optional<qint64> candidate = nextCandidate(step, anchor, moment);
+        if (!candidate) {
+            return std::nullopt;
+        }
+        anchor = *candidate;
+        step = stepAt(anchor, moment);
+    }
+    return anchor;
+}
+
+/** No other step begins before it. */
+std::optional<qint64> RelativeDateValidity::nextCandidate(const Step& step, qint64 anchor, qint64 moment) const
+{
+    const qint64 today = RelativeDistance::day(anchor);
+    const qint64 that = RelativeDistance::day(moment);
+    const qint64 midnight = (today + 1) * RelativeDistance::msPerDay;
+    const RelativeDateTable::Slot& slot = m_table.at(step.slot);
+    switch (slot.element) {
+    case RelativeDateElement::Minutes:
+        return std::min(midnight, nextCount(anchor, moment, RelativeDistance::msPerMinute));
+    case RelativeDateElement::Hours:
+        return std::min(midnight, nextCount(anchor, moment, RelativeDistance::msPerHour));
+    case RelativeDateElement::Years: {
+        if (that < today) {
+            return std::nullopt;
+        }
+        const qint64 sameYear = RelativeDistance::firstDay(RelativeDistance::year(that));
+        const qint64 named = m_wording == RelativeDateWording::Natural ? that - nearDays : sameYear;
+        return std::max(midnight, std::min(sameYear, named) * RelativeDistance::msPerDay);
+    }
+    case RelativeDateElement::NamedDays:
+        break;
+    }
+    if (that - today > nearDays) {
+        return (that - nearDays) * RelativeDistance::msPerDay;
+    }
+    if (today - that > nearDays) {
+        return RelativeDistance::firstDay(RelativeDistance::year(today) + 1) * RelativeDistance::msPerDay;
+    }
+    return midnight;
+}
+
+} // namespace zel::utility::i18n

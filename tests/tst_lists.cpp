@@ -1,0 +1,248 @@
+// Many moments in one call, and how long a text holds: both are held against format(), moment by moment.
+
+#include "relative/RelativeDate.h"
+#include "relative/RelativeDistance.h"
+#include "support/MessageLog.h"
+#include "support/SettingsRoot.h"
+#include <algorithm>
+#include <ctime>
+#include <QtCore/QRandomGenerator>
+#include <QtCore/QTimeZone>
+#include <QtTest/QTest>
+#include <zel/utility/i18n/CustomDateFormatter.h>
+#include <zel/utility/i18n/RelativeDateFormatter.h>
+
+using namespace zel::utility::i18n;
+
+namespace {
+
+constexpr qint64 minute = 60'000;
+constexpr qint64 hour = 60 * minute;
+constexpr qint64 day = 24 * hour;
+
+const char* const locales[] = {"en_US", "en_GB", "de_DE", "fr_FR",      "fr_CA", "ja_JP", "ko_KR",
+                               "zh_CN", "zh_TW", "ar_EG", "fa_IR",      "he_IL", "hi_IN", "th_TH",
+                               "mn_MN", "pl_PL", "ru_RU", "sr_Latn_RS", "pt_PT", "C"};
+
+/** Moments and anchors that are near each other more often than not, the same ones in every run. */
+class Moments
+{
+public:
+    QDateTime anchor()
+    {
+        // Often an hour around a change of the clocks, a turn of the year, the change of calendars.
+        static const char* const edges[] = {"2012-03-25T01:00:00Z", "2012-10-28T01:00:00Z", "2012-03-11T07:00:00Z",
+                                            "2012-04-01T15:00:00Z", "2012-12-31T23:00:00Z", "1582-10-15T00:00:00Z",
+                                            "2012-09-03T10:30:00Z"};
+        QDateTime time = QDateTime::fromString(QString::fromLatin1(edges[m_random.bounded(7)]), Qt::ISODate);
+        if (m_random.bounded(4) == 0) {
+            time = time.addDays(m_random.bounded(-100'000, 100'000));
+        }
+        return inSomeZone(time.addMSecs(m_random.bounded(int(-2 * hour), int(2 * hour))));
+    }
+
+    QDateTime near(const QDateTime& anchor)
+    {
+        static constexpr qint64 scales[] = {minute, hour, day, 4 * day, 400 * day, 300'000 * day};
+        const qint64 distance =
+            static_cast<qint64>((m_random.generateDouble() * 2 - 1) * static_cast<double>(scales[m_random.bounded(6)]));
+        const qint64 whole = m_random.bounded(3) == 0 ? minute : 1;
+        return inSomeZone(anchor.addMSecs(distance / whole * whole));
+    }
+
+    qint64 upTo(qint64 limit) { return static_cast<qint64>(m_random.generateDouble() * static_cast<double>(limit)); }
+
+private:
+    QDateTime inSomeZone(const QDateTime& time)
+    {
+        switch (m_random.bounded(5)) {
+        case 0:
+            return time.toUTC();
+        case 1:
+            return time.toOffsetFromUtc(20'700);
+        case 2:
+            return time.toTimeZone(QTimeZone("Australia/Lord_Howe"));
+        default:
+            return time.toLocalTime();
+        }
+    }
+
+    QRandomGenerator m_random{20120903};
+};
+
+template <typename Formatter>
+QStringList oneByOne(const Formatter& formatter, const QList<QDateTime>& moments)
+{
+    QStringList texts;
+    for (const QDateTime& moment : moments) {
+        texts.append(formatter.format(moment));
+    }
+    return texts;
+}
+
+} // namespace
+
+class ListsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void distances();
+    void relativeLists_data() { locales_data(); }
+    void relativeLists();
+    void customLists_data() { locales_data(); }
+    void customLists();
+    void invalidFormatters();
+    void textsHoldUntil_data();
+    void textsHoldUntil();
+
+private:
+    static void locales_data();
+
+    SettingsRoot m_root;
+};
+
+void ListsTest::initTestCase()
+{
+    qputenv("TZ", "Europe/Berlin");
+    ::tzset();
+    QVERIFY(m_root.setClock("12"));
+    QVERIFY(m_root.setTimeZone("America/New_York"));
+}
+
+void ListsTest::locales_data()
+{
+    QTest::addColumn<QString>("locale");
+    for (const char* const locale : locales) {
+        QTest::newRow(locale) << QString::fromLatin1(locale);
+    }
+}
+
+/** The arithmetic counts as ICU's calendars do. */
+void ListsTest::distances()
+{
+    Moments moments;
+    for (int i = 0; i < 2000; ++i) {
+        const QDateTime anchor = moments.anchor();
+        const QDateTime moment = moments.near(anchor);
+        const RelativeDistance distance(RelativeDistance::reading(anchor), RelativeDistance::reading(moment));
+        const QByteArray what =
+            (anchor.toString(Qt::ISODateWithMs) + ' ' + moment.toString(Qt::ISODateWithMs)).toUtf8();
+        QVERIFY2(distance.years() == RelativeDate::offset(anchor, moment, RelativeDateElement::Years), what);
+        if (distance.years() == 0) {
+            QVERIFY2(distance.days() == RelativeDate::offset(anchor, moment, RelativeDateElement::NamedDays), what);
+        }
+        for (const auto element :
+             {RelativeDateElement::Minutes, RelativeDateElement::Hours, RelativeDateElement::NamedDays}) {
+            if (qAbs(distance.days()) < 1000) {
+                QVERIFY2(distance.difference(element) == RelativeDate::difference(anchor, moment, element, false),
+                         what);
+            }
+        }
+    }
+}
+
+void ListsTest::relativeLists()
+{
+    QFETCH(QString, locale);
+    Moments moments;
+    MessageLog log;
+    for (const auto type : {RelativeDateFormat::TimeCritical, RelativeDateFormat::NonTimeCritical}) {
+        RelativeDateFormatter formatter(type);
+        formatter.setLocale(QLocale(locale));
+        for (const auto clock : {ClockFormat::Use12hourClock, ClockFormat::Use24hourClock}) {
+            formatter.setClockFormat(clock);
+            for (const auto wording : {RelativeDateWording::Exact, RelativeDateWording::Natural}) {
+                formatter.setWording(wording);
+                formatter.setAnchorTime(moments.anchor());
+                QList<QDateTime> list{QDateTime(), formatter.anchorTime(), QDateTime(QDate(-44, 3, 15), QTime(12, 0)),
+                                      QDateTime(QDate(12345, 6, 7), QTime(8, 9))};
+                for (int i = 0; i < 60; ++i) {
+                    list.append(moments.near(formatter.anchorTime()));
+                }
+                const QStringList texts = formatter.formatAll(list);
+                const QStringList messages = log.take();
+                QCOMPARE(texts, oneByOne(formatter, list));
+                QCOMPARE(messages, log.take());
+            }
+        }
+    }
+}
+
+void ListsTest::customLists()
+{
+    QFETCH(QString, locale);
+    QVERIFY(m_root.setRegion(locale.toLatin1()));
+    Moments moments;
+    for (const char* const skeleton : {"yMMMd", "EEEEhm", "yMMMdHmsz", "v", ""}) {
+        const CustomDateFormatter formatter(QString::fromLatin1(skeleton));
+        QList<QDateTime> list{QDateTime()};
+        for (int i = 0; i < 30; ++i) {
+            list.append(moments.near(moments.anchor()));
+        }
+        QCOMPARE(formatter.formatAll(list), oneByOne(formatter, list));
+    }
+}
+
+void ListsTest::invalidFormatters()
+{
+    MessageLog log;
+    const RelativeDateFormatter formatter(static_cast<RelativeDateFormat::Type>(3));
+    const QList<QDateTime> list{QDateTime(), QDateTime::currentDateTime()};
+    log.take();
+    QCOMPARE(formatter.formatAll(list), (QStringList{QString(), QString()}));
+    QCOMPARE(log.take().size(), 2);
+    QVERIFY(!formatter.validUntil(list.last()).isValid());
+    QCOMPARE(RelativeDateFormatter(RelativeDateFormat::TimeCritical).formatAll({}), QStringList());
+}
+
+void ListsTest::textsHoldUntil_data()
+{
+    QTest::addColumn<RelativeDateFormat::Type>("type");
+    QTest::addColumn<RelativeDateWording::Type>("wording");
+    for (const auto type : {RelativeDateFormat::TimeCritical, RelativeDateFormat::NonTimeCritical}) {
+        for (const auto wording : {RelativeDateWording::Exact, RelativeDateWording::Natural}) {
+            QTest::addRow("%d %d", type, wording) << type << wording;
+        }
+    }
+}
+
+void ListsTest::textsHoldUntil()
+{
+    QFETCH(RelativeDateFormat::Type, type);
+    QFETCH(RelativeDateWording::Type, wording);
+    Moments moments;
+    RelativeDateFormatter formatter(type);
+    formatter.setLocale(QLocale("en_US"));
+    formatter.setWording(wording);
+    int near = 0;
+    int changed = 0;
+    for (int i = 0; i < 1500; ++i) {
+        const QDateTime anchor = moments.anchor();
+        const QDateTime moment = moments.near(anchor);
+        const auto textAt = [&](qint64 later) {
+            formatter.setAnchorTime(anchor.addMSecs(later));
+            return formatter.format(moment);
+        };
+        const QString text = textAt(0);
+        const QDateTime until = formatter.validUntil(moment);
+        const qint64 held = until.isValid() ? anchor.msecsTo(until) : 400 * day;
+        const QByteArray what =
+            (anchor.toString(Qt::ISODateWithMs) + ' ' + moment.toString(Qt::ISODateWithMs) + ' ' + text).toUtf8();
+        QVERIFY2(held > 0, what);
+        for (const qint64 later : {held - 1, moments.upTo(held), moments.upTo(std::min(held, hour))}) {
+            QVERIFY2(textAt(later) == text, what);
+        }
+        if (until.isValid() && qAbs(anchor.msecsTo(moment)) < day) {
+            ++near;
+            changed += textAt(held) != text ? 1 : 0;
+        }
+        QVERIFY2(!until.isValid() || (until.timeSpec() == anchor.timeSpec()), what);
+    }
+    QVERIFY2(near > 300, qPrintable(QString::number(near)));
+    QVERIFY2(changed * 100 >= near * 95, qPrintable(QStringLiteral("%1 of %2").arg(changed).arg(near)));
+}
+
+QTEST_GUILESS_MAIN(ListsTest)
+#include "tst_lists.moc"
