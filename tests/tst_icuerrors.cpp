@@ -194,6 +194,8 @@ private Q_SLOTS:
     void initTestCase();
     void failures_data();
     void failures();
+    void listsFail_data();
+    void listsFail();
     void handlersUseTheFormatter_data();
     void handlersUseTheFormatter();
 
@@ -385,6 +387,43 @@ void IcuErrorsTest::failures()
     QTEST(log.take(), "messages");
     QCOMPARE(actual, result);
     QCOMPARE(actual.isNull(), result.isNull());
+}
+
+void IcuErrorsTest::listsFail_data()
+{
+    QTest::addColumn<IcuFaults::Function>("function");
+    for (const auto function :
+         {IcuFaults::CreateDateFormat, IcuFaults::FormatDate, IcuFaults::OpenBundle, IcuFaults::GetResource,
+          IcuFaults::GetString, IcuFaults::ForLocale, IcuFaults::CreateNumberFormat, IcuFaults::CreateCalendar,
+          IcuFaults::SetTime, IcuFaults::SetKeywordValue}) {
+        QTest::addRow("%d", function) << function;
+    }
+}
+
+/** While ICU fails, the texts and messages of a list are those of its moments one by one. */
+void IcuErrorsTest::listsFail()
+{
+    QFETCH(IcuFaults::Function, function);
+    const QList<int> fails(1000, late);
+    RelativeDateFormatter formatter(RelativeDateFormat::TimeCritical);
+    formatter.setLocale(austrian);
+    formatter.setAnchorTime(moment);
+    formatter.setWording(RelativeDateWording::Natural);
+    const QList<QDateTime> list{moment, moment.addSecs(-300), moment.addDays(-1), moment.addDays(-2),
+                                moment.addDays(-9)};
+    MessageLog log;
+    IcuFaults::arm(function, fails);
+    const QStringList texts = formatter.formatAll(list);
+    const QStringList messages = log.take();
+    QVERIFY(!messages.isEmpty());
+    QStringList oneByOne;
+    IcuFaults::arm(function, fails);
+    for (const QDateTime& each : list) {
+        oneByOne.append(formatter.format(each));
+    }
+    IcuFaults::arm(function, {});
+    QCOMPARE(texts, oneByOne);
+    QCOMPARE(messages, log.take());
 }
 
 void IcuErrorsTest::handlersUseTheFormatter_data()

@@ -156,7 +156,7 @@ void ListsTest::relativeLists()
             for (const auto wording : {RelativeDateWording::Exact, RelativeDateWording::Natural}) {
                 formatter.setWording(wording);
                 formatter.setAnchorTime(moments.anchor());
-                QList<QDateTime> list{QDateTime(), formatter.anchorTime(), QDateTime(QDate(-44, 3, 15), QTime(12, 0)),
+                QList<QDateTime> list{QDateTime(), formatter.anchorTime(), QDateTime(QDate(-3000, 3, 15), QTime(12, 0)),
                                       QDateTime(QDate(12345, 6, 7), QTime(8, 9))};
                 for (int i = 0; i < 60; ++i) {
                     list.append(moments.near(formatter.anchorTime()));

@@ -4,6 +4,7 @@
 #include "bridge/Locale.h"
 #include "bridge/String.h"
 #include "formatters/RelativeDateFormatter_p.h"
+#include "patterns/DatePattern.h"
 #include "relative/RelativeDate.h"
 #include "relative/RelativeDatePattern.h"
 #include "resources/NowWord.h"
@@ -16,12 +17,13 @@ namespace zel::utility::i18n {
 
 namespace {
 
-/** Whether ICU has the calendars that format() counts with. */
-bool haveCalendars(const QDateTime& anchor)
+/** Whether ICU makes the calendars and formats that format() needs for every text, and the batch for some. */
+bool isUsable(const RelativeDateFormatterPrivate& formatter)
 {
     const DiagnosticSilence silence;
-    RelativeDate::offset(anchor, anchor, RelativeDateElement::Years);
-    RelativeDate::difference(anchor, anchor, RelativeDateElement::Minutes, true);
+    RelativeDate::offset(formatter.anchorTime, formatter.anchorTime, RelativeDateElement::Years);
+    RelativeDate::difference(formatter.anchorTime, formatter.anchorTime, RelativeDateElement::Minutes, true);
+    DatePattern::formatFromPattern(QStringLiteral("y"), formatter.anchorTime, formatter.locale);
     return !silence.isBroken();
 }
 
@@ -30,7 +32,7 @@ bool haveCalendars(const QDateTime& anchor)
 RelativeDateBatch::RelativeDateBatch(const RelativeDateFormatterPrivate& formatter)
     : m_formatter(formatter),
       m_anchor(RelativeDistance::reading(formatter.anchorTime)),
-      m_usable(formatter.count > 0 && RelativeDistance::covers(m_anchor) && haveCalendars(formatter.anchorTime))
+      m_usable(formatter.count > 0 && RelativeDistance::covers(m_anchor) && isUsable(formatter))
 {
 }
 

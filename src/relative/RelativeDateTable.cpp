@@ -51,9 +51,6 @@ qint64 countOf(const Slot& slot, const RelativeDistance& distance)
 
 bool takes(const Slot& slot, const RelativeDistance& distance)
 {
-    if (slot.side == Side::After && !distance.isLater()) {
-        return false;
-    }
     const qint64 count = countOf(slot, distance);
     return (count > 0) == (slot.side == Side::After) && qAbs(count) >= slot.minimum;
 }

@@ -41,8 +41,6 @@ public:
     /** The first day of a year. */
     static qint64 firstDay(int year);
 
-    bool isLater() const { return m_moment > m_anchor; }
-
     /** The years between the calendar years. */
     int years() const;
 
