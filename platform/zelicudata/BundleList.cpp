@@ -3,6 +3,7 @@
 #include "BundleData.h"
 #include "ResourceBundleReader.h"
 
+#include <algorithm>
 #include <charconv>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -16,6 +17,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr const char* otherIcu = "made for another ICU";
 constexpr std::size_t largestFile = std::size_t{16} * 1024 * 1024;
 
 // FNV-1a: finds damage, not malice.
@@ -91,15 +93,15 @@ public:
 
     bool look(const char* file, struct stat& status) const { return ::fstatat(m_descriptor, file, &status, 0) == 0; }
 
-    /** The contents of a file; empty for anything that could keep the reader waiting or have no end. */
-    std::string contentsOf(const char* file) const
+    /** The contents of a file, or their start; empty for what could keep the reader waiting or have no end. */
+    std::string contentsOf(const char* file, std::size_t most = largestFile) const
     {
         const int descriptor = ::openat(m_descriptor, file, O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
         struct stat status = {};
         std::string contents;
         if (::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) &&
             static_cast<std::size_t>(status.st_size) <= largestFile) {
-            contents.resize(static_cast<std::size_t>(status.st_size));
+            contents.resize(std::min(most, static_cast<std::size_t>(status.st_size)));
             const ssize_t size = ::read(descriptor, contents.data(), contents.size());
             contents.resize(size < 0 ? 0 : static_cast<std::size_t>(size));
         }
@@ -150,7 +152,20 @@ std::string BundleList::toFile() const
     return file;
 }
 
-// This is done whenever a process starts: sizes and times are looked at, and contents only where the times are odd.
+std::string BundleList::problemOfStart(const fs::path& path)
+{
+    constexpr std::size_t longestLine = 64;
+    const std::string start = Directory(path).contentsOf(fileName, longestLine);
+    std::string_view rest = start;
+    std::size_t count = 0;
+    std::uint32_t checksum = 0;
+    if (!takeNumber(rest, count, ' ') || !takeNumber(rest, checksum, '\n')) {
+        return damaged(fileName);
+    }
+    return checksum == checksumOfIcuPool() ? std::string() : otherIcu;
+}
+
+// Each process does this once: sizes and times are looked at, and contents only where the times are odd.
 std::string BundleList::problemOf(const fs::path& path)
 {
     const Directory directory(path);
@@ -160,7 +175,7 @@ std::string BundleList::problemOf(const fs::path& path)
         return damaged(fileName);
     }
     if (list->m_poolChecksum != checksumOfIcuPool()) {
-        return "made for another ICU";
+        return otherIcu;
     }
     for (const Bundle& bundle : list->m_bundles) {
         if (!directory.isSound(bundle, listed)) {

@@ -46,6 +46,9 @@ public:
      */
     static std::string problemOf(const std::filesystem::path& path);
 
+    /** The same for the first line of the list alone, at a cost that does not grow with the bundles. */
+    static std::string problemOfStart(const std::filesystem::path& path);
+
     /** Whether the pool of the ICU in use is in the directory at a path, so that packageName can be opened. */
     static bool hasPool(const std::filesystem::path& path);
 

@@ -30,10 +30,14 @@ fs::path libraryDirectory()
     return fs::canonical(library.dli_fname, error).parent_path();
 }
 
+// How closely bundles are looked at: the start of their list when the library is loaded, all of them before the first
+// use.
+using Check = std::string (*)(const fs::path& bundles);
+
 /** Whose bundles are wrong, and how; empty where they are sound. */
-std::string problemOf(const fs::path& bundles)
+std::string problemOf(const fs::path& bundles, Check check)
 {
-    const std::string problem = BundleList::problemOf(bundles);
+    const std::string problem = check(bundles);
     return problem.empty() ? problem : bundles.string() + ": " + problem;
 }
 
@@ -44,7 +48,7 @@ struct Found
     std::string problem;
 };
 
-Found findDataDirectory()
+Found findDataDirectory(Check check)
 {
     const fs::path beside = libraryDirectory();
     // The build tree and most installed trees; then installed trees with another depth of library directory.
@@ -52,16 +56,23 @@ Found findDataDirectory()
         std::error_code error;
         const fs::path directory = (beside / way).lexically_normal();
         if (!beside.empty() && fs::is_directory(directory / U_ICUDATA_NAME, error)) {
-            const std::string problem = problemOf(directory / U_ICUDATA_NAME);
+            const std::string problem = problemOf(directory / U_ICUDATA_NAME, check);
             return problem.empty() ? Found{directory.string(), {}} : Found{{}, problem};
         }
     }
     return {{}, "no " U_ICUDATA_NAME " in " + (beside / "../share/zel/icu").lexically_normal().string()};
 }
 
+/** What was found when the library was loaded. */
 const Found& found()
 {
-    static const Found once = findDataDirectory();
+    static const Found once = findDataDirectory(&BundleList::problemOfStart);
+    return once;
+}
+
+const Found& checked()
+{
+    static const Found once = findDataDirectory(&BundleList::problemOf);
     return once;
 }
 
@@ -70,12 +81,23 @@ void complain(const std::string& problem)
     std::fprintf(stderr, "libzelicudata: %s; relative dates are without phrases\n", problem.c_str());
 }
 
-/** What is wrong with a directory that somebody else named; of data that is not from here that is not known. */
-std::string problemOfNamed(const fs::path& directory)
+/** What is wrong with a directory that somebody has named; of data that is not from here that is not known. */
+std::string problemOfNamed(const fs::path& directory, Check check)
 {
     std::error_code error;
     const fs::path bundles = directory / U_ICUDATA_NAME;
-    return fs::exists(bundles / BundleList::fileName, error) ? problemOf(bundles) : std::string();
+    return fs::exists(bundles / BundleList::fileName, error) ? problemOf(bundles, check) : std::string();
+}
+
+bool leaveDamagedDirectory()
+{
+    const std::string used = u_getDataDirectory();
+    const std::string problem = used.empty() ? used : problemOfNamed(used, &BundleList::problemOf);
+    if (!problem.empty()) {
+        complain(problem);
+        u_setDataDirectory("");
+    }
+    return problem.empty();
 }
 
 /** The directory that ICU_DATA or the application has named; ICU knows either. */
@@ -107,7 +129,7 @@ std::string findPhrasePackage()
 __attribute__((constructor)) void pointIcuToDataDirectory()
 {
     const std::string named = namedDirectory();
-    const std::string problem = named.empty() ? found().problem : problemOfNamed(named);
+    const std::string problem = named.empty() ? found().problem : problemOfNamed(named, &BundleList::problemOfStart);
     if (!problem.empty()) {
         complain(problem);
     }
@@ -122,21 +144,28 @@ namespace zel::icudata {
 
 const char* dataDirectory() noexcept
 {
-    return found().directory.c_str();
+    return checked().directory.c_str();
 }
 
 const char* dataDirectoryProblem() noexcept
 {
-    return found().problem.c_str();
+    return checked().problem.c_str();
+}
+
+void checkDataDirectory() noexcept
+{
+    [[maybe_unused]] static const bool isSound = leaveDamagedDirectory();
 }
 
 bool isDataDirectoryInUse() noexcept
 {
+    checkDataDirectory();
     return !found().directory.empty() && found().directory == u_getDataDirectory();
 }
 
 bool hasPhraseTables() noexcept
 {
+    checkDataDirectory();
     UErrorCode status = U_ZERO_ERROR;
     const icu::LocalUResourceBundlePointer root(ures_openDirect(nullptr, "root", &status));
     const icu::LocalUResourceBundlePointer units(ures_getByKey(root.getAlias(), "units", nullptr, &status));

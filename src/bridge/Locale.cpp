@@ -3,6 +3,7 @@
 #include "bridge/Diagnostic.h"
 #include <QtCore/QByteArray>
 #include <unicode/errorcode.h>
+#include <zel/icu/DataDirectory.h>
 
 namespace zel::utility::i18n {
 
@@ -23,6 +24,7 @@ icu::Locale Locale::named(const QLocale& locale)
 
 icu::Locale Locale::toICU(const QLocale& locale)
 {
+    icudata::checkDataDirectory();
     icu::Locale icuLocale = named(locale);
     icu::ErrorCode status;
     icuLocale.setKeywordValue("calendar", "gregorian", status);

@@ -20,6 +20,12 @@ __attribute__((visibility("default"))) const char* dataDirectory() noexcept;
 /** Why dataDirectory() is ""; otherwise "". */
 __attribute__((visibility("default"))) const char* dataDirectoryProblem() noexcept;
 
+/**
+ * Looks at every bundle in the directory that ICU uses, once in a process, and leaves ICU with its own data where one
+ * is missing or damaged. The other functions, and all of the product, do so before they ask ICU for a locale's data.
+ */
+__attribute__((visibility("default"))) void checkDataDirectory() noexcept;
+
 /** Whether ICU looks into dataDirectory(). False where somebody else named a directory, and where there is none. */
 __attribute__((visibility("default"))) bool isDataDirectoryInUse() noexcept;
 
