@@ -536,11 +536,16 @@ void ToolTest::watchFollowsTheDevice()
 {
     const SettingsRoot root;
     QVERIFY(root.setClock("12") && root.setTimeZone("Europe/London") && root.setRegion("en_GB"));
+    Running german("watch|hmz|2012-05-16T14:30Z|--locale|de_DE");
+    QCOMPARE(german.line(), QString::fromUtf8("3:30\u202fPM GMT+1"));
     Running watch("watch|hmz|2012-05-16T14:30Z");
     QCOMPARE(watch.line(), QString::fromUtf8("3:30\u202fpm BST"));
     constexpr int second = 1000;
     QCOMPARE(run("device|set|hour-format=24").status, 0);
     QCOMPARE(watch.line(second), QStringLiteral("15:30 BST"));
+    QCOMPARE(german.line(second), QStringLiteral("15:30 GMT+1")); // the other settings are still the device's
+    german.signal(SIGTERM);
+    QCOMPARE(finished(german.process()).status, 0);
     QCOMPARE(run("device|set|time-zone=Europe/Berlin").status, 0);
     QCOMPARE(watch.line(second), QStringLiteral("16:30 CEST"));
     QCOMPARE(run("device|set|region=de_DE").status, 0);

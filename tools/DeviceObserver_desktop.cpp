@@ -1,9 +1,9 @@
 // Changes of the host's settings, as the library hears of them.
 
 #include "Assignments.h"
-#include "bridge/Diagnostic.h"
 #include "Device.h"
 #include "DeviceObserver.h"
+#include "Failure.h"
 #include "settings/ClockSetting.h"
 #include "settings/RegionNotifier.h"
 #include "settings/TimeZoneSetting.h"
@@ -28,8 +28,7 @@ DeviceObserver::DeviceObserver(QObject* parent) : QObject(parent), m_values(valu
     namespace i18n = zel::utility::i18n;
     for (const QObject* const setting :
          std::initializer_list<QObject*>{new i18n::ClockSetting(this), new i18n::TimeZoneSetting(this)}) {
-        i18n::Diagnostic::checkConnection(connect(setting, SIGNAL(changed()), this, SLOT(look())),
-                                          "zel::tool::DeviceObserver::DeviceObserver(QObject*)", "changed()");
+        requireConnection(connect(setting, SIGNAL(changed()), this, SLOT(look())));
     }
     new i18n::RegionNotifier(this, SLOT(look()), this);
 }

@@ -31,14 +31,14 @@ DeviceObserver::DeviceObserver(QObject* parent) : QObject(parent), m_values(valu
 {
     for (const char* const path : {"/pps/system/settings", "/pps/services/confstr/_CS_TIMEZONE"}) {
         auto* const object = new PpsObject(QString::fromLatin1(path), this);
-        connect(object, SIGNAL(readyRead()), this, SLOT(look()));
+        requireConnection(connect(object, SIGNAL(readyRead()), this, SLOT(look())));
         if (!object->open(PpsOpenMode::Subscribe)) {
             throw Failure(object->errorString());
         }
     }
     auto* const region = new system::LocaleHandler(system::LocaleType::Region);
     region->setParent(this);
-    connect(region, SIGNAL(changed()), this, SLOT(look()));
+    requireConnection(connect(region, SIGNAL(changed()), this, SLOT(look())));
 }
 
 DeviceObserver::~DeviceObserver() = default;

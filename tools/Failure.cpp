@@ -17,4 +17,11 @@ QString quoted(const QString& word)
     return QLatin1Char('\'') + printable(word.left(enough)) + QLatin1String(word.size() > enough ? "...'" : "'");
 }
 
+void requireConnection(bool isConnected)
+{
+    if (!isConnected) {
+        throw Failure(QStringLiteral("cannot connect to a signal"));
+    }
+}
+
 } // namespace zel::tool

@@ -36,6 +36,9 @@ QString printable(QString text);
 /** A word of the user's in quotes, on one line and not too much of it. */
 QString quoted(const QString& word);
 
+/** A Failure where connect() did not connect. */
+void requireConnection(bool isConnected);
+
 } // namespace zel::tool
 
 #endif

@@ -24,9 +24,9 @@ LiveText::LiveText(const QString& skeleton, const std::optional<QDateTime>& mome
     }
     m_settled.setSingleShot(true);
     m_settled.setInterval(turnOfTheLibrary);
-    connect(&m_observer, SIGNAL(changed()), &m_settled, SLOT(start()));
-    connect(&m_settled, SIGNAL(timeout()), this, SLOT(write()));
-    connect(&m_interrupted, SIGNAL(activated(int)), &m_loop, SLOT(quit()));
+    requireConnection(connect(&m_observer, SIGNAL(changed()), &m_settled, SLOT(start())));
+    requireConnection(connect(&m_settled, SIGNAL(timeout()), this, SLOT(write())));
+    requireConnection(connect(&m_interrupted, SIGNAL(activated(int)), &m_loop, SLOT(quit())));
 }
 
 void LiveText::run()

@@ -2,6 +2,7 @@
 
 #include "settings/SettingListener.h"
 
+#include "bridge/Diagnostic.h"
 #include "settings/PpsManager.h"
 #include <QtCore/QTimer>
 #include <zel/PpsObject.h>
@@ -24,8 +25,11 @@ SettingListener::SettingListener(PpsManager* manager)
     : m_manager(manager),
       m_source(std::make_unique<Source>(QString::fromLatin1(manager->path())))
 {
-    connect(manager, SIGNAL(changed()), this, SIGNAL(changed()), Qt::QueuedConnection);
-    connect(m_source.get(), SIGNAL(readyRead()), this, SLOT(onChange()));
+    constexpr const char* signature = "zel::utility::i18n::SettingListener::SettingListener(PpsManager*)";
+    Diagnostic::checkConnection(connect(manager, SIGNAL(changed()), this, SIGNAL(changed()), Qt::QueuedConnection),
+                                signature, "PpsManager::changed()");
+    Diagnostic::checkConnection(connect(m_source.get(), SIGNAL(readyRead()), this, SLOT(onChange())), signature,
+                                "zel::PpsObject::readyRead()");
     m_source->open(zel::PpsOpenMode::Subscribe);
 }
 
