@@ -17,6 +17,9 @@ public:
     /** An empty text is a Failure. */
     void write(const QDateTime& moment, const QString& text) const;
 
+    /** The same with the moment at which the text changes, which is invalid for a text that never does. */
+    void write(const QDateTime& moment, const QString& text, const QDateTime& until) const;
+
 private:
     Console& m_console;
     bool m_json;

@@ -45,7 +45,9 @@ ExitStatus FormatCommand::run(const Arguments& arguments, Console& console) cons
         throw Failure(QStringLiteral("no pattern for the skeleton ") + quoted(skeleton));
     }
     const Answers answers(console, arguments.json());
-    return moments.forEach(console, [&](const QDateTime& moment) { answers.write(moment, formatter.format(moment)); });
+    return moments.format(
+        console, [&](const QList<QDateTime>& list) { return formatter.formatAll(list); },
+        [&](const QDateTime& moment, const QString& text) { answers.write(moment, text); });
 }
 
 } // namespace zel::tool

@@ -21,17 +21,20 @@ ExitStatus LineReader::forEach(Console& console, const std::function<void(std::s
 {
     ExitStatus status = Worked;
     LineReader reader(console);
-    qlonglong number = 0;
     while (const auto line = reader.next()) {
-        ++number;
         try {
-            handler(withoutCarriageReturn(*line));
+            handler(*line);
         } catch (const Failure& failure) {
-            console.complain(QStringLiteral("line %1: ").arg(number) + failure.text());
+            complain(console, reader.number(), failure);
             status = NoAnswer;
         }
     }
     return status;
+}
+
+void LineReader::complain(Console& console, qlonglong number, const Failure& failure)
+{
+    console.complain(QStringLiteral("line %1: ").arg(number) + failure.text());
 }
 
 std::optional<std::string_view> LineReader::next()
@@ -49,7 +52,8 @@ std::optional<std::string_view> LineReader::next()
         }
         m_begin += complete ? end + 1 : text.size();
         if (!std::exchange(m_inLongLine, !complete)) {
-            return text.substr(0, std::min(end, longestLine));
+            ++m_number;
+            return withoutCarriageReturn(text.substr(0, std::min(end, longestLine)));
         }
     }
 }

@@ -21,15 +21,48 @@ Moments::Moments(const QStringList& words) : m_fromInput(words == QStringList(QS
     }
 }
 
-ExitStatus Moments::forEach(Console& console, const Handler& handler) const
+ExitStatus Moments::format(Console& console, const Formatter& formatter, const Writer& writer) const
 {
     if (m_fromInput) {
-        return LineReader::forEach(console, [&](std::string_view line) { handler(Moment::parse(line)); });
+        return formatLines(console, formatter, writer);
     }
-    for (const QDateTime& moment : m_moments) {
-        handler(moment);
+    const QStringList texts = formatter(m_moments);
+    for (int i = 0; i < m_moments.size(); ++i) {
+        writer(m_moments[i], texts[i]);
     }
     return Worked;
+}
+
+ExitStatus Moments::formatLines(Console& console, const Formatter& formatter, const Writer& writer)
+{
+    ExitStatus status = Worked;
+    LineReader reader(console);
+    QList<QDateTime> moments;
+    QList<qlonglong> lines;
+    const auto attempt = [&](qlonglong line, const auto& action) {
+        try {
+            action();
+        } catch (const Failure& failure) {
+            LineReader::complain(console, line, failure);
+            status = NoAnswer;
+        }
+    };
+    while (const auto line = reader.next()) {
+        attempt(reader.number(), [&] {
+            moments.append(Moment::parse(*line));
+            lines.append(reader.number());
+        });
+        if (reader.hasLine()) {
+            continue;
+        }
+        const QStringList texts = formatter(moments);
+        for (int i = 0; i < moments.size(); ++i) {
+            attempt(lines[i], [&] { writer(moments[i], texts[i]); });
+        }
+        moments.clear();
+        lines.clear();
+    }
+    return status;
 }
 
 } // namespace zel::tool

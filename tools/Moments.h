@@ -14,17 +14,21 @@ class Console;
 class Moments
 {
 public:
-    using Handler = std::function<void(const QDateTime&)>;
+    using Formatter = std::function<QStringList(const QList<QDateTime>&)>;
+    using Writer = std::function<void(const QDateTime&, const QString&)>;
 
     explicit Moments(const QStringList& words);
 
     /**
-     * Hands each moment to the handler. Words are all looked at before the first is handed over; a bad line is reported
-     * and passed over, and so is one for which the handler fails.
+     * Formats all moments and hands each text to the writer. Words are all looked at before the first is formatted;
+     * lines are formatted together as far as they are there already. A bad line is reported and passed over, and so is
+     * one for which the writer fails.
      */
-    ExitStatus forEach(Console& console, const Handler& handler) const;
+    ExitStatus format(Console& console, const Formatter& formatter, const Writer& writer) const;
 
 private:
+    static ExitStatus formatLines(Console& console, const Formatter& formatter, const Writer& writer);
+
     bool m_fromInput;
     QList<QDateTime> m_moments;
 };

@@ -19,6 +19,7 @@ namespace {
 using zel::utility::i18n::RelativeDateFormatter;
 namespace ClockFormat = zel::utility::i18n::ClockFormat;
 namespace RelativeDateFormat = zel::utility::i18n::RelativeDateFormat;
+namespace RelativeDateWording = zel::utility::i18n::RelativeDateWording;
 
 const QMap<QString, int>& types()
 {
@@ -37,6 +38,13 @@ const QMap<QString, int>& clocks()
     return clocks;
 }
 
+const QMap<QString, int>& wordings()
+{
+    static const QMap<QString, int> wordings = {{QStringLiteral("exact"), RelativeDateWording::Exact},
+                                                {QStringLiteral("natural"), RelativeDateWording::Natural}};
+    return wordings;
+}
+
 /** A formatter as the options ask for it. */
 class Formatters
 {
@@ -44,6 +52,8 @@ public:
     Formatters(const Arguments& arguments, const QDateTime& defaultAnchor)
         : m_clock(static_cast<ClockFormat::Type>(
               arguments.choice(QStringLiteral("clock"), clocks(), ClockFormat::ApplyUserFormat))),
+          m_wording(static_cast<RelativeDateWording::Type>(
+              arguments.choice(QStringLiteral("wording"), wordings(), RelativeDateWording::Exact))),
           m_anchor(arguments.moment(QStringLiteral("anchor"), defaultAnchor))
     {
     }
@@ -55,12 +65,14 @@ public:
         auto formatter = std::make_unique<RelativeDateFormatter>(static_cast<RelativeDateFormat::Type>(type));
         formatter->setLocale(locale);
         formatter->setClockFormat(m_clock);
+        formatter->setWording(m_wording);
         formatter->setAnchorTime(m_anchor);
         return formatter;
     }
 
 private:
     ClockFormat::Type m_clock;
+    RelativeDateWording::Type m_wording;
     QDateTime m_anchor;
 };
 
@@ -79,7 +91,16 @@ ExitStatus writeMoments(const Arguments& arguments, Console& console)
     const int type = typeOf(arguments);
     const auto formatter = formatters.make(type, arguments.locale().locale);
     const Answers answers(console, arguments.json());
-    return moments.forEach(console, [&](const QDateTime& moment) { answers.write(moment, formatter->format(moment)); });
+    const bool until = arguments.has(QStringLiteral("until"));
+    return moments.format(
+        console, [&](const QList<QDateTime>& list) { return formatter->formatAll(list); },
+        [&](const QDateTime& moment, const QString& text) {
+            if (until) {
+                answers.write(moment, text, formatter->validUntil(moment));
+            } else {
+                answers.write(moment, text);
+            }
+        });
 }
 
 /** The texts of one ladder: a column a locale, in the order of the rungs. */
@@ -212,6 +233,12 @@ QList<QCommandLineOption> RelativeCommand::options() const
             {QStringLiteral("locale"),
              QStringLiteral("A locale, instead of the region of the device; several with\n--table."),
              QStringLiteral("L")},
+            {QStringLiteral("wording"),
+             QStringLiteral("exact, or natural: \"now\" instead of \"in 0 minutes\", and near\ndays by name across "
+                            "the turn of the year (default: exact)."),
+             QStringLiteral("WORDING")},
+            {QStringLiteral("until"),
+             QStringLiteral("Append a tab and the anchor time at which the text changes,\nor \"never\".")},
             {QStringLiteral("table"), QStringLiteral("Show the whole ladder.")}};
 }
 
