@@ -40,6 +40,7 @@ namespace {
 
 std::atomic<bool> noInstances{false};
 std::atomic<bool> noWatches{false};
+std::atomic<bool> noConnections{false};
 std::atomic<bool> coarseTimes{false};
 std::atomic<int> looksToTear{0}; // at the region, of which the last finds it torn
 constexpr std::size_t longestStep = 1024;
@@ -81,6 +82,20 @@ extern "C" Q_DECL_EXPORT int inotify_add_watch(int fd, const char* name, uint32_
     static const auto add = systemFunction<int (*)(int, const char*, uint32_t)>("inotify_add_watch");
     errno = ENOSPC;
     return noWatches ? -1 : add(fd, name, mask);
+}
+
+// Its mangled name, under which the library calls it.
+using Connect = QMetaObject::Connection (*)(const QObject*, const char*, const QObject*, const char*,
+                                            Qt::ConnectionType);
+constexpr const char connectName[] = "_ZN7QObject7connectEPKS_PKcS1_S3_N2Qt14ConnectionTypeE";
+Q_DECL_EXPORT QMetaObject::Connection
+tryToConnect(const QObject* sender, const char* signal, const QObject* receiver, const char* member,
+             Qt::ConnectionType type) asm("_ZN7QObject7connectEPKS_PKcS1_S3_N2Qt14ConnectionTypeE");
+QMetaObject::Connection tryToConnect(const QObject* sender, const char* signal, const QObject* receiver,
+                                     const char* member, Qt::ConnectionType type)
+{
+    static const auto connectAll = systemFunction<Connect>(connectName);
+    return noConnections ? QMetaObject::Connection() : connectAll(sender, signal, receiver, member, type);
 }
 
 // A file system whose times have no fractions of a second.
@@ -388,6 +403,7 @@ private Q_SLOTS:
     void followsCoarseTimes();
     void tellsWhatWasTornMeanwhile();
     void followsMount();
+    void readsOnceWithoutConnection();
     void seesNoTornValue();
     void answersWithIcuDataDamaged_data();
     void answersWithIcuDataDamaged();
@@ -535,6 +551,23 @@ void FaultsTest::followsMount()
         QSKIP("Only root can mount.");
     }
     QCOMPARE(result, 0);
+}
+
+void FaultsTest::readsOnceWithoutConnection()
+{
+    const SettingsRoot root;
+    QVERIFY(root.setClock("12"));
+    MessageLog log;
+    noConnections = true;
+    const PpsManager manager("/pps/system/settings", "@settings", "hourFormat", nullptr);
+    noConnections = false;
+    QCOMPARE(log.take(),
+             {QStringLiteral("critical: zel::utility::i18n::PpsManager::PpsManager(const char*, const char*, "
+                             "const char*, QObject*) failed to connect to PPS channel for "
+                             "/pps/system/settings ")});
+    QCOMPARE(manager.value(), QVariant(12));
+    const auto* const object = manager.findChild<zel::PpsObject*>();
+    QVERIFY(object != nullptr && object->children().isEmpty()); // nothing watches it
 }
 
 void FaultsTest::seesNoTornValue()

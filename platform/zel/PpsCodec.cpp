@@ -163,7 +163,6 @@ QByteArray encodeValue(const QVariant& value)
 
 QVariantMap PpsCodec::decode(const QByteArray& contents, QString& error)
 {
-    error.clear();
     if (contents.size() > PpsObject::maximumSize) {
         error = QStringLiteral("larger than %1 bytes").arg(PpsObject::maximumSize);
         return {};
@@ -189,7 +188,6 @@ QVariantMap PpsCodec::decode(const QByteArray& contents, QString& error)
 
 QByteArray PpsCodec::encode(const QVariantMap& record, QString& error)
 {
-    error.clear();
     if (record.size() != 1) {
         error = QStringLiteral("not exactly one object");
         return {};

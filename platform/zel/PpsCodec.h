@@ -7,7 +7,7 @@
 
 namespace zel {
 
-/** The text form of a settings object. An empty error means that it worked. */
+/** The text form of a settings object. The error, empty before, stays empty if it worked. */
 class PpsCodec
 {
 public:

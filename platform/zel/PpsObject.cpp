@@ -48,6 +48,7 @@ public:
     const QString file;
     const QByteArray encodedFile;
     QFlags<PpsOpenMode::Type> mode;
+    bool notifies = true;
     bool follows = false;   // opened for notification, even if that failed for the object's state
     PpsContents seen;       // what was last read or announced
     bool announced = false; // readyRead() is being emitted for what was seen
@@ -61,7 +62,7 @@ PpsObject::~PpsObject() = default;
 
 bool PpsObject::open(QFlags<PpsOpenMode::Type> mode)
 {
-    setReadyReadEnabled(false);
+    d->watcher.reset();
     d->mode = {};
     d->follows = false;
     d->announced = false;
@@ -74,7 +75,7 @@ bool PpsObject::open(QFlags<PpsOpenMode::Type> mode)
     }
     d->seen = PpsContents::read(d->encodedFile);
     d->follows = mode.testFlag(PpsOpenMode::Subscribe);
-    setReadyReadEnabled(true);
+    setReadyReadEnabled(d->notifies);
     if (d->seen.permanent) {
         return fail(d->seen.error);
     }
@@ -84,6 +85,7 @@ bool PpsObject::open(QFlags<PpsOpenMode::Type> mode)
 
 void PpsObject::setReadyReadEnabled(bool enabled)
 {
+    d->notifies = enabled;
     if (!enabled) {
         d->watcher.reset();
     } else if (!d->watcher && d->follows) {

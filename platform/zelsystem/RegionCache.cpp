@@ -14,7 +14,7 @@ namespace {
 
 constexpr const char* objectPath = "/pps/system/locale";
 
-// As the C library chooses the locale for times.
+// As the C library chooses the locale for times; empty for its own.
 const char* posixLocaleName()
 {
     for (const char* const variable : {"LC_ALL", "LC_TIME", "LANG"}) {
@@ -23,7 +23,7 @@ const char* posixLocaleName()
             return name;
         }
     }
-    return "C";
+    return "";
 }
 
 // A value as a message shows it: on one line, and not too much of it.
@@ -54,9 +54,9 @@ Reading readRegion()
 {
     Reading reading;
     PpsObject& object = *reading.object;
-    bool ok = object.open(PpsOpenMode::Subscribe);
     // Asked, not listened to: the thread of the caller may be gone the next time.
     object.setReadyReadEnabled(false);
+    bool ok = object.open(PpsOpenMode::Subscribe);
     reading.contents = ok ? object.read(&ok) : QByteArray();
     if (!ok) {
         reading.error = object.exists() ? object.errorString() : QString();
@@ -100,22 +100,25 @@ bool RegionCache::refresh()
             return true;
         }
     }
-    Region next;
+    QString message;
     bool isOther = false;
+    bool isTorn = false;
     {
         const std::lock_guard lock(m_mutex);
-        next = m_region.next();
+        Region next = m_region.next();
+        message.swap(next.message);
         isOther = next.locale != m_region.locale;
-        m_region = next;
+        isTorn = next.isTorn;
+        m_region = std::move(next);
     }
     // Outside the lock: the message handler may well ask for the region itself, to write the time.
-    if (!next.message.isEmpty()) {
-        qWarning("zel::system::LocaleHandler: %s", qUtf8Printable(next.message));
+    if (!message.isEmpty()) {
+        qWarning("zel::system::LocaleHandler: %s", qUtf8Printable(message));
     }
     if (isOther) {
         Q_EMIT changed();
     }
-    return !next.isTorn;
+    return !isTorn;
 }
 
 bool RegionCache::Region::isCurrent() const

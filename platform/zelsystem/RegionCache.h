@@ -60,7 +60,7 @@ private:
     };
 
     std::shared_mutex m_mutex;
-    Region m_region;
+    Region m_region; // what it holds is copied and destroyed under the lock only
 };
 
 } // namespace zel::system

@@ -60,7 +60,7 @@ public:
      */
     bool open(QFlags<PpsOpenMode::Type> mode);
 
-    /** Stops readyRead(), or starts it again; what changed in between is notified then. */
+    /** Stops readyRead(), before open() or after, or starts it again; what changed in between is notified then. */
     void setReadyReadEnabled(bool enabled);
 
     /**
