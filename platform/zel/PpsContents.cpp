@@ -56,7 +56,9 @@ PpsContents PpsContents::read(const QByteArray& file)
         return contents;
     }
     QFile opened;
-    opened.open(descriptor, QIODevice::ReadOnly | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle);
+    // What cannot be opened cannot be read either, and says why then.
+    static_cast<void>(
+        opened.open(descriptor, QIODevice::ReadOnly | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle));
     contents.stamp = FileStamp(descriptor);
     contents.settled = !contents.stamp.isFresh();
     readRegular(opened, contents);

@@ -227,7 +227,7 @@ PhraseTables::Chain PhraseTables::makeChain(const std::string& locale, std::stri
         const bool isNamed = !chain.empty() && note(*chain.back(), "%%Parent") == name;
         const std::string problem = bundle != nullptr ? problemOfNotes(*bundle) : isNamed ? "no such parent" : "";
         if (!problem.empty()) {
-            error = name + ": " + problem;
+            error.assign(name).append(": ").append(problem);
             return {};
         }
         if (const auto other = bundle != nullptr ? note(*bundle, "%%ALIAS") : std::nullopt) {
