@@ -93,13 +93,20 @@ public:
     }
     void stop() { m_daemon->stop(); }
 
-    /** A program of the "new", "old" or "starting" kind answers as the portal with a value. */
+    /** A program of the "new" or "old" kind answers as the portal, or the bus can start one: "starting", "activated".
+     */
     bool startPortal(const QString& kind, const QString& value)
     {
-        if (kind == QLatin1String("starting")) {
+        if (kind == QLatin1String("starting") || kind == QLatin1String("activated")) {
+            QString program = QStringLiteral("/bin/sleep 3");
+            if (kind == QLatin1String("activated")) {
+                program =
+                    QStringLiteral("/bin/sh -c 'sleep 5 | %1 new %2'").arg(QStringLiteral(ZEL_FAKE_PORTAL), value);
+            }
             QFile file(m_directory.filePath(QStringLiteral("portal.service")));
             return file.open(QIODevice::WriteOnly) &&
-                   file.write("[D-BUS Service]\nName=org.freedesktop.portal.Desktop\nExec=/bin/sleep 3\n") > 0;
+                   file.write("[D-BUS Service]\nName=org.freedesktop.portal.Desktop\nExec=" + program.toUtf8() + '\n') >
+                       0;
         }
         m_portal = std::make_unique<Child>(QStringLiteral(ZEL_FAKE_PORTAL), QStringList{kind, value});
         return m_portal->line() == QLatin1String("ready");
@@ -272,6 +279,7 @@ void DesktopTest::watchFollows_data()
     };
     row("changes", "portal new 24h|watch=24|set 12h=12|set 24h=24|set 12h=12");
     row("the portal starts again", "portal new 12h|watch=12|stop portal=24|portal new 12h=12|set 24h=24");
+    row("the bus starts the portal", "portal new 12h|watch=12|portal activated 12h|stop portal=24|wait=12");
     row("the portal starts late", "watch=24|portal new 12h=12|set 24h=24");
     row("a late answer", "portal new late 12h|watch=24|wait=12");
     row("the older question", "portal old 12h|watch=12|set 24h=24|stop portal|portal old 12h=12");
@@ -329,6 +337,8 @@ void DesktopTest::followsOnEveryThread()
     bus.portal().write(QStringLiteral("12h"));
     QVERIFY(thread->wait()); // without an event loop here
     QCOMPARE(text, afternoon);
+    bus.portal().write(QStringLiteral("24h"));
+    QTRY_COMPARE(ClockSetting::clockFormat(), ClockFormat::Use24hourClock); // with one, and without a formatter
 }
 
 void DesktopTest::watchFollowsTheTimeZone()

@@ -25,7 +25,7 @@ QByteArray socketOf(const QString& address)
         return {};
     }
     for (const QString& part : first.mid(5).split(QLatin1Char(','))) {
-        const QByteArray value = QByteArray::fromPercentEncoding(part.section(QLatin1Char('='), 1).toUtf8());
+        QByteArray value = QByteArray::fromPercentEncoding(part.section(QLatin1Char('='), 1).toUtf8());
         if (part.startsWith(QLatin1String("path="))) {
             return value;
         }
@@ -40,7 +40,7 @@ QByteArray socketOf(const QString& address)
 
 QString BusProbe::sessionAddress()
 {
-    const QString address = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
+    QString address = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
     if (!address.isEmpty()) {
         return address;
     }

@@ -40,7 +40,7 @@ QString linkedId(QString path)
 
 QString idOf(const QByteArray& variable, const QString& link)
 {
-    const QString id = variable.isEmpty() ? linkedId(link) : withoutDirectory(QFile::decodeName(variable));
+    QString id = variable.isEmpty() ? linkedId(link) : withoutDirectory(QFile::decodeName(variable));
     const std::unique_ptr<icu::TimeZone> zone(icu::TimeZone::createTimeZone(String::toICU(id)));
     if (isKnown(*zone)) {
         return id;
