@@ -393,6 +393,7 @@ void TestIcuData::initTestCase()
 {
     QVERIFY2(isDataDirectoryInUse(), "run without ICU_DATA");
     QVERIFY(hasPhraseTables());
+    QVERIFY(phrasePackage() == nullptr);
     const StockData stockData;
     std::string error;
     m_pool = stock("pool");

@@ -434,7 +434,7 @@ void ToolTest::writersWaitForEachOther()
     QVERIFY(root.setClock("12"));
     const QByteArray directory = QFile::encodeName(root.file(QStringLiteral("/pps/system")));
     const int lock = ::open(directory.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    QCOMPARE(::flock(lock, LOCK_EX), 0);
+    QCOMPARE(::flock(lock, LOCK_SH), 0);
     Running set("device|set|hour-format=24");
     QVERIFY(!set.process().waitForFinished(300));
     QVERIFY(root.write(settings, "@settings\nringer::loud\n"));
@@ -451,6 +451,9 @@ void ToolTest::valuesAreNoCommandsToTerminals()
     const QString value = QStringLiteral("de?[2J?DE?");
     QVERIFY(run("device").output.endsWith(value + QLatin1Char('\n')));
     QVERIFY(run("doctor").output.contains(QLatin1String("region           ") + value + QLatin1String(", from ")));
+    QVERIFY(root.write(QStringLiteral("/\x1b"), "no directory"));
+    qputenv("ZEL_PPS_ROOT", QFile::encodeName(root.file(QStringLiteral("/\x1b"))));
+    expectRefusal("device|get|region", root.file(QStringLiteral("/?/pps/system/locale: Not a directory")));
 }
 
 void ToolTest::machineThatIsNoDevice()
