@@ -339,6 +339,9 @@ void ToolTest::ladderHasEverySlot()
 void ToolTest::columnsStandBelowEachOther()
 {
     const SettingsRoot root;
+    qputenv("TZ", "Asia/Tokyo"); // of the process: a device without a time zone has GMT
+    QVERIFY(run("formats|--json|--device|region=de_DE").output.contains(QLatin1String("+00:00")));
+    qputenv("TZ", "UTC");
     const QStringList formats =
         run("formats|--locale|ja_JP|--at|2012-05-16T15:30|--device|hour-format=24").output.split(QLatin1Char('\n'));
     QCOMPARE(formats.at(0), QStringLiteral("ja_JP  Japanese (Japan)"));
