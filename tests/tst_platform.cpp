@@ -334,8 +334,10 @@ void PlatformTest::notifies_data()
     };
     row("linked object rewritten", createLinked,
         [](const SettingsRoot& root) { root.rewrite(QStringLiteral("/one/locale"), object("fr_FR")); });
-    row("linked object replaced", createLinked,
-        [](const SettingsRoot& root) { root.write(QStringLiteral("/one/locale"), object("fr_FR")); });
+    row("linked object replaced", createLinked, [](const SettingsRoot& root) {
+        std::rename(QFile::encodeName(root.file(QStringLiteral("/two/locale"))).constData(),
+                    QFile::encodeName(root.file(QStringLiteral("/one/locale"))).constData());
+    });
     row("linked directory replaced", createLinked, [](const SettingsRoot& root) {
         removeDirectory(root, "/one");
         root.write(QStringLiteral("/one/locale"), object("fr_FR"));
@@ -614,6 +616,11 @@ void PlatformTest::keepsRelativeRoot()
     QVERIFY(root.setRegion("fr_FR"));
     QCOMPARE(region().name(), QStringLiteral("fr_FR"));
     QCOMPARE(PpsObject::filePath(path), root.file(path));
+
+    const SettingsRoot other;
+    QVERIFY(other.write(path, "garbage"));
+    MessageLog log;
+    QCOMPARE(region().name(), QStringLiteral("nl_BE"));
 }
 
 void PlatformTest::doesNotReadAgain()

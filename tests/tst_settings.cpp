@@ -51,6 +51,7 @@ private Q_SLOTS:
     void objectThatCannotBeOpened();
     void clockAnswersTwelveOrTwentyFour_data();
     void clockAnswersTwelveOrTwentyFour();
+    void brokenClockIsReportedOnce();
     void manyClocksShareOneReader();
     void timeZoneIsTakenAsItStands();
     void regionFollowsTheDeviceWithoutAnEventLoop();
@@ -187,6 +188,24 @@ void SettingsTest::clockAnswersTwelveOrTwentyFour()
     const QString complaint = QStringLiteral(
         "critical: zel::utility::i18n::ClockSetting::onPpsUpdate encountered unknown ClockFormat in PPS ");
     QCOMPARE(log.take(), known ? QStringList() : QStringList({complaint, complaint}));
+}
+
+// By queries: no event loop runs meanwhile.
+void SettingsTest::brokenClockIsReportedOnce()
+{
+    const QString settings = QStringLiteral("/pps/system/settings");
+    QVERIFY(m_root.setClock("24"));
+    QCOMPARE(ClockSetting::clockFormat(), ClockFormat::Use24hourClock);
+    MessageLog log;
+    QVERIFY(m_root.rewrite(settings, "@sett"));
+    QCOMPARE(ClockSetting::clockFormat(), ClockFormat::Use24hourClock);
+    QCOMPARE(log.take(), QStringList()); // it may be half written
+    QTest::qSleep(50);
+    QCOMPARE(ClockSetting::clockFormat(), ClockFormat::Use24hourClock);
+    QVERIFY(m_root.rewrite(settings, "@sett"));
+    QTest::qSleep(50);
+    ClockSetting::clockFormat();
+    QCOMPARE(log.take(), {QString::fromLatin1(failedToDecode).replace(object, settings)});
 }
 
 void SettingsTest::manyClocksShareOneReader()

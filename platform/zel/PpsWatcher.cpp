@@ -1,6 +1,5 @@
 #include "PpsWatcher.h"
 
-#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <climits>
@@ -104,10 +103,6 @@ bool PpsWatcher::watchTrail()
     while (!names.isEmpty() && links <= mostLinks) {
         const QByteArray name = names.takeFirst();
         if (name.isEmpty() || name == ".") {
-            continue;
-        }
-        if (name == "..") {
-            directory.truncate(std::max<int>(1, static_cast<int>(directory.lastIndexOf('/'))));
             continue;
         }
         isComplete = add(directory, name) && isComplete;
