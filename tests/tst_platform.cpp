@@ -60,6 +60,17 @@ struct Watched
     QSignalSpy spy{&object, SIGNAL(readyRead())};
 };
 
+// The watches that the process has with inotify.
+int watches()
+{
+    int count = 0;
+    for (const QFileInfo& info : QDir(QStringLiteral("/proc/self/fdinfo")).entryInfoList(QDir::Files)) {
+        QFile file(info.filePath());
+        count += file.open(QIODevice::ReadOnly) ? static_cast<int>(file.readAll().count("inotify wd")) : 0;
+    }
+    return count;
+}
+
 QLocale region()
 {
     return LocaleHandler(Region).locale();
@@ -100,6 +111,7 @@ private Q_SLOTS:
     void notifiesAfterTornRead();
     void readsWhatWasAnnounced();
     void stopsNotifying();
+    void leavesNoWatch();
 
     void takesRegion_data();
     void takesRegion();
@@ -440,6 +452,15 @@ void PlatformTest::stopsNotifying()
     QTRY_COMPARE(watched.spy.count(), 2);
 }
 
+void PlatformTest::leavesNoWatch()
+{
+    {
+        const Watched watched;
+        QVERIFY(watches() > 0);
+    }
+    QCOMPARE(watches(), 0);
+}
+
 void PlatformTest::takesRegion_data()
 {
     QTest::addColumn<QByteArray>("contents");
@@ -617,6 +638,8 @@ void PlatformTest::keepsRelativeRoot()
     QCOMPARE(region().name(), QStringLiteral("fr_FR"));
     QCOMPARE(PpsObject::filePath(path), root.file(path));
 
+    QTest::qSleep(30); // it is not read again for its own sake
+    region();
     const SettingsRoot other;
     QVERIFY(other.write(path, "garbage"));
     MessageLog log;
