@@ -11,5 +11,5 @@ extern "C" Q_DECL_EXPORT void relativeTexts(const QLocale& locale, QStringList& 
     formatter.setAnchorTime(anchor);
     formatter.setLocale(locale);
     formatter.setClockFormat(ClockFormat::Use24hourClock);
-    texts = {formatter.format(anchor.addSecs(-10800)), formatter.format(anchor.addDays(-1))};
+    texts = QStringList{formatter.format(anchor.addSecs(-10800)), formatter.format(anchor.addDays(-1))};
 }

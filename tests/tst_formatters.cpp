@@ -1,16 +1,15 @@
 // The two formatter classes as an application sees them. Expectations hold for ICU 72.
 
-#include "bridge/String.h"
 #include "formatters/CustomDateFormatter_p.h"
 #include "settings/ClockSetting.h"
 #include "settings/TimeZoneSetting.h"
 #include "support/MessageLog.h"
 #include "support/SettingsRoot.h"
+#include "support/ZoneName.h"
 #include <QtCore/QMetaMethod>
 #include <QtCore/QMetaProperty>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
-#include <unicode/smpdtfmt.h>
 #include <zel/utility/i18n/CustomDateFormatter.h>
 #include <zel/utility/i18n/RelativeDateFormatter.h>
 
@@ -36,16 +35,6 @@ QStringList methodsOf(const QMetaObject& meta)
                                 QString::fromLatin1(method.methodSignature()), method.typeName()));
     }
     return methods;
-}
-
-/** How ICU names a zone at a moment, which differs from version to version. */
-QString zoneName(const QByteArray& zone, const QDateTime& moment)
-{
-    UErrorCode status = U_ZERO_ERROR;
-    icu::SimpleDateFormat format(u"z", icu::Locale::getUS(), status);
-    format.adoptTimeZone(icu::TimeZone::createTimeZone(zone.constData()));
-    icu::UnicodeString name;
-    return String::toQt(format.format(static_cast<UDate>(moment.toMSecsSinceEpoch()), name));
 }
 
 } // namespace
@@ -228,8 +217,9 @@ void FormattersTest::zonesShowTheInstant()
     const CustomDateFormatter formatter("hmz");
     const QDateTime instant = at("2012-03-25T00:30:00Z");
     for (const QDateTime& moment : {instant, instant.toLocalTime(), instant.toOffsetFromUtc(-7200)}) {
-        QCOMPARE(formatter.format(moment), before + zoneName(zone, moment));
-        QCOMPARE(formatter.format(moment.addSecs(3600)), after + zoneName(zone, moment.addSecs(3600)));
+        QCOMPARE(formatter.format(moment), before + zoneName(zone, moment, icu::Locale::getUS()));
+        QCOMPARE(formatter.format(moment.addSecs(3600)),
+                 after + zoneName(zone, moment.addSecs(3600), icu::Locale::getUS()));
     }
     QCOMPARE(CustomDateFormatter("hm").format(instant), QStringLiteral("00:30"));
 }

@@ -14,6 +14,8 @@
 
 using namespace zel::utility::i18n;
 
+Q_DECLARE_METATYPE(RelativeDateWording::Type)
+
 namespace {
 
 constexpr qint64 minute = 60'000;
