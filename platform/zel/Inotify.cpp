@@ -78,7 +78,9 @@ void Inotify::attach()
 std::unique_ptr<QSocketNotifier> Inotify::listenTo(int descriptor, QSocketNotifier::Type type, const char* slot)
 {
     auto notifier = std::make_unique<QSocketNotifier>(descriptor, type);
-    connect(notifier.get(), SIGNAL(activated(int)), this, slot, Qt::DirectConnection);
+    if (!connect(notifier.get(), SIGNAL(activated(int)), this, slot, Qt::DirectConnection)) {
+        qCritical("zel::PpsObject cannot hear of changed files");
+    }
     return notifier;
 }
 

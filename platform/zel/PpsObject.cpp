@@ -90,7 +90,9 @@ void PpsObject::setReadyReadEnabled(bool enabled)
         d->watcher.reset();
     } else if (!d->watcher && d->follows) {
         d->watcher = std::make_unique<PpsWatcher>(d->encodedFile, this);
-        connect(d->watcher.get(), SIGNAL(settled()), this, SLOT(onSettled()));
+        if (!connect(d->watcher.get(), SIGNAL(settled()), this, SLOT(onSettled()))) {
+            qCritical("zel::PpsObject cannot report changes of %s", d->encodedFile.constData());
+        }
     }
 }
 

@@ -36,12 +36,15 @@ void LocaleHandler::startWatching()
         return;
     }
     m_object = std::make_unique<PpsObject>(QStringLiteral("/pps/system/locale"), this);
-    connect(m_object.get(), SIGNAL(readyRead()), this, SLOT(onObjectChanged()));
+    bool isConnected = connect(m_object.get(), SIGNAL(readyRead()), this, SLOT(onObjectChanged()));
     m_object->open(PpsOpenMode::Subscribe);
     RegionCache& cache = RegionCache::instance();
     cache.refresh();
     // Of the cache, not of the object: whoever reads a change first, all hear of it. Queued, as it may be in a query.
-    connect(&cache, SIGNAL(changed()), this, SIGNAL(changed()), Qt::QueuedConnection);
+    isConnected = connect(&cache, SIGNAL(changed()), this, SIGNAL(changed()), Qt::QueuedConnection) && isConnected;
+    if (!isConnected) {
+        qCritical("zel::system::LocaleHandler cannot report changes of the region");
+    }
 }
 
 void LocaleHandler::onObjectChanged()
