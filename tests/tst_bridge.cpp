@@ -4,6 +4,7 @@
 #include "bridge/Locale.h"
 #include "bridge/String.h"
 #include "support/MessageLog.h"
+#include "support/Rows.h"
 #include <QtCore/QDateTime>
 #include <QtTest/QTest>
 
@@ -38,13 +39,13 @@ private Q_SLOTS:
 
 void BridgeTest::textKeepsItsCodeUnits_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::newRow("plain") << QStringLiteral("5 minutes");
-    QTest::newRow("empty") << QStringLiteral("");
-    QTest::newRow("outside the first plane") << QString::fromUtf8("\U0001D7D8 \U0001F552");
-    QTest::newRow("starts with a byte order mark") << QString::fromUtf8("\uFEFFh");
-    QTest::newRow("half a surrogate pair") << QString(QChar(0xD835));
-    QTest::newRow("holds a NUL") << QString::fromLatin1("a\0b", 3);
+    const NamedRow<QString> row("text");
+    row("plain", "5 minutes");
+    row("empty", "");
+    row("outside the first plane", "\U0001D7D8 \U0001F552");
+    row("starts with a byte order mark", "\uFEFFh");
+    row("half a surrogate pair", QString(QChar(0xD835)));
+    row("holds a NUL", QString::fromLatin1("a\0b", 3));
 }
 
 void BridgeTest::textKeepsItsCodeUnits()
@@ -67,23 +68,19 @@ void BridgeTest::missingTextStaysMissing()
 
 void BridgeTest::findsLettersOutsideQuotes_data()
 {
-    QTest::addColumn<QString>("format");
-    QTest::addColumn<QChar>("letter");
-    QTest::addColumn<int>("from");
-    QTest::addColumn<bool>("anyCase");
-    QTest::addColumn<int>("position");
+    const NamedRow<QString, QChar, int, bool, int> row("format", "letter", "from", "anyCase", "position");
     const QString quoted = QStringLiteral("h 'h' h");
     const QString doubled = QStringLiteral("h 'o''h' h");
-    QTest::newRow("first") << quoted << QChar('h') << 0 << false << 0;
-    QTest::newRow("quoted one is passed over") << quoted << QChar('h') << 1 << false << 6;
-    QTest::newRow("doubled apostrophe keeps the side") << doubled << QChar('h') << 1 << false << 9;
-    QTest::newRow("starts inside quotes") << quoted << QChar('h') << 3 << false << 6;
-    QTest::newRow("only inside quotes") << QStringLiteral("'h' m") << QChar('h') << 0 << false << -1;
-    QTest::newRow("not at all") << quoted << QChar('s') << 0 << false << -1;
-    QTest::newRow("open quote") << QStringLiteral("m 'h") << QChar('h') << 0 << false << -1;
-    QTest::newRow("other case") << QStringLiteral("'H' H") << QChar('h') << 0 << true << 4;
-    QTest::newRow("case counts") << QStringLiteral("H") << QChar('h') << 0 << false << -1;
-    QTest::newRow("behind the end") << quoted << QChar('h') << 7 << false << -1;
+    row("first", quoted, QChar('h'), 0, false, 0);
+    row("quoted one is passed over", quoted, QChar('h'), 1, false, 6);
+    row("doubled apostrophe keeps the side", doubled, QChar('h'), 1, false, 9);
+    row("starts inside quotes", quoted, QChar('h'), 3, false, 6);
+    row("only inside quotes", "'h' m", QChar('h'), 0, false, -1);
+    row("not at all", quoted, QChar('s'), 0, false, -1);
+    row("open quote", "m 'h", QChar('h'), 0, false, -1);
+    row("other case", "'H' H", QChar('h'), 0, true, 4);
+    row("case counts", "H", QChar('h'), 0, false, -1);
+    row("behind the end", quoted, QChar('h'), 7, false, -1);
 }
 
 void BridgeTest::findsLettersOutsideQuotes()
@@ -98,11 +95,11 @@ void BridgeTest::findsLettersOutsideQuotes()
 
 void BridgeTest::territoryStays_data()
 {
-    QTest::addColumn<QString>("icuName");
-    QTest::newRow("ar_EG") << QStringLiteral("ar_EG@calendar=gregorian");
-    QTest::newRow("sr_Latn_RS") << QStringLiteral("sr_Latn_RS@calendar=gregorian");
-    QTest::newRow("es_419") << QStringLiteral("es_419@calendar=gregorian");
-    QTest::newRow("C") << QStringLiteral("en@calendar=gregorian");
+    const NamedRow<QString> row("icuName");
+    row("ar_EG", "ar_EG@calendar=gregorian");
+    row("sr_Latn_RS", "sr_Latn_RS@calendar=gregorian");
+    row("es_419", "es_419@calendar=gregorian");
+    row("C", "en@calendar=gregorian");
 }
 
 void BridgeTest::territoryStays()
@@ -113,12 +110,11 @@ void BridgeTest::territoryStays()
 
 void BridgeTest::fallbackWalksToTheBogusEnd_data()
 {
-    QTest::addColumn<QByteArray>("start");
-    QTest::addColumn<QByteArray>("chain");
-    QTest::newRow("keywords go first") << QByteArray("de_DE@calendar=gregorian") << QByteArray("de_DE de root end");
-    QTest::newRow("script and territory go together") << QByteArray("sr_Latn_RS") << QByteArray("sr root end");
-    QTest::newRow("variant too") << QByteArray("en_US_POSIX") << QByteArray("en root end");
-    QTest::newRow("root") << QByteArray("root") << QByteArray("end");
+    const NamedRow<QByteArray, QByteArray> row("start", "chain");
+    row("keywords go first", "de_DE@calendar=gregorian", "de_DE de root end");
+    row("script and territory go together", "sr_Latn_RS", "sr root end");
+    row("variant too", "en_US_POSIX", "en root end");
+    row("root", "root", "end");
 }
 
 void BridgeTest::fallbackWalksToTheBogusEnd()

@@ -6,6 +6,7 @@
 #include "settings/HostTimeZone.h"
 #include "settings/RegionNotifier.h"
 #include "support/MessageLog.h"
+#include "support/Rows.h"
 #include <cstdio>
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDeadlineTimer>
@@ -195,11 +196,7 @@ void DesktopTest::init()
 
 void DesktopTest::asksThePortal_data()
 {
-    QTest::addColumn<QString>("kind");
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<QByteArray>("region");
-    QTest::addColumn<int>("clock");
-    QTest::addColumn<QStringList>("messages");
+    addColumns<QString, QString, QByteArray, int, QStringList>("kind", "value", "region", "clock", "messages");
     const auto row = [](const char* name, const char* kind, const char* value, const char* region, int clock,
                         const QStringList& messages = {}) {
         QTest::newRow(name) << QString::fromLatin1(kind) << QString::fromLatin1(value) << QByteArray(region) << clock
@@ -239,13 +236,10 @@ void DesktopTest::asksThePortal()
 
 void DesktopTest::doesWithoutBus_data()
 {
-    QTest::addColumn<bool>("silent");
-    QTest::addColumn<QByteArray>("address");
-    QTest::addColumn<QString>("fault");
-    QTest::newRow("no bus") << false << QByteArray() << QStringLiteral("no session bus");
-    QTest::newRow("nobody there") << false << QByteArray("unix:path=/nowhere/bus")
-                                  << QStringLiteral("no session bus: No such file or directory");
-    QTest::newRow("a silent bus") << true << QByteArray() << QStringLiteral("the session bus does not answer");
+    const NamedRow<bool, QByteArray, QString> row("silent", "address", "fault");
+    row("no bus", false, {}, "no session bus");
+    row("nobody there", false, "unix:path=/nowhere/bus", "no session bus: No such file or directory");
+    row("a silent bus", true, {}, "the session bus does not answer");
 }
 
 void DesktopTest::doesWithoutBus()
@@ -372,13 +366,7 @@ void DesktopTest::watchFollowsTheTimeZone()
 
 void DesktopTest::regionOfTheEnvironment_data()
 {
-    QTest::addColumn<QByteArray>("all");
-    QTest::addColumn<QByteArray>("time");
-    QTest::addColumn<QByteArray>("lang");
-    QTest::addColumn<QLocale>("region");
-    const auto row = [](const char* all, const char* time, const char* lang, const QLocale& region) {
-        QTest::addRow("%s %s %s", all, time, lang) << QByteArray(all) << QByteArray(time) << QByteArray(lang) << region;
-    };
+    const Row<QByteArray, QByteArray, QByteArray, QLocale> row("all", "time", "lang", "region");
     row("de_DE", "fr_FR", "ja_JP", QLocale(QStringLiteral("de_DE")));
     row("", "fr_FR.UTF-8", "ja_JP", QLocale(QStringLiteral("fr_FR")));
     row("", "", "ja_JP.eucJP", QLocale(QStringLiteral("ja_JP")));

@@ -1,3 +1,4 @@
+#include "support/Rows.h"
 #include "support/SettingsRoot.h"
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QProcess>
@@ -68,9 +69,8 @@ private Q_SLOTS:
 
     void output_data()
     {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("console") << QStringList() << QStringLiteral(R"(Patterns of France
+        const NamedRow<QStringList, QString> row("arguments", "expected");
+        row("console", {}, R"(Patterns of France
   mercredi 16 mai 2012
   22:30
   16 mai 2012, 22:30:00
@@ -92,7 +92,7 @@ Relative dates
   in the user's region again: 5 minutes ago
   in days, as type 2: today
   as of now: today)");
-        QTest::newRow("threads") << QStringList() << QStringLiteral(R"(en_GB  100 dates  16 May 2012  5 minutes ago
+        row("threads", {}, R"(en_GB  100 dates  16 May 2012  5 minutes ago
 de_DE  100 dates  16 May 2012  vor 5 Minuten
 fr_FR  100 dates  16 May 2012  il y a 5 minutes
 pl_PL  100 dates  16 May 2012  5 minut temu
@@ -101,9 +101,9 @@ ja_JP  100 dates  16 May 2012  5 分前
 he_IL  100 dates  16 May 2012  לפני 5 דקות
 th_TH  100 dates  16 May 2012  5 นาทีที่ผ่านมา)");
         if (ZEL_HAS_QUICK) {
-            QTest::newRow("quick") << QStringList{QStringLiteral("--print"), QStringLiteral("2012-05-16T10:30")}
-                                   << QStringLiteral("5 minutes ago | 3 hours ago | yesterday 10:30\n"
-                                                     "today | today | yesterday");
+            row("quick", {QStringLiteral("--print"), QStringLiteral("2012-05-16T10:30")},
+                "5 minutes ago | 3 hours ago | yesterday 10:30\n"
+                "today | today | yesterday");
         }
     }
     void output()

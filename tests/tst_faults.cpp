@@ -2,6 +2,7 @@
 
 #include "settings/PpsManager.h"
 #include "support/MessageLog.h"
+#include "support/Rows.h"
 #include "support/SettingsRoot.h"
 #include <algorithm>
 #include <atomic>
@@ -411,8 +412,7 @@ private Q_SLOTS:
 
 void FaultsTest::followsThroughFault_data()
 {
-    QTest::addColumn<Fault>("fault");
-    QTest::addColumn<QString>("reason");
+    addColumns<Fault, QString>("fault", "reason");
     const auto row = [](const char* name, const char* reason, Fault fault) {
         QTest::newRow(name) << fault << QString::fromLatin1(reason);
     };
@@ -452,9 +452,9 @@ void FaultsTest::followsThroughFault()
 
 void FaultsTest::followsWhatWasUnreadable_data()
 {
-    QTest::addColumn<QString>("unreadable");
-    QTest::newRow("object") << path;
-    QTest::newRow("directory") << QStringLiteral("/pps");
+    const NamedRow<QString> row("unreadable");
+    row("object", path);
+    row("directory", "/pps");
 }
 
 void FaultsTest::followsWhatWasUnreadable()
@@ -514,9 +514,9 @@ void FaultsTest::tellsWhatWasTornMeanwhile()
 
 void FaultsTest::followsWithoutInotify_data()
 {
-    QTest::addColumn<bool>("hasInstances");
-    QTest::newRow("no instance left") << false;
-    QTest::newRow("no watch left") << true;
+    const NamedRow<bool> row("hasInstances");
+    row("no instance left", false);
+    row("no watch left", true);
 }
 
 void FaultsTest::followsWithoutInotify()
@@ -589,8 +589,7 @@ void FaultsTest::seesNoTornValue()
 
 void FaultsTest::answersWithIcuDataDamaged_data()
 {
-    QTest::addColumn<Damage>("damage");
-    QTest::addColumn<QString>("problem");
+    addColumns<Damage, QString>("damage", "problem");
     const auto row = [](const char* name, const char* problem, Damage damage) {
         QTest::newRow(name) << damage << QString::fromLatin1(problem);
     };

@@ -4,6 +4,7 @@
 #include "settings/ClockSetting.h"
 #include "settings/TimeZoneSetting.h"
 #include "support/MessageLog.h"
+#include "support/Rows.h"
 #include "support/SettingsRoot.h"
 #include "support/ZoneName.h"
 #include <QtCore/QMetaMethod>
@@ -119,13 +120,7 @@ void FormattersTest::metaObjects()
 
 void FormattersTest::skeletons_data()
 {
-    QTest::addColumn<QString>("region");
-    QTest::addColumn<int>("clock");
-    QTest::addColumn<QString>("skeleton");
-    QTest::addColumn<QString>("text");
-    const auto row = [](const char* region, int clock, const char* skeleton, const char* text) {
-        QTest::addRow("%s %d %s", region, clock, skeleton) << region << clock << skeleton << QString::fromUtf8(text);
-    };
+    const Row<QString, int, QString, QString> row("region", "clock", "skeleton", "text");
     row("en_US", 12, "yMMMd", "May 16, 2012");
     row("en_US", 12, "Hm", "3:05\u202FPM");
     row("en_US", 24, "hm", "15:05");
@@ -194,13 +189,8 @@ void FormattersTest::regionIsFollowedWithoutAnEventLoop()
 
 void FormattersTest::zonesShowTheInstant_data()
 {
-    QTest::addColumn<QByteArray>("zone");
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<QString>("after");
+    const NamedRow<QByteArray, QString, QString> row("zone", "before", "after");
     // The hour before and the hour after summer time began in Europe.
-    const auto row = [](const char* name, const char* zone, const char* before, const char* after) {
-        QTest::newRow(name) << QByteArray(zone) << QString::fromLatin1(before) << QString::fromLatin1(after);
-    };
     row("Berlin", "Europe/Berlin", "01:30 ", "03:30 ");
     row("New York", "America/New_York", "20:30 ", "21:30 ");
     row("Kathmandu", "Asia/Kathmandu", "06:15 ", "07:15 ");
@@ -226,14 +216,7 @@ void FormattersTest::zonesShowTheInstant()
 
 void FormattersTest::ladder_data()
 {
-    QTest::addColumn<QString>("anchor");
-    QTest::addColumn<QString>("moment");
-    QTest::addColumn<QString>("timeCritical");
-    QTest::addColumn<QString>("nonTimeCritical");
-    const auto row = [](const char* anchor, const char* moment, const char* timeCritical, const char* nonTimeCritical) {
-        QTest::addRow("%s from %s", moment, anchor)
-            << anchor << moment << QString::fromUtf8(timeCritical) << QString::fromUtf8(nonTimeCritical);
-    };
+    const Row<QString, QString, QString, QString> row("anchor", "moment", "timeCritical", "nonTimeCritical");
     const char* const noon = "2012-05-16T12:00:00"; // a Wednesday
     row(noon, "2013-01-01T00:00:00", "January 2013", "January 2013");
     row(noon, "2012-12-31T23:59:59", "Dec 31", "Dec 31");
@@ -288,10 +271,8 @@ void FormattersTest::ladder()
 
 void FormattersTest::ladderSpeaksTheLocale_data()
 {
-    QTest::addColumn<QString>("locale");
-    QTest::addColumn<QStringList>("texts");
+    const Row<QString, QStringList> row("locale", "texts");
     // 5 minutes ago, in 3 hours, yesterday, tomorrow, two days ago, a week ago, last year
-    const auto row = [](const char* locale, const QStringList& texts) { QTest::newRow(locale) << locale << texts; };
     row("en", {"5 minutes ago", "in 3 hours", "yesterday 08:30", "tomorrow 19:00", "Mon 12:00", "May 9", "May 2011"});
     row("de", {"vor 5 Minuten", "in 3 Stunden", "gestern, 08:30", "morgen, 19:00", "Mo., 12:00", "9. Mai", "Mai 2011"});
     row("fr", {"il y a 5 minutes", "dans 3 heures", "hier 08:30", "demain 19:00", "lun. 12:00", "9 mai", "mai 2011"});
@@ -323,17 +304,8 @@ void FormattersTest::ladderSpeaksTheLocale()
 
 void FormattersTest::wording_data()
 {
-    QTest::addColumn<QString>("locale");
-    QTest::addColumn<RelativeDateFormat::Type>("type");
-    QTest::addColumn<QString>("anchor");
-    QTest::addColumn<QString>("moment");
-    QTest::addColumn<QString>("exact");
-    QTest::addColumn<QString>("natural");
-    const auto row = [](const char* locale, RelativeDateFormat::Type type, const char* anchor, const char* moment,
-                        const char* exact, const char* natural) {
-        QTest::addRow("%s %d %s from %s", locale, type, moment, anchor)
-            << locale << type << anchor << moment << QString::fromUtf8(exact) << QString::fromUtf8(natural);
-    };
+    const Row<QString, RelativeDateFormat::Type, QString, QString, QString, QString> row("locale", "type", "anchor",
+                                                                                         "moment", "exact", "natural");
     constexpr auto time = RelativeDateFormat::TimeCritical;
     constexpr auto day = RelativeDateFormat::NonTimeCritical;
     const char* const newYear = "2013-01-01T00:02:00";

@@ -3,6 +3,7 @@
 #include "ResourceBundleReader.h"
 #include "ResourceBundleWriter.h"
 #include "support/IcuBundles.h"
+#include "support/Rows.h"
 
 #include <zel/icu/DataDirectory.h>
 
@@ -500,11 +501,7 @@ void TestIcuData::aliasesAreFollowed()
 
 void TestIcuData::unknownDataIsReported_data()
 {
-    QTest::addColumn<QByteArray>("bundle");
-    QTest::addColumn<QByteArray>("problem");
-    const auto row = [](const char* bundle, const char* problem) {
-        QTest::newRow(problem) << QByteArray(bundle) << QByteArray(problem);
-    };
+    const Row<QByteArray, QByteArray> row("bundle", "problem");
     row(R"("%%Fallback" { "en" })", "de: unknown key %%Fallback");
     row(R"("%%Parent":int { 1 })", "de: %%Parent is not a text");
     row(R"("%%Parent" { "de_XY" })", "de_XY: no such parent");
@@ -552,8 +549,7 @@ void TestIcuData::additionsReplaceNothing()
 
 void TestIcuData::damageIsReported_data()
 {
-    QTest::addColumn<QByteArray>("file");
-    QTest::addColumn<QByteArray>("expected");
+    const NamedRow<QByteArray, QByteArray> row("file", "expected");
     const QByteArray sound = copyOf("de");
     const auto wordAt = [&sound](int word) {
         quint32 value = 0;
@@ -572,9 +568,6 @@ void TestIcuData::damageIsReported_data()
 
     const QByteArray noContainer = "a table or an array out of range";
     const QByteArray noResource = "a resource out of range";
-    const auto row = [](const char* name, const QByteArray& file, const QByteArray& expected) {
-        QTest::newRow(name) << file << expected;
-    };
     row("half a header", sound.left(20), "the file ends inside its header");
     row("magic", withByte(2, 0), "not an ICU data file");
     row("header size", withByte(0, 8), "the header's size is out of range");
@@ -644,8 +637,7 @@ void TestIcuData::environmentComesFirst()
 
 void TestIcuData::generatorMends_data()
 {
-    QTest::addColumn<Damage>("damage");
-    const auto row = [](const char* name, Damage damage) { QTest::newRow(name) << damage; };
+    const NamedRow<Damage> row("damage");
     row("nothing", [](const QDir&) {});
     row("bundle gone", [](const QDir& bundles) { QFile::remove(bundles.filePath(QStringLiteral("de.res"))); });
     row("bundle cut short", [](const QDir& bundles) { QFile::resize(bundles.filePath(QStringLiteral("fr.res")), 9); });

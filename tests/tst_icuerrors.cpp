@@ -8,6 +8,7 @@
 #include "settings/ClockSetting.h"
 #include "support/IcuFaults.h"
 #include "support/MessageLog.h"
+#include "support/Rows.h"
 #include "support/SettingsRoot.h"
 #include "support/ZoneName.h"
 #include <functional>
@@ -212,11 +213,8 @@ void IcuErrorsTest::initTestCase()
 
 void IcuErrorsTest::failures_data()
 {
-    QTest::addColumn<IcuFaults::Function>("function");
-    QTest::addColumn<QList<int>>("fates");
-    QTest::addColumn<Call>("call");
-    QTest::addColumn<QString>("result");
-    QTest::addColumn<QStringList>("messages");
+    addColumns<IcuFaults::Function, QList<int>, Call, QString, QStringList>("function", "fates", "call", "result",
+                                                                            "messages");
 
     const auto row = [](const char* name, IcuFaults::Function function, const QList<int>& fates, Call call,
                         const QString& result, const char* messages = nullptr) {
@@ -429,12 +427,11 @@ void IcuErrorsTest::listsFail()
 
 void IcuErrorsTest::handlersUseTheFormatter_data()
 {
-    QTest::addColumn<Call>("call");
-    QTest::addColumn<QString>("texts");
-    QTest::newRow("skeleton in format") << Call(otherSkeletonDuringFormat)
-                                        << "5/1/2012, " + zoneName({}, moment, icu::Locale::getUS()) + "|May 2012";
-    QTest::newRow("skeleton in an update") << Call(otherSkeletonDuringUpdate) << "May 2012";
-    QTest::newRow("type in format") << Call(otherTypeDuringFormat) << "5 minutes ago|yesterday";
+    const NamedRow<Call, QString> row("call", "texts");
+    row("skeleton in format", Call(otherSkeletonDuringFormat),
+        "5/1/2012, " + zoneName({}, moment, icu::Locale::getUS()) + "|May 2012");
+    row("skeleton in an update", Call(otherSkeletonDuringUpdate), "May 2012");
+    row("type in format", Call(otherTypeDuringFormat), "5 minutes ago|yesterday");
 }
 
 void IcuErrorsTest::handlersUseTheFormatter()

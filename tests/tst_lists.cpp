@@ -3,6 +3,7 @@
 #include "relative/RelativeDate.h"
 #include "relative/RelativeDistance.h"
 #include "support/MessageLog.h"
+#include "support/Rows.h"
 #include "support/SettingsRoot.h"
 #include <algorithm>
 #include <ctime>
@@ -201,8 +202,7 @@ void ListsTest::invalidFormatters()
 
 void ListsTest::textsHoldUntil_data()
 {
-    QTest::addColumn<RelativeDateFormat::Type>("type");
-    QTest::addColumn<RelativeDateWording::Type>("wording");
+    addColumns<RelativeDateFormat::Type, RelativeDateWording::Type>("type", "wording");
     for (const auto type : {RelativeDateFormat::TimeCritical, RelativeDateFormat::NonTimeCritical}) {
         for (const auto wording : {RelativeDateWording::Exact, RelativeDateWording::Natural}) {
             QTest::addRow("%d %d", type, wording) << type << wording;

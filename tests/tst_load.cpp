@@ -1,6 +1,7 @@
 // A million texts, and no more memory than ten thousand take.
 
 #include "support/MessageLog.h"
+#include "support/Rows.h"
 #include "support/SettingsRoot.h"
 #include <QtCore/QFile>
 #include <QtTest/QTest>
@@ -60,9 +61,9 @@ private:
 
 void LoadTest::staysFlat_data()
 {
-    QTest::addColumn<Write>("write");
-    QTest::newRow("CustomDateFormatter") << Write(writeCustom);
-    QTest::newRow("RelativeDateFormatter") << Write(writeRelative);
+    const NamedRow<Write> row("write");
+    row("CustomDateFormatter", Write(writeCustom));
+    row("RelativeDateFormatter", Write(writeRelative));
 }
 
 void LoadTest::staysFlat()

@@ -5,6 +5,7 @@
 #include "patterns/FormattingPrivate.h"
 #include "settings/ClockSetting.h"
 #include "support/MessageLog.h"
+#include "support/Rows.h"
 #include "support/SettingsRoot.h"
 #include <QtTest/QTest>
 #include <zel/utility/i18n/Formatting.h>
@@ -51,11 +52,7 @@ bool PatternsTest::setClock(int hours)
 
 void PatternsTest::translates_data()
 {
-    QTest::addColumn<QString>("icu");
-    QTest::addColumn<QString>("qt");
-    const auto row = [](const char* icu, const char* qt) {
-        QTest::newRow(*icu == '\0' ? "empty" : icu) << QString::fromUtf8(icu) << QString::fromUtf8(qt);
-    };
+    const Row<QString, QString> row("icu", "qt");
     row("", nullptr);
     row("y yy yyy yyyyy", "yyyy yy yyyy yyyy");
     row("M MM MMM MMMM MMMMM", "M MM MMM MMMM MMMM");
@@ -96,12 +93,7 @@ void PatternsTest::translates()
 
 void PatternsTest::dateFormats_data()
 {
-    QTest::addColumn<QString>("locale");
-    QTest::addColumn<int>("type");
-    QTest::addColumn<QString>("pattern");
-    const auto row = [](const char* locale, int type, const QString& pattern) {
-        QTest::addRow("%s %d", locale, type) << QString::fromLatin1(locale) << type << pattern;
-    };
+    const Row<QString, int, QString> row("locale", "type", "pattern");
     row("en_US", DateFormat::Short, QStringLiteral("M/d/yy"));
     row("en_US", DateFormat::Medium, QStringLiteral("MMM d, yyyy"));
     row("en_US", DateFormat::Long, QStringLiteral("MMMM d, yyyy"));
@@ -129,15 +121,7 @@ void PatternsTest::dateFormats()
 
 void PatternsTest::percentages_data()
 {
-    QTest::addColumn<QString>("locale");
-    QTest::addColumn<double>("value");
-    QTest::addColumn<int>("maximum");
-    QTest::addColumn<int>("minimum");
-    QTest::addColumn<QString>("text");
-    const auto row = [](const char* locale, double value, int maximum, int minimum, const char* text) {
-        QTest::addRow("%s %s", locale, text)
-            << QString::fromLatin1(locale) << value << maximum << minimum << QString::fromUtf8(text);
-    };
+    const Row<QString, double, int, int, QString> row("locale", "value", "maximum", "minimum", "text");
     row("en_US", 0.256, 1, 0, "25.6%");
     row("en_US", 0.256, 0, 0, "26%");
     row("en_US", 0.5, 2, 2, "50.00%");
@@ -161,12 +145,8 @@ void PatternsTest::percentages()
 
 void PatternsTest::timesFollowTheClock_data()
 {
-    QTest::addColumn<QString>("locale");
-    QTest::addColumn<int>("type");
-    QTest::addColumn<bool>("withDate");
-    QTest::addColumn<QString>("twelve");
-    QTest::addColumn<QString>("twentyFour");
-    QTest::addColumn<bool>("unsupported");
+    addColumns<QString, int, bool, QString, QString, bool>("locale", "type", "withDate", "twelve", "twentyFour",
+                                                           "unsupported");
     const auto row = [](const char* locale, DateFormat::Type type, bool withDate, const char* twelve,
                         const char* twentyFour, bool unsupported = false) {
         QTest::addRow("%s %d%s", locale, type, withDate ? " with date" : "")
@@ -217,14 +197,7 @@ void PatternsTest::timesFollowTheClock()
 
 void PatternsTest::amPmComesAndGoes_data()
 {
-    QTest::addColumn<QLocale::Language>("language");
-    QTest::addColumn<QString>("pattern");
-    QTest::addColumn<QString>("added");
-    QTest::addColumn<QString>("removed");
-    const auto row = [](QLocale::Language language, const char* pattern, const char* added, const char* removed) {
-        QTest::addRow("%d %s", language, pattern)
-            << language << QString::fromUtf8(pattern) << QString::fromUtf8(added) << QString::fromUtf8(removed);
-    };
+    const Row<QLocale::Language, QString, QString, QString> row("language", "pattern", "added", "removed");
     row(QLocale::German, "mm:ss", "mm:ss AP", "mm:ss");
     row(QLocale::German, "", " AP", "");
     row(QLocale::Japanese, "mm:ss", "mm:ss", "mm:ss");
@@ -267,13 +240,7 @@ void PatternsTest::regionIsTheDefault()
 
 void PatternsTest::clockRewritesSkeletons_data()
 {
-    QTest::addColumn<QString>("skeleton");
-    QTest::addColumn<int>("format");
-    QTest::addColumn<QString>("rewritten");
-    const auto row = [](const char* skeleton, int format, const char* rewritten) {
-        QTest::addRow("%s %d", skeleton, format)
-            << QString::fromLatin1(skeleton) << format << QString::fromLatin1(rewritten);
-    };
+    const Row<QString, int, QString> row("skeleton", "format", "rewritten");
     row("jmm", ClockFormat::Use12hourClock, "hmm");
     row("jmm", ClockFormat::Use24hourClock, "Hmm");
     row("jmm", ClockFormat::ApplyLocaleFormat, "jmm");

@@ -1,6 +1,7 @@
 // The stand-ins of the device platform: settings objects and the locale service, on real files.
 
 #include "support/MessageLog.h"
+#include "support/Rows.h"
 #include "support/SettingsRoot.h"
 #include <algorithm>
 #include <atomic>
@@ -127,26 +128,24 @@ private Q_SLOTS:
 
 void PlatformTest::decodes_data()
 {
-    QTest::addColumn<QByteArray>("value");
-    QTest::addColumn<QVariant>("expected");
-    QTest::newRow("text") << QByteArray(":de_DE") << QVariant(QStringLiteral("de_DE"));
-    QTest::newRow("empty text") << QByteArray(":") << QVariant(QString());
-    QTest::newRow("text with colons") << QByteArray(":a:b::c") << QVariant(QStringLiteral("a:b::c"));
-    QTest::newRow("escapes") << QByteArray(R"(:\\n\n\\)") << QVariant(QStringLiteral("\\n\n\\"));
-    QTest::newRow("carriage return") << QByteArray(":a\r") << QVariant(QStringLiteral("a\r"));
-    QTest::newRow("beyond the BMP") << QByteArray(":\xF0\x9F\x95\x91")
-                                    << QVariant(QString::fromUtf8("\xF0\x9F\x95\x91"));
-    QTest::newRow("byte order mark") << QByteArray(":\xEF\xBB\xBFx") << QVariant(QChar(0xFEFF) + QLatin1String("x"));
-    QTest::newRow("integer") << QByteArray("n:24") << QVariant(24);
-    QTest::newRow("negative") << QByteArray("n:-7") << QVariant(-7);
-    QTest::newRow("smallest int") << QByteArray("n:-2147483648") << QVariant(std::numeric_limits<int>::min());
-    QTest::newRow("past int") << QByteArray("n:2147483648") << QVariant(Q_INT64_C(2147483648));
-    QTest::newRow("past long") << QByteArray("n:9223372036854775808") << QVariant(9223372036854775808.0);
-    QTest::newRow("real") << QByteArray("n:0.1") << QVariant(0.1);
-    QTest::newRow("whole real") << QByteArray("n:24.0") << QVariant(24.0);
-    QTest::newRow("exponent") << QByteArray("n:1e300") << QVariant(1e300);
-    QTest::newRow("true") << QByteArray("b:true") << QVariant(true);
-    QTest::newRow("false") << QByteArray("b:false") << QVariant(false);
+    const NamedRow<QByteArray, QVariant> row("value", "expected");
+    row("text", ":de_DE", QStringLiteral("de_DE"));
+    row("empty text", ":", QString());
+    row("text with colons", ":a:b::c", QStringLiteral("a:b::c"));
+    row("escapes", R"(:\\n\n\\)", QStringLiteral("\\n\n\\"));
+    row("carriage return", ":a\r", QStringLiteral("a\r"));
+    row("beyond the BMP", ":\xF0\x9F\x95\x91", QString::fromUtf8("\xF0\x9F\x95\x91"));
+    row("byte order mark", ":\xEF\xBB\xBFx", QChar(0xFEFF) + QLatin1String("x"));
+    row("integer", "n:24", 24);
+    row("negative", "n:-7", -7);
+    row("smallest int", "n:-2147483648", std::numeric_limits<int>::min());
+    row("past int", "n:2147483648", Q_INT64_C(2147483648));
+    row("past long", "n:9223372036854775808", 9223372036854775808.0);
+    row("real", "n:0.1", 0.1);
+    row("whole real", "n:24.0", 24.0);
+    row("exponent", "n:1e300", 1e300);
+    row("true", "b:true", true);
+    row("false", "b:false", false);
 }
 
 void PlatformTest::decodes()
@@ -169,11 +168,7 @@ void PlatformTest::decodes()
 // What is not a text to be decoded is a record to be encoded.
 void PlatformTest::refuses_data()
 {
-    QTest::addColumn<QVariant>("refused");
-    QTest::addColumn<QString>("expected");
-    const auto row = [](const char* name, const QVariant& refused, const char* error) {
-        QTest::newRow(name) << refused << QString::fromLatin1(error);
-    };
+    const NamedRow<QVariant, QString> row("refused", "expected");
     row("empty", QByteArray(""), "line 1: no newline at the end");
     row("cut off", QByteArray("@o\na::b\nc::d"), "line 3: no newline at the end");
     row("no name", QByteArray("a::b\n"), "line 1: expected '@' and the name of the object");
@@ -255,11 +250,7 @@ void PlatformTest::writes()
 
 void PlatformTest::opens_data()
 {
-    QTest::addColumn<QString>("opened");
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<Action>("prepare");
-    QTest::addColumn<QString>("openError");
-    QTest::addColumn<QString>("readError");
+    addColumns<QString, int, Action, QString, QString>("opened", "mode", "prepare", "openError", "readError");
     const Action nothing = [](const SettingsRoot&) {};
     const auto row = [](const char* name, Action prepare, const char* openError, const char* readError) {
         QTest::newRow(name) << path << int(Subscribe) << prepare << QString::fromLatin1(openError)
@@ -313,9 +304,7 @@ void PlatformTest::opens()
 
 void PlatformTest::notifies_data()
 {
-    QTest::addColumn<Action>("prepare");
-    QTest::addColumn<Action>("change");
-    QTest::addColumn<int>("notifications");
+    addColumns<Action, Action, int>("prepare", "change", "notifications");
     const Action nothing = [](const SettingsRoot&) {};
     const Action create = [](const SettingsRoot& root) { root.write(path, object("de_DE")); };
     const auto row = [](const char* name, Action prepare, Action change, int notifications = 1) {
@@ -463,9 +452,7 @@ void PlatformTest::leavesNoWatch()
 
 void PlatformTest::takesRegion_data()
 {
-    QTest::addColumn<QByteArray>("contents");
-    QTest::addColumn<QString>("expected");
-    QTest::addColumn<QString>("reason");
+    addColumns<QByteArray, QString, QString>("contents", "expected", "reason");
     const auto accepted = [](const char* value, const char* expected) {
         QTest::newRow(value) << object(value) << QString::fromLatin1(expected) << QString();
     };
@@ -519,13 +506,7 @@ void PlatformTest::takesRegion()
 
 void PlatformTest::fallsBackToPosixLocale_data()
 {
-    QTest::addColumn<QByteArray>("all");
-    QTest::addColumn<QByteArray>("time");
-    QTest::addColumn<QByteArray>("language");
-    QTest::addColumn<QString>("expected");
-    const auto row = [](const char* name, const char* all, const char* time, const char* lang, const char* expected) {
-        QTest::newRow(name) << QByteArray(all) << QByteArray(time) << QByteArray(lang) << QString::fromLatin1(expected);
-    };
+    const NamedRow<QByteArray, QByteArray, QByteArray, QString> row("all", "time", "language", "expected");
     row("LC_ALL first", "de_AT.UTF-8", "fr_CA", "ja_JP", "de_AT Latin");
     row("then LC_TIME", "", "fr_CA.utf8", "ja_JP", "fr_CA Latin");
     row("then LANG", "", "", "ja_JP.eucJP", "ja_JP Japanese");

@@ -1,6 +1,7 @@
 // A program that knows nothing of the library, has used ICU, and then loads a plug-in that needs the library.
 
 #include "support/MessageLog.h"
+#include "support/Rows.h"
 #include "support/SettingsRoot.h"
 #include <QtCore/QLibrary>
 #include <QtCore/QLocale>
@@ -35,10 +36,10 @@ void PluginTest::initTestCase()
 
 void PluginTest::hasPhrases_data()
 {
-    QTest::addColumn<QStringList>("texts");
-    QTest::newRow("de_DE") << QStringList{QStringLiteral("vor 3 Stunden"), QStringLiteral("gestern, 12:00")};
-    QTest::newRow("de_AT") << QStringList{QStringLiteral("vor 3 Stunden"), QStringLiteral("gestern, 12:00")};
-    QTest::newRow("fr_FR") << QStringList{QStringLiteral("il y a 3 heures"), QStringLiteral("hier 12:00")};
+    const NamedRow<QStringList> row("texts");
+    row("de_DE", {QStringLiteral("vor 3 Stunden"), QStringLiteral("gestern, 12:00")});
+    row("de_AT", {QStringLiteral("vor 3 Stunden"), QStringLiteral("gestern, 12:00")});
+    row("fr_FR", {QStringLiteral("il y a 3 heures"), QStringLiteral("hier 12:00")});
 }
 
 void PluginTest::hasPhrases()

@@ -4,6 +4,7 @@
 #include "relative/RelativeDate.h"
 #include "relative/RelativeDatePattern.h"
 #include "support/MessageLog.h"
+#include "support/Rows.h"
 #include "support/SettingsRoot.h"
 #include <limits>
 #include <QtTest/QTest>
@@ -107,20 +108,12 @@ void RelativeTest::invalidElementsAreReported()
 
 void RelativeTest::phrasesReplaceLetters_data()
 {
-    QTest::addColumn<QString>("format");
-    QTest::addColumn<int>("element");
-    QTest::addColumn<QString>("phrase");
-    QTest::addColumn<QString>("result");
-    QTest::newRow("day") << "EEEE, d MMMM" << 128 << "Yesterday"
-                         << "'Yesterday', d MMMM";
-    QTest::newRow("quoted letter stays") << "h 'h' mm" << 32 << "3 hours"
-                                         << "'3 hours' 'h' mm";
-    QTest::newRow("every place goes") << "mm:ss m" << 16 << "5 minutes"
-                                      << "'5 minutes':ss ";
-    QTest::newRow("order of letters decides") << "H:mm h" << 32 << "3 hours"
-                                              << ":mm '3 hours'";
-    QTest::newRow("phrase is put in as it is") << "E" << 128 << "d''hier"
-                                               << "'d''hier'";
+    const NamedRow<QString, int, QString, QString> row("format", "element", "phrase", "result");
+    row("day", "EEEE, d MMMM", 128, "Yesterday", "'Yesterday', d MMMM");
+    row("quoted letter stays", "h 'h' mm", 32, "3 hours", "'3 hours' 'h' mm");
+    row("every place goes", "mm:ss m", 16, "5 minutes", "'5 minutes':ss ");
+    row("order of letters decides", "H:mm h", 32, "3 hours", ":mm '3 hours'");
+    row("phrase is put in as it is", "E", 128, "d''hier", "'d''hier'");
 }
 
 void RelativeTest::phrasesReplaceLetters()
@@ -149,16 +142,8 @@ void RelativeTest::phrasesThatDoNotFit()
 
 void RelativeTest::distances_data()
 {
-    QTest::addColumn<QString>("anchor");
-    QTest::addColumn<QString>("moment");
-    QTest::addColumn<int>("element");
-    QTest::addColumn<int>("offset");
-    QTest::addColumn<int>("difference");
-    QTest::addColumn<int>("remainder");
-    const auto row = [](const char* name, const char* anchor, const char* moment, RelativeDateElement::Type element,
-                        int offset, int difference, int remainder) {
-        QTest::newRow(name) << anchor << moment << static_cast<int>(element) << offset << difference << remainder;
-    };
+    const NamedRow<QString, QString, int, int, int, int> row("anchor", "moment", "element", "offset", "difference",
+                                                             "remainder");
     using namespace RelativeDateElement;
     row("midnight between", "2012-05-05T23:50:00", "2012-05-06T00:10:00", NamedDays, 1, 0, 0);
     row("hour between", "2012-05-05T10:59:00", "2012-05-05T11:01:00", Minutes, -58, 2, 2);
@@ -205,16 +190,8 @@ void RelativeTest::timeSpecificationsDoNotCount()
 
 void RelativeTest::ranges_data()
 {
-    QTest::addColumn<int>("element");
-    QTest::addColumn<unsigned int>("minimum");
-    QTest::addColumn<bool>("absolute");
-    QTest::addColumn<bool>("past");
-    QTest::addColumn<QString>("moment");
-    QTest::addColumn<bool>("contained");
-    const auto row = [](const char* name, RelativeDateElement::Type element, unsigned int minimum, bool absolute,
-                        bool past, const char* moment, bool contained) {
-        QTest::newRow(name) << static_cast<int>(element) << minimum << absolute << past << moment << contained;
-    };
+    const NamedRow<int, unsigned int, bool, bool, QString, bool> row("element", "minimum", "absolute", "past", "moment",
+                                                                     "contained");
     using namespace RelativeDateElement;
     row("long ago", Minutes, noMinimum, false, true, "2011-05-16T00:05:00", true);
     row("half a minute later is now", Minutes, noMinimum, false, true, "2012-05-16T00:05:30", true);
@@ -248,16 +225,7 @@ void RelativeTest::ranges()
 
 void RelativeTest::patterns_data()
 {
-    QTest::addColumn<QString>("locale");
-    QTest::addColumn<QString>("skeleton");
-    QTest::addColumn<QList<int>>("elements");
-    QTest::addColumn<QString>("moment");
-    QTest::addColumn<QString>("text");
-    const auto row = [](const char* locale, const char* skeleton, const QList<int>& elements, const char* moment,
-                        const char* text) {
-        QTest::addRow("%s %s %s", locale, skeleton, moment)
-            << locale << skeleton << elements << moment << QString::fromUtf8(text);
-    };
+    const Row<QString, QString, QList<int>, QString, QString> row("locale", "skeleton", "elements", "moment", "text");
     // The anchor is 16 May 2012, 12:00.
     row("en", "yMMMM", {}, "2011-05-18T12:00:00", "May 2011");
     row("en", "Ejm", {128}, "2012-05-15T10:30:00", "yesterday 10:30");

@@ -8,6 +8,7 @@
 #include "resources/ResourceFormatter.h"
 #include "support/IcuBundles.h"
 #include "support/MessageLog.h"
+#include "support/Rows.h"
 #include <limits>
 #include <memory>
 #include <QtTest/QTest>
@@ -100,20 +101,17 @@ void ResourcesTest::initTestCase()
 
 void ResourcesTest::walksAKeyPath_data()
 {
-    QTest::addColumn<QStringList>("keys");
-    QTest::addColumn<int>("type");
-    QTest::addColumn<QStringList>("messages");
-    QTest::newRow("no key") << QStringList() << static_cast<int>(URES_TABLE) << QStringList();
-    QTest::newRow("table") << QStringList{"units", "minute-past"} << static_cast<int>(URES_TABLE) << QStringList();
-    QTest::newRow("string") << QStringList{"units", "minute-past", "other"} << static_cast<int>(URES_STRING)
-                            << QStringList();
-    QTest::newRow("missing") << QStringList{"units", "decade-past"} << -1 << QStringList();
-    QTest::newRow("below a string") << QStringList{"text", "deeper"} << -1
-                                    << QStringList{"warning: Error in calling icu::ResourceBundle::get( const char *, "
-                                                   "UErrorCode & ) : U_RESOURCE_TYPE_MISMATCH ",
-                                                   "warning: " + initSignature +
-                                                       "failed to access resource key \"deeper\" in locale "
-                                                       "de_DE@calendar=gregorian "};
+    const NamedRow<QStringList, int, QStringList> row("keys", "type", "messages");
+    row("no key", {}, URES_TABLE, {});
+    row("table", {"units", "minute-past"}, URES_TABLE, {});
+    row("string", {"units", "minute-past", "other"}, URES_STRING, {});
+    row("missing", {"units", "decade-past"}, -1, {});
+    row("below a string", {"text", "deeper"}, -1,
+        {"warning: Error in calling icu::ResourceBundle::get( const char *, "
+         "UErrorCode & ) : U_RESOURCE_TYPE_MISMATCH ",
+         "warning: " + initSignature +
+             "failed to access resource key \"deeper\" in locale "
+             "de_DE@calendar=gregorian "});
 }
 
 void ResourcesTest::walksAKeyPath()
@@ -137,23 +135,17 @@ void ResourcesTest::apostrophesStandAsTheyAre()
 
 void ResourcesTest::fixedPhrases_data()
 {
-    QTest::addColumn<QString>("locale");
-    QTest::addColumn<QStringList>("keys");
-    QTest::addColumn<QString>("yesterday");
-    QTest::addColumn<QStringList>("messages");
-    QTest::newRow("own table") << "de" << QStringList{"named"} << "gestern" << QStringList();
-    QTest::newRow("parent's table") << "de_AT" << QStringList{"named"} << "gestern" << QStringList();
-    QTest::newRow("a missing entry is silent")
-        << "de" << QStringList{"twoOfThree"} << QString() << exhausted(numericConstructor, "de", "\"twoOfThree\"");
-    QTest::newRow("no key at all") << "pl" << QStringList() << QString() << exhausted(numericConstructor, "pl", "");
+    const NamedRow<QString, QStringList, QString, QStringList> row("locale", "keys", "yesterday", "messages");
+    row("own table", "de", {"named"}, "gestern", {});
+    row("parent's table", "de_AT", {"named"}, "gestern", {});
+    row("a missing entry is silent", "de", {"twoOfThree"}, {}, exhausted(numericConstructor, "de", "\"twoOfThree\""));
+    row("no key at all", "pl", {}, {}, exhausted(numericConstructor, "pl", ""));
     const QString mismatch = QStringLiteral("warning: Error in calling icu::ResourceBundle::getStringEx( const char *, "
                                             "UErrorCode & ) : U_RESOURCE_TYPE_MISMATCH ");
-    QTest::newRow("an entry that is not a string")
-        << "de" << QStringList{"notText"} << QString()
-        << (QStringList{mismatch, mismatch, mismatch} + exhausted(numericConstructor, "de", "\"notText\""));
-    QTest::newRow("a string where a table belongs")
-        << "de_AT" << QStringList{"text"} << QString()
-        << QStringList{numericConstructor + "did not reach a resource table using supplied keys (\"text\") "};
+    row("an entry that is not a string", "de", {"notText"}, {},
+        (QStringList{mismatch, mismatch, mismatch} + exhausted(numericConstructor, "de", "\"notText\"")));
+    row("a string where a table belongs", "de_AT", {"text"}, {},
+        {numericConstructor + "did not reach a resource table using supplied keys (\"text\") "});
 }
 
 void ResourcesTest::fixedPhrases()
@@ -186,11 +178,7 @@ void ResourcesTest::fixedPhrasesByCount()
 
 void ResourcesTest::countedPhrases_data()
 {
-    QTest::addColumn<QString>("locale");
-    QTest::addColumn<QString>("table");
-    QTest::addColumn<int>("count");
-    QTest::addColumn<QString>("phrase");
-    QTest::addColumn<QStringList>("messages");
+    addColumns<QString, QString, int, QString, QStringList>("locale", "table", "count", "phrase", "messages");
     const auto row = [](const char* locale, const char* table, int count, const char* phrase,
                         const QStringList& messages = {}) {
         QTest::addRow("%s %s %d", locale, table, count) << QString::fromLatin1(locale) << QString::fromLatin1(table)
@@ -240,14 +228,10 @@ void ResourcesTest::countedPhrases()
 
 void ResourcesTest::countedTables_data()
 {
-    QTest::addColumn<QString>("locale");
-    QTest::addColumn<QStringList>("keys");
-    QTest::addColumn<QStringList>("messages");
-    QTest::newRow("nowhere") << "de_AT" << QStringList{"units", "decade"}
-                             << exhausted(pluralConstructor, "de-AT", "\"units\", \"decade\"");
-    QTest::newRow("a string where a table belongs")
-        << "de_AT" << QStringList{"text"}
-        << QStringList{pluralConstructor + "did not reach a resource table using supplied keys (\"text\") "};
+    const NamedRow<QString, QStringList, QStringList> row("locale", "keys", "messages");
+    row("nowhere", "de_AT", {"units", "decade"}, exhausted(pluralConstructor, "de-AT", "\"units\", \"decade\""));
+    row("a string where a table belongs", "de_AT", {"text"},
+        {pluralConstructor + "did not reach a resource table using supplied keys (\"text\") "});
 }
 
 void ResourcesTest::countedTables()

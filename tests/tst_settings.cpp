@@ -6,6 +6,7 @@
 #include "settings/RegionNotifier.h"
 #include "settings/TimeZoneSetting.h"
 #include "support/MessageLog.h"
+#include "support/Rows.h"
 #include "support/SettingsRoot.h"
 #include <memory>
 #include <QtCore/QMetaMethod>
@@ -75,15 +76,13 @@ void SettingsTest::readsAtOnce()
 
 void SettingsTest::followsTheObject_data()
 {
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<int>("changes");
-    QTest::newRow("another value") << QByteArray("@test\na:n:8\n") << QVariant(8) << 1;
-    QTest::newRow("the same value") << QByteArray("@test\na:n:7\nb::new\n") << QVariant(7) << 0;
-    QTest::newRow("the attribute goes") << QByteArray("@test\nb::new\n") << QVariant() << 1;
-    QTest::newRow("the name changes") << QByteArray("@other\na:n:8\n") << QVariant() << 1;
-    QTest::newRow("text") << QByteArray("@test\na::eight\n") << QVariant(QStringLiteral("eight")) << 1;
-    QTest::newRow("the same number as text") << QByteArray("@test\na::7\n") << QVariant(7) << 0;
+    const NamedRow<QByteArray, QVariant, int> row("text", "value", "changes");
+    row("another value", "@test\na:n:8\n", 8, 1);
+    row("the same value", "@test\na:n:7\nb::new\n", 7, 0);
+    row("the attribute goes", "@test\nb::new\n", {}, 1);
+    row("the name changes", "@other\na:n:8\n", {}, 1);
+    row("text", "@test\na::eight\n", QStringLiteral("eight"), 1);
+    row("the same number as text", "@test\na::7\n", 7, 0);
 }
 
 void SettingsTest::followsTheObject()
@@ -160,16 +159,14 @@ void SettingsTest::objectThatCannotBeOpened()
 
 void SettingsTest::clockAnswersTwelveOrTwentyFour_data()
 {
-    QTest::addColumn<QByteArray>("attribute");
-    QTest::addColumn<int>("hours");
-    QTest::addColumn<bool>("known");
-    QTest::newRow("24") << QByteArray("hourFormat:n:24") << 24 << true;
-    QTest::newRow("12") << QByteArray("hourFormat:n:12") << 12 << true;
-    QTest::newRow("24 as text") << QByteArray("hourFormat::24") << 24 << true;
-    QTest::newRow("13") << QByteArray("hourFormat:n:13") << 12 << false;
-    QTest::newRow("0") << QByteArray("hourFormat:n:0") << 12 << false;
-    QTest::newRow("a word") << QByteArray("hourFormat::late") << 12 << false;
-    QTest::newRow("not set") << QByteArray("other:n:24") << 12 << true;
+    const NamedRow<QByteArray, int, bool> row("attribute", "hours", "known");
+    row("24", "hourFormat:n:24", 24, true);
+    row("12", "hourFormat:n:12", 12, true);
+    row("24 as text", "hourFormat::24", 24, true);
+    row("13", "hourFormat:n:13", 12, false);
+    row("0", "hourFormat:n:0", 12, false);
+    row("a word", "hourFormat::late", 12, false);
+    row("not set", "other:n:24", 12, true);
 }
 
 void SettingsTest::clockAnswersTwelveOrTwentyFour()

@@ -4,6 +4,7 @@
 #include "bridge/String.h"
 #include "settings/ClockSetting.h"
 #include "support/MessageLog.h"
+#include "support/Rows.h"
 #include "support/SettingsRoot.h"
 #include <algorithm>
 #include <array>
@@ -165,9 +166,9 @@ private:
 
 void SweepTest::clocks()
 {
-    QTest::addColumn<int>("clock");
-    QTest::newRow("12") << 12;
-    QTest::newRow("24") << 24;
+    const NamedRow<int> row("clock");
+    row("12", 12);
+    row("24", 24);
 }
 
 bool SweepTest::setClock(int hours)

@@ -3,6 +3,7 @@
 #include "settings/ClockSetting.h"
 #include "settings/TimeZoneSetting.h"
 #include "support/MessageLog.h"
+#include "support/Rows.h"
 #include "support/SettingsRoot.h"
 #include <algorithm>
 #include <atomic>
@@ -214,10 +215,9 @@ private Q_SLOTS:
 
 void ThreadsTest::followTheDevice_data()
 {
-    QTest::addColumn<int>("threads");
-    QTest::addColumn<bool>("onlyClock");
-    QTest::newRow("two threads, the clock") << 2 << true;
-    QTest::newRow("eight threads, clock, zone and region") << 8 << false;
+    const NamedRow<int, bool> row("threads", "onlyClock");
+    row("two threads, the clock", 2, true);
+    row("eight threads, clock, zone and region", 8, false);
 }
 
 void ThreadsTest::followTheDevice()

@@ -1,3 +1,4 @@
+#include "support/Rows.h"
 #include "support/SettingsRoot.h"
 #include "support/ZoneName.h"
 #include <csignal>
@@ -142,8 +143,7 @@ void ToolTest::initTestCase()
 
 void ToolTest::answers_data()
 {
-    QTest::addColumn<QByteArray>("line");
-    QTest::addColumn<QString>("output");
+    addColumns<QByteArray, QString>("line", "output");
     const auto row = [](const char* line, const char* output) {
         QTest::newRow(line) << QByteArray(line) << QString::fromUtf8(output) + QLatin1Char('\n');
     };
@@ -199,9 +199,7 @@ void ToolTest::answers()
 
 void ToolTest::refusals_data()
 {
-    QTest::addColumn<QByteArray>("line");
-    QTest::addColumn<int>("status");
-    QTest::addColumn<QString>("error");
+    addColumns<QByteArray, int, QString>("line", "status", "error");
     const auto row = [](const char* line, int status, const char* error) {
         QTest::newRow(line) << QByteArray(line) << status << QLatin1String("zel-i18n: ") + QString::fromUtf8(error);
     };
@@ -262,11 +260,11 @@ void ToolTest::refusals()
 
 void ToolTest::environments_data()
 {
-    QTest::addColumn<QString>("region");
-    QTest::newRow("") << QStringLiteral("C, as neither LC_ALL, LC_TIME nor LANG is set");
-    QTest::newRow("LC_ALL=C") << QStringLiteral("C, from LC_ALL");
-    QTest::newRow("LC_ALL=de_DE.ISO-8859-1") << QStringLiteral("de_DE, from LC_ALL");
-    QTest::newRow("LC_TIME=fr_CA LC_ALL= LANG=C.UTF-8") << QStringLiteral("fr_CA, from LC_TIME");
+    const NamedRow<QString> row("region");
+    row("", "C, as neither LC_ALL, LC_TIME nor LANG is set");
+    row("LC_ALL=C", "C, from LC_ALL");
+    row("LC_ALL=de_DE.ISO-8859-1", "de_DE, from LC_ALL");
+    row("LC_TIME=fr_CA LC_ALL= LANG=C.UTF-8", "fr_CA, from LC_TIME");
 }
 
 /** Nothing is said about a character set, and the region stays that of the environment. */
@@ -298,9 +296,7 @@ void ToolTest::help()
 
 void ToolTest::json_data()
 {
-    QTest::addColumn<QByteArray>("line");
-    QTest::addColumn<QStringList>("keys");
-    QTest::addColumn<int>("lines");
+    addColumns<QByteArray, QStringList, int>("line", "keys", "lines");
     const auto row = [](const char* line, const char* keys, int lines) {
         QTest::newRow(line) << QByteArray(line) << wordsOf(keys) << lines;
     };
