@@ -22,7 +22,9 @@ const auto medium = zel::utility::i18n::DateFormat::Medium;
 class Device
 {
 public:
-    Device() : m_regionFile(QFile::encodeName(m_root.file(QStringLiteral("/pps/system/locale"))))
+    Device()
+        : m_regionFile(QFile::encodeName(m_root.file(QStringLiteral("/pps/system/locale")))),
+          m_clockFile(QFile::encodeName(m_root.file(QStringLiteral("/pps/system/settings"))))
     {
         m_root.setClock("24");
         m_root.setTimeZone("Europe/Berlin");
@@ -32,10 +34,12 @@ public:
     }
 
     const char* regionFile() const { return m_regionFile.constData(); }
+    const char* clockFile() const { return m_clockFile.constData(); }
 
 private:
     SettingsRoot m_root;
     QByteArray m_regionFile;
+    QByteArray m_clockFile;
 };
 
 const QLocale locale(QStringLiteral("en_US"));
@@ -59,14 +63,22 @@ std::vector<Entry> patternEntries()
          Entry::Different},
         {"dateFormat (region)", [] { return dateFormat(medium); },
          [=] {
-             floors::lookAtRegion(device().regionFile());
+             floors::lookAt(device().regionFile());
              return floors::pattern(locale, style, none);
          },
          Entry::Different},
-        {"timeFormat", [] { return timeFormat(locale, medium); }, [=] { return floors::pattern(locale, none, style); },
+        {"timeFormat", [] { return timeFormat(locale, medium); },
+         [=] {
+             floors::lookAt(device().clockFile());
+             return floors::pattern(locale, none, style);
+         },
          Entry::Different},
         {"dateTimeFormat", [] { return dateTimeFormat(locale, medium); },
-         [=] { return floors::pattern(locale, style, style); }, Entry::Different},
+         [=] {
+             floors::lookAt(device().clockFile());
+             return floors::pattern(locale, style, style);
+         },
+         Entry::Different},
         {"toPercentageString", [] { return toPercentageString(locale, 0.256, 1, 0); },
          [] { return floors::percentage(locale, 0.256, 1, 0); }, Entry::Same},
     };
@@ -83,13 +95,13 @@ std::vector<Entry> customEntries(const std::string& title, const QString& skelet
         {"CustomDateFormatter() " + title,
          [skeleton] { return CustomDateFormatter(skeleton).isValid() ? QString() : QStringLiteral("invalid"); },
          [clocked] {
-             floors::lookAtRegion(device().regionFile());
+             floors::lookAt(device().regionFile());
              return floors::formatter(locale, clocked) ? QString() : QStringLiteral("invalid");
          },
          Entry::Same},
         {"CustomDateFormatter::format " + title, [ours] { return ours->format(anchor); },
          [bare, zoned] {
-             floors::lookAtRegion(device().regionFile());
+             floors::lookAt(device().regionFile());
              return zoned ? floors::formatInZone(*bare, anchor, QStringLiteral("Europe/Berlin"))
                           : floors::format(*bare, anchor);
          },
@@ -146,7 +158,7 @@ std::vector<Entry> ladderEntries()
              return QString();
          },
          [] {
-             floors::lookAtRegion(device().regionFile());
+             floors::lookAt(device().regionFile());
              const QDateTime now = QDateTime::currentDateTime();
              ladderPatterns(locale);
              return QString();

@@ -16,7 +16,13 @@ namespace {
 
 icu::Locale toICU(const QLocale& locale)
 {
-    icu::Locale icuLocale = icu::Locale::createFromName(locale.bcp47Name().toUtf8().constData());
+    // The BCP 47 name leaves a likely territory out.
+    QByteArray name = locale.bcp47Name().toUtf8();
+    const QByteArray territory = locale.name().section(QLatin1Char('_'), -1).toUtf8();
+    if (!name.endsWith(territory)) {
+        name += '-' + territory;
+    }
+    icu::Locale icuLocale = icu::Locale::createFromName(name.constData());
     UErrorCode status = U_ZERO_ERROR;
     icuLocale.setKeywordValue("calendar", "gregorian", status);
     return icuLocale;
@@ -94,7 +100,7 @@ private:
 
 } // namespace
 
-void lookAtRegion(const char* file)
+void lookAt(const char* file)
 {
     struct stat status = {};
     ::stat(file, &status);

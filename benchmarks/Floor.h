@@ -16,8 +16,8 @@
  */
 namespace floors {
 
-/** One look at the status of the file that holds the region. */
-void lookAtRegion(const char* file);
+/** One look at the status of the file that holds a setting. */
+void lookAt(const char* file);
 
 /** ICU's pattern for two styles; no clock is applied, nothing is translated. */
 QString pattern(const QLocale& locale, icu::DateFormat::EStyle date, icu::DateFormat::EStyle time);

@@ -6,6 +6,9 @@ namespace zel::utility::i18n {
 
 PatternText::PatternText(const QString& pattern) : m_text(pattern)
 {
+    if (!m_text.contains(QLatin1Char('\''))) {
+        return;
+    }
     m_quoted.reserve(static_cast<std::size_t>(m_text.size()));
     bool quoted = false;
     for (const QChar c : m_text) {

@@ -23,7 +23,10 @@ public:
     const QString& text() const { return m_text; }
 
     /** Whether the character is between apostrophes; a closing apostrophe is, an opening one is not. */
-    bool isQuoted(int position) const { return m_quoted[static_cast<std::size_t>(position)]; }
+    bool isQuoted(int position) const
+    {
+        return !m_quoted.empty() && m_quoted[static_cast<std::size_t>(position)];
+    }
 
     /** Whether the character is the letter of a field. */
     bool isField(int position) const;
@@ -36,7 +39,7 @@ public:
 
 private:
     QString m_text;
-    std::vector<bool> m_quoted;
+    std::vector<bool> m_quoted; // empty where nothing is
 };
 
 } // namespace zel::utility::i18n
