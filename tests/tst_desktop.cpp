@@ -5,6 +5,7 @@
 #include "settings/HostClock.h"
 #include "settings/HostTimeZone.h"
 #include "settings/RegionNotifier.h"
+#include "support/Child.h"
 #include "support/MessageLog.h"
 #include "support/Rows.h"
 #include <cstdio>
@@ -12,7 +13,6 @@
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QFile>
-#include <QtCore/QProcess>
 #include <QtCore/QSemaphore>
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QThread>
@@ -30,37 +30,6 @@ using namespace zel::utility::i18n;
 namespace {
 
 const QString afternoon = QString::fromUtf8("3:05\u202FPM");
-
-/** A child process that says something on its standard output when it is ready. */
-class Child
-{
-public:
-    Child(const QString& program, const QStringList& arguments) { m_process.start(program, arguments); }
-    ~Child() { stop(); }
-    Q_DISABLE_COPY(Child)
-
-    /** The next line; empty where none comes in time. */
-    QString line()
-    {
-        while (!m_process.canReadLine() && m_process.waitForReadyRead(10000)) {
-        }
-        return QString::fromUtf8(m_process.readLine()).trimmed();
-    }
-    QByteArray errors() { return m_process.readAllStandardError(); }
-    void write(const QString& line)
-    {
-        m_process.write(line.toLatin1() + '\n');
-        m_process.waitForBytesWritten();
-    }
-    void stop()
-    {
-        m_process.kill();
-        m_process.waitForFinished();
-    }
-
-private:
-    QProcess m_process;
-};
 
 /** A message bus in a temporary directory, put into the environment as the session bus. */
 class Bus
@@ -299,7 +268,7 @@ void DesktopTest::watchFollows()
             watch = std::make_unique<Child>(QStringLiteral(ZEL_TOOL), QStringList{action, QStringLiteral("hm"),
                                                                                   QStringLiteral("2012-05-16T15:05")});
         } else if (action.startsWith(QLatin1String("set "))) {
-            bus.portal().write(action.mid(4));
+            bus.portal().feed(action.mid(4).toLatin1() + '\n');
         } else if (action == QLatin1String("stop portal")) {
             bus.portal().stop();
         } else if (action == QLatin1String("stop bus")) {
@@ -336,10 +305,10 @@ void DesktopTest::followsOnEveryThread()
     }));
     thread->start();
     isMade.acquire();
-    bus.portal().write(QStringLiteral("12h"));
+    bus.portal().feed("12h\n");
     QVERIFY(thread->wait()); // without an event loop here
     QCOMPARE(text, afternoon);
-    bus.portal().write(QStringLiteral("24h"));
+    bus.portal().feed("24h\n");
     QTRY_COMPARE(ClockSetting::clockFormat(), ClockFormat::Use24hourClock); // with one, and without a formatter
 }
 

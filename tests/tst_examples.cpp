@@ -1,54 +1,34 @@
+#include "support/Child.h"
 #include "support/Rows.h"
 #include "support/SettingsRoot.h"
-#include <QtCore/QElapsedTimer>
-#include <QtCore/QProcess>
 #include <QtTest/QtTest>
 
 namespace {
 
-constexpr int patience = 30000;
-
 // A space that does not break looks like any other here.
-QString textOf(const QByteArray& output)
+QString withPlainSpaces(QString output)
 {
-    return QString::fromUtf8(output)
-        .replace(QChar(0xa0), QLatin1Char(' '))
-        .replace(QChar(0x202f), QLatin1Char(' '))
-        .trimmed();
+    return output.replace(QChar(0xa0), QLatin1Char(' ')).replace(QChar(0x202f), QLatin1Char(' '));
 }
 
 /** An example at work. */
-class Example
+class Example : public Child
 {
 public:
     Example(const QString& name, const QStringList& arguments)
+        : Child(QStringLiteral(ZEL_EXAMPLES "/example_") + name, arguments)
     {
-        m_process.start(QStringLiteral(ZEL_EXAMPLES "/example_") + name, arguments);
     }
-    ~Example() { m_process.kill(), m_process.waitForFinished(patience); }
-    Q_DISABLE_COPY_MOVE(Example)
 
-    /** The next line; empty where none comes in time. */
-    QString line()
-    {
-        QElapsedTimer timer;
-        timer.start();
-        while (!m_process.canReadLine() && timer.elapsed() < patience && m_process.state() != QProcess::NotRunning) {
-            m_process.waitForReadyRead(patience);
-        }
-        return textOf(m_process.readLine());
-    }
+    QString line() { return withPlainSpaces(Child::line()); }
 
     /** All lines of an example that ends by itself, and well. */
     QStringList lines()
     {
-        const bool well = m_process.waitForFinished(patience) && m_process.exitCode() == 0;
-        return well ? textOf(m_process.readAllStandardOutput()).split(QLatin1Char('\n'))
-                    : QStringList(QStringLiteral("(failed)"));
+        const Result result = finish();
+        return result.status == 0 ? withPlainSpaces(result.output).trimmed().split(QLatin1Char('\n'))
+                                  : QStringList(QStringLiteral("(failed)"));
     }
-
-private:
-    QProcess m_process;
 };
 
 } // namespace

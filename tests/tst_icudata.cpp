@@ -2,6 +2,7 @@
 #include "PhraseTables.h"
 #include "ResourceBundleReader.h"
 #include "ResourceBundleWriter.h"
+#include "support/Child.h"
 #include "support/IcuBundles.h"
 #include "support/Rows.h"
 
@@ -309,7 +310,6 @@ QByteArray describe(const char* name)
 /** This program in another mode, with ICU_DATA as given; its lines. */
 QList<QByteArray> runSelf(const QString& mode, const QString& icuData, bool raised = false)
 {
-    QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.remove(QStringLiteral("ICU_DATA"));
     if (!icuData.isNull()) {
@@ -318,10 +318,8 @@ QList<QByteArray> runSelf(const QString& mode, const QString& icuData, bool rais
     if (raised) {
         environment.insert(QStringLiteral("ZEL_TEST_RAISED"), QStringLiteral("1"));
     }
-    process.setProcessEnvironment(environment);
-    process.start(QCoreApplication::applicationFilePath(), {mode});
-    process.waitForFinished(120000);
-    return process.readAllStandardOutput().trimmed().split('\n');
+    Child self(QCoreApplication::applicationFilePath(), {mode}, environment);
+    return self.finish().output.trimmed().toUtf8().split('\n');
 }
 
 int printDescriptions()

@@ -2,6 +2,7 @@
 
 #include "settings/ClockSetting.h"
 #include "settings/TimeZoneSetting.h"
+#include "support/Child.h"
 #include "support/MessageLog.h"
 #include "support/Rows.h"
 #include "support/SettingsRoot.h"
@@ -12,7 +13,6 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QEventLoop>
-#include <QtCore/QProcess>
 #include <QtTest/QTest>
 #include <thread>
 #include <vector>
@@ -263,12 +263,10 @@ void ThreadsTest::endsInSilence()
     QFETCH(const QString, program);
     const SettingsRoot root;
     QVERIFY(root.setClock("24") && root.setTimeZone("Asia/Tokyo") && root.setRegion("de_DE"));
-    QProcess process;
-    process.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--end"), program});
-    QVERIFY(process.waitForFinished());
-    QCOMPARE(QString::fromUtf8(process.readAllStandardError()), QString());
-    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
-    QCOMPARE(process.exitCode(), 0);
+    const Child::Result result =
+        Child(QCoreApplication::applicationFilePath(), {QStringLiteral("--end"), program}).finish();
+    QCOMPARE(result.errors, QString());
+    QCOMPARE(result.status, 0);
 }
 
 int main(int argc, char** argv)

@@ -1,12 +1,11 @@
+#include "support/Child.h"
 #include "support/Rows.h"
 #include "support/SettingsRoot.h"
 #include "support/ZoneName.h"
 #include <csignal>
 #include <fcntl.h>
-#include <QtCore/QElapsedTimer>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
-#include <QtCore/QProcess>
 #include <QtTest/QtTest>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -14,66 +13,27 @@
 
 namespace {
 
-struct Result
-{
-    int status = -1;
-    QString output;
-    QString errors;
-};
-
-constexpr int patience = 30000;
+using Result = Child::Result;
 
 QStringList wordsOf(const char* line)
 {
     return QString::fromUtf8(line).split(QLatin1Char('|'), Qt::SkipEmptyParts);
 }
 
-Result finished(QProcess& process)
+/** The program at work. */
+class Running : public Child
 {
-    process.closeWriteChannel();
-    Result result;
-    if (process.waitForFinished(patience) && process.exitStatus() == QProcess::NormalExit) {
-        result.status = process.exitCode();
-    }
-    result.output = QString::fromUtf8(process.readAllStandardOutput());
-    result.errors = QString::fromUtf8(process.readAllStandardError());
-    return result;
-}
+public:
+    explicit Running(const char* line) : Child(QStringLiteral(ZEL_TOOL), wordsOf(line)) {}
+};
 
 /** Runs the program; the words of the command line stand between bars. */
 Result run(const char* line, const QByteArray& input = {})
 {
-    QProcess process;
-    process.start(QStringLiteral(ZEL_TOOL), wordsOf(line));
-    process.write(input);
-    return finished(process);
+    Running program(line);
+    program.feed(input);
+    return program.finish();
 }
-
-/** A running program that is fed and answers line by line. */
-class Running
-{
-public:
-    explicit Running(const char* line) { m_process.start(QStringLiteral(ZEL_TOOL), wordsOf(line)); }
-
-    void feed(const QByteArray& line) { m_process.write(line); }
-
-    /** The next line; empty where none comes in time. */
-    QString line(int time = patience)
-    {
-        QElapsedTimer timer;
-        timer.start();
-        while (!m_process.canReadLine() && timer.elapsed() < time) {
-            m_process.waitForReadyRead(static_cast<int>(qMax(qint64(1), time - timer.elapsed())));
-        }
-        return QString::fromUtf8(m_process.readLine()).trimmed();
-    }
-
-    void signal(int number) { ::kill(static_cast<pid_t>(m_process.processId()), number); }
-    QProcess& process() { return m_process; }
-
-private:
-    QProcess m_process;
-};
 
 QByteArray textOf(const QString& file)
 {
@@ -271,11 +231,10 @@ void ToolTest::environments_data()
 void ToolTest::environments()
 {
     QFETCH(const QString, region);
-    QProcess process;
-    process.start(QStringLiteral("env"), QStringLiteral("-i %1 " ZEL_TOOL " doctor")
-                                             .arg(QLatin1String(QTest::currentDataTag()))
-                                             .split(' ', Qt::SkipEmptyParts));
-    const Result result = finished(process);
+    const Result result = Child(QStringLiteral("env"), QStringLiteral("-i %1 " ZEL_TOOL " doctor")
+                                                           .arg(QLatin1String(QTest::currentDataTag()))
+                                                           .split(' ', Qt::SkipEmptyParts))
+                              .finish();
     QCOMPARE(result.errors, QString());
     QVERIFY2(result.output.contains(QLatin1String(" region           ") + region), qPrintable(result.output));
 }
@@ -382,7 +341,7 @@ void ToolTest::answersLineByLine()
     QCOMPARE(relative.line(), QStringLiteral("5 minutes ago"));
     relative.feed("2012-05-16T13:30\n");
     QCOMPARE(relative.line(), QStringLiteral("in 3 hours"));
-    QCOMPARE(finished(relative.process()).status, 0);
+    QCOMPARE(relative.finish().status, 0);
 }
 
 void ToolTest::endsQuietlyWhenNobodyReads()
@@ -391,9 +350,8 @@ void ToolTest::endsQuietlyWhenNobodyReads()
     const QString line =
         QStringLiteral("yes 2012-05-16 | \"$0\" relative - --locale en --anchor 2012-05-16 | head -n 1; "
                        "echo ${PIPESTATUS[1]}");
-    QProcess shell;
-    shell.start(QStringLiteral("bash"), {QStringLiteral("-c"), line, QStringLiteral(ZEL_TOOL)});
-    const Result result = finished(shell);
+    Child shell(QStringLiteral("bash"), {QStringLiteral("-c"), line, QStringLiteral(ZEL_TOOL)});
+    const Result result = shell.finish();
     QCOMPARE(result.output, QStringLiteral("in 0 minutes\n0\n"));
     QCOMPARE(result.errors, QString());
 }
@@ -439,7 +397,7 @@ void ToolTest::writersWaitForEachOther()
     QVERIFY(!set.process().waitForFinished(300));
     QVERIFY(root.write(settings, "@settings\nringer::loud\n"));
     ::close(lock);
-    QCOMPARE(finished(set.process()).status, 0);
+    QCOMPARE(set.finish().status, 0);
     QCOMPARE(textOf(root.file(settings)), QByteArray("@settings\nhourFormat:n:24\nringer::loud\n"));
 }
 
@@ -552,7 +510,7 @@ void ToolTest::watchFollowsTheDevice()
     QCOMPARE(watch.line(second), QStringLiteral("15:30 BST"));
     QCOMPARE(german.line(second), QStringLiteral("15:30 GMT+1")); // the other settings are still the device's
     german.signal(SIGTERM);
-    QCOMPARE(finished(german.process()).status, 0);
+    QCOMPARE(german.finish().status, 0);
     QCOMPARE(run("device|set|time-zone=Europe/Berlin").status, 0);
     QCOMPARE(watch.line(second), QStringLiteral("16:30 CEST"));
     QCOMPARE(run("device|set|region=de_DE").status, 0);
@@ -570,7 +528,7 @@ void ToolTest::watchFollowsTheDevice()
     QCOMPARE(watch.line(second), QStringLiteral("16:30 MESZ"));
 
     watch.signal(SIGTERM);
-    const Result result = finished(watch.process());
+    const Result result = watch.finish();
     QCOMPARE(result.errors, QStringLiteral("zel-i18n: void zel::utility::i18n::PpsManager::onPpsUpdate() failed to "
                                            "decode PPS payload from /pps/system/settings\n"));
     QCOMPARE(result.status, 0);
@@ -584,7 +542,7 @@ void ToolTest::watchEndsOnSignal()
         QVERIFY(!watch.line().isEmpty());
         QCOMPARE(devices().size(), 1);
         watch.signal(number);
-        const Result result = finished(watch.process());
+        const Result result = watch.finish();
         QCOMPARE(result.errors, QString());
         QCOMPARE(result.status, 0);
         QCOMPARE(devices(), QStringList());
@@ -603,7 +561,7 @@ void ToolTest::throwAwayDeviceLeavesNothing()
     format.feed("2012-05-16\n");
     QCOMPARE(format.line(), QStringLiteral("2012"));
     format.signal(SIGINT);
-    QVERIFY(format.process().waitForFinished(patience));
+    QVERIFY(format.process().waitForFinished(Child::patience));
     QCOMPARE(format.process().exitStatus(), QProcess::CrashExit);
     QCOMPARE(format.process().exitCode(), SIGINT);
     QCOMPARE(devices(), QStringList());

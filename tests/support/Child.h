@@ -1,0 +1,77 @@
+#ifndef ZEL_TESTS_CHILD_H
+#define ZEL_TESTS_CHILD_H
+
+#include <csignal>
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QProcess>
+#include <sys/types.h>
+
+/** A program that runs beside the test: it is fed and answers, line by line, until it ends or is killed. */
+class Child
+{
+public:
+    /** The status is none where the program did not end by itself. */
+    struct Result
+    {
+        int status = -1;
+        QString output;
+        QString errors;
+    };
+
+    static constexpr int patience = 120000;
+
+    Child(const QString& program, const QStringList& arguments,
+          const QProcessEnvironment& environment = QProcessEnvironment::systemEnvironment())
+    {
+        m_process.setProcessEnvironment(environment);
+        m_process.start(program, arguments);
+    }
+    ~Child() { stop(); }
+    Q_DISABLE_COPY(Child)
+
+    void feed(const QByteArray& input)
+    {
+        m_process.write(input);
+        m_process.waitForBytesWritten();
+    }
+
+    /** The next line; empty where none comes in time. */
+    QString line(int time = 30000)
+    {
+        QElapsedTimer timer;
+        timer.start();
+        while (!m_process.canReadLine() && timer.elapsed() < time && m_process.state() != QProcess::NotRunning) {
+            m_process.waitForReadyRead(static_cast<int>(time - timer.elapsed()));
+        }
+        return QString::fromUtf8(m_process.readLine()).trimmed();
+    }
+
+    void signal(int number) { ::kill(static_cast<pid_t>(m_process.processId()), number); }
+    QByteArray errors() { return m_process.readAllStandardError(); }
+
+    /** Ends its input and waits for it; what it has written since. */
+    Result finish()
+    {
+        m_process.closeWriteChannel();
+        Result result;
+        if (m_process.waitForFinished(patience) && m_process.exitStatus() == QProcess::NormalExit) {
+            result.status = m_process.exitCode();
+        }
+        result.output = QString::fromUtf8(m_process.readAllStandardOutput());
+        result.errors = QString::fromUtf8(errors());
+        return result;
+    }
+
+    void stop()
+    {
+        m_process.kill();
+        m_process.waitForFinished();
+    }
+
+    QProcess& process() { return m_process; }
+
+private:
+    QProcess m_process;
+};
+
+#endif
