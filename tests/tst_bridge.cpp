@@ -39,7 +39,7 @@ private Q_SLOTS:
 
 void BridgeTest::textKeepsItsCodeUnits_data()
 {
-    const NamedRow<QString> row("text");
+    const NamedRow<QString> row;
     row("plain", "5 minutes");
     row("empty", "");
     row("outside the first plane", "\U0001D7D8 \U0001F552");
@@ -50,7 +50,7 @@ void BridgeTest::textKeepsItsCodeUnits_data()
 
 void BridgeTest::textKeepsItsCodeUnits()
 {
-    QFETCH(QString, text);
+    const auto [text] = cells<QString>();
     const icu::UnicodeString converted = String::toICU(text);
     QCOMPARE(converted.length(), static_cast<int32_t>(text.size()));
     const QString back = String::toQt(converted);
@@ -68,7 +68,7 @@ void BridgeTest::missingTextStaysMissing()
 
 void BridgeTest::findsLettersOutsideQuotes_data()
 {
-    const NamedRow<QString, QChar, int, bool, int> row("format", "letter", "from", "anyCase", "position");
+    const NamedRow<QString, QChar, int, bool, int> row;
     const QString quoted = QStringLiteral("h 'h' h");
     const QString doubled = QStringLiteral("h 'o''h' h");
     row("first", quoted, QChar('h'), 0, false, 0);
@@ -85,17 +85,14 @@ void BridgeTest::findsLettersOutsideQuotes_data()
 
 void BridgeTest::findsLettersOutsideQuotes()
 {
-    QFETCH(QString, format);
-    QFETCH(QChar, letter);
-    QFETCH(int, from);
-    QFETCH(bool, anyCase);
+    const auto [format, letter, from, anyCase, position] = cells<QString, QChar, int, bool, int>();
     const Qt::CaseSensitivity cs = anyCase ? Qt::CaseInsensitive : Qt::CaseSensitive;
-    QTEST(String::indexOfInFormat(format, letter, from, cs), "position");
+    QCOMPARE(String::indexOfInFormat(format, letter, from, cs), position);
 }
 
 void BridgeTest::territoryStays_data()
 {
-    const NamedRow<QString> row("icuName");
+    const NamedRow<QString> row;
     row("ar_EG", "ar_EG@calendar=gregorian");
     row("sr_Latn_RS", "sr_Latn_RS@calendar=gregorian");
     row("es_419", "es_419@calendar=gregorian");
@@ -104,13 +101,14 @@ void BridgeTest::territoryStays_data()
 
 void BridgeTest::territoryStays()
 {
+    const auto [icuName] = cells<QString>();
     const QLocale locale(QString::fromLatin1(QTest::currentDataTag()));
-    QTEST(QString::fromLatin1(Locale::toICU(locale).getName()), "icuName");
+    QCOMPARE(QString::fromLatin1(Locale::toICU(locale).getName()), icuName);
 }
 
 void BridgeTest::fallbackWalksToTheBogusEnd_data()
 {
-    const NamedRow<QByteArray, QByteArray> row("start", "chain");
+    const NamedRow<QByteArray, QByteArray> row;
     row("keywords go first", "de_DE@calendar=gregorian", "de_DE de root end");
     row("script and territory go together", "sr_Latn_RS", "sr root end");
     row("variant too", "en_US_POSIX", "en root end");
@@ -119,7 +117,7 @@ void BridgeTest::fallbackWalksToTheBogusEnd_data()
 
 void BridgeTest::fallbackWalksToTheBogusEnd()
 {
-    QFETCH(QByteArray, start);
+    const auto [start, expected] = cells<QByteArray, QByteArray>();
     QByteArrayList chain;
     icu::Locale current = start == "root" ? icu::Locale::getRoot() : icu::Locale(start.constData());
     while (!current.isBogus() && chain.size() < 10) {
@@ -127,7 +125,7 @@ void BridgeTest::fallbackWalksToTheBogusEnd()
         const QByteArray name = current == icu::Locale::getRoot() ? QByteArray("root") : QByteArray(current.getName());
         chain.append(current.isBogus() ? QByteArray("end") : name);
     }
-    QTEST(chain.join(' '), "chain");
+    QCOMPARE(chain.join(' '), expected);
 }
 
 void BridgeTest::fallbackOfTheEndIsFatal()

@@ -165,7 +165,7 @@ void DesktopTest::init()
 
 void DesktopTest::asksThePortal_data()
 {
-    addColumns<QString, QString, QByteArray, int, QStringList>("kind", "value", "region", "clock", "messages");
+    addColumns<QString, QString, QByteArray, int, QStringList>();
     const auto row = [](const char* name, const char* kind, const char* value, const char* region, int clock,
                         const QStringList& messages = {}) {
         QTest::newRow(name) << QString::fromLatin1(kind) << QString::fromLatin1(value) << QByteArray(region) << clock
@@ -189,23 +189,21 @@ void DesktopTest::asksThePortal_data()
 
 void DesktopTest::asksThePortal()
 {
-    QFETCH(const QString, kind);
-    QFETCH(const QString, value);
-    QFETCH(const QByteArray, region);
+    const auto [kind, value, region, clock, messages] = cells<QString, QString, QByteArray, int, QStringList>();
     Bus bus;
     QVERIFY(bus.isReady() && (kind.isEmpty() || bus.startPortal(kind, value)));
     qputenv("LC_ALL", region);
     MessageLog log;
     std::unique_ptr<HostClock> clock;
     const qint64 waited = makeClock(clock);
-    QTEST(clock->value().toInt(), "clock");
-    QTEST(log.take(), "messages");
+    QCOMPARE(clock->value().toInt(), clock);
+    QCOMPARE(log.take(), messages);
     QVERIFY2(waited <= longestWait, qPrintable(QString::number(waited)));
 }
 
 void DesktopTest::doesWithoutBus_data()
 {
-    const NamedRow<bool, QByteArray, QString> row("silent", "address", "fault");
+    const NamedRow<bool, QByteArray, QString> row;
     row("no bus", false, {}, "no session bus");
     row("nobody there", false, "unix:path=/nowhere/bus", "no session bus: No such file or directory");
     row("a silent bus", true, {}, "the session bus does not answer");
@@ -213,9 +211,7 @@ void DesktopTest::doesWithoutBus_data()
 
 void DesktopTest::doesWithoutBus()
 {
-    QFETCH(const bool, silent);
-    QFETCH(const QByteArray, address);
-    QFETCH(const QString, fault);
+    const auto [silent, address, fault] = cells<bool, QByteArray, QString>();
     const SilentBus silentBus;
     QVERIFY(silentBus.isReady());
     qputenv("XDG_RUNTIME_DIR", "/nowhere");
@@ -335,7 +331,7 @@ void DesktopTest::watchFollowsTheTimeZone()
 
 void DesktopTest::regionOfTheEnvironment_data()
 {
-    const Row<QByteArray, QByteArray, QByteArray, QLocale> row("all", "time", "lang", "region");
+    const Row<QByteArray, QByteArray, QByteArray, QLocale> row;
     row("de_DE", "fr_FR", "ja_JP", QLocale(QStringLiteral("de_DE")));
     row("", "fr_FR.UTF-8", "ja_JP", QLocale(QStringLiteral("fr_FR")));
     row("", "", "ja_JP.eucJP", QLocale(QStringLiteral("ja_JP")));
@@ -348,13 +344,11 @@ void DesktopTest::regionOfTheEnvironment_data()
 
 void DesktopTest::regionOfTheEnvironment()
 {
-    QFETCH(const QByteArray, all);
-    QFETCH(const QByteArray, time);
-    QFETCH(const QByteArray, lang);
+    const auto [all, time, lang, region] = cells<QByteArray, QByteArray, QByteArray, QLocale>();
     qputenv("LC_ALL", all);
     qputenv("LC_TIME", time);
     qputenv("LANG", lang);
-    QTEST(Locale::region(), "region");
+    QCOMPARE(Locale::region(), region);
 }
 
 void DesktopTest::tellsOfLocaleChanges()

@@ -49,7 +49,7 @@ private Q_SLOTS:
 
     void output_data()
     {
-        const NamedRow<QStringList, QString> row("arguments", "expected");
+        const NamedRow<QStringList, QString> row;
         row("console", {}, R"(Patterns of France
   mercredi 16 mai 2012
   22:30
@@ -88,8 +88,7 @@ th_TH  100 dates  16 May 2012  5 นาทีที่ผ่านมา)");
     }
     void output()
     {
-        QFETCH(const QStringList, arguments);
-        QFETCH(const QString, expected);
+        const auto [arguments, expected] = cells<QStringList, QString>();
         const QString name = QString::fromLatin1(QTest::currentDataTag());
         QCOMPARE(Example(name, arguments).lines(), expected.split(QLatin1Char('\n')));
     }

@@ -400,7 +400,7 @@ private Q_SLOTS:
 
 void FaultsTest::followsThroughFault_data()
 {
-    addColumns<Fault, QString>("fault", "reason");
+    addColumns<Fault, QString>();
     const auto row = [](const char* name, const char* reason, Fault fault) {
         QTest::newRow(name) << fault << QString::fromLatin1(reason);
     };
@@ -420,8 +420,7 @@ void FaultsTest::followsThroughFault_data()
 
 void FaultsTest::followsThroughFault()
 {
-    QFETCH(const Fault, fault);
-    QFETCH(const QString, reason);
+    const auto [fault, reason] = cells<Fault, QString>();
     const SettingsRoot root;
     QVERIFY(root.setClock("12"));
     const PpsManager manager("/pps/system/settings", "@settings", "hourFormat", nullptr);
@@ -440,14 +439,14 @@ void FaultsTest::followsThroughFault()
 
 void FaultsTest::followsWhatWasUnreadable_data()
 {
-    const NamedRow<QString> row("unreadable");
+    const NamedRow<QString> row;
     row("object", path);
     row("directory", "/pps");
 }
 
 void FaultsTest::followsWhatWasUnreadable()
 {
-    QFETCH(const QString, unreadable);
+    const auto [unreadable] = cells<QString>();
     const SettingsRoot root;
     QVERIFY(root.setClock("24"));
     QFile::setPermissions(root.path(), QFile::Permissions(0x5555));
@@ -502,14 +501,14 @@ void FaultsTest::tellsWhatWasTornMeanwhile()
 
 void FaultsTest::followsWithoutInotify_data()
 {
-    const NamedRow<bool> row("hasInstances");
+    const NamedRow<bool> row;
     row("no instance left", false);
     row("no watch left", true);
 }
 
 void FaultsTest::followsWithoutInotify()
 {
-    QFETCH(const bool, hasInstances);
+    const auto [hasInstances] = cells<bool>();
     const SettingsRoot root;
     QVERIFY(root.setClock("12"));
     MessageLog log;
@@ -577,7 +576,7 @@ void FaultsTest::seesNoTornValue()
 
 void FaultsTest::answersWithIcuDataDamaged_data()
 {
-    addColumns<Damage, QString>("damage", "problem");
+    addColumns<Damage, QString>();
     const auto row = [](const char* name, const char* problem, Damage damage) {
         QTest::newRow(name) << damage << QString::fromLatin1(problem);
     };
@@ -626,8 +625,7 @@ void FaultsTest::answersWithIcuDataDamaged_data()
 // Beside a copy of the library, and named by ICU_DATA. ICU alone would show English, or read past the end of a bundle.
 void FaultsTest::answersWithIcuDataDamaged()
 {
-    QFETCH(const Damage, damage);
-    QFETCH(const QString, problem);
+    const auto [damage, problem] = cells<Damage, QString>();
     const QTemporaryDir tree;
     QVERIFY(install(tree.path()));
     const QString data = tree.filePath(QStringLiteral("share/zel/icu"));

@@ -120,7 +120,7 @@ void FormattersTest::metaObjects()
 
 void FormattersTest::skeletons_data()
 {
-    const Row<QString, int, QString, QString> row("region", "clock", "skeleton", "text");
+    const Row<QString, int, QString, QString> row;
     row("en_US", 12, "yMMMd", "May 16, 2012");
     row("en_US", 12, "Hm", "3:05\u202FPM");
     row("en_US", 24, "hm", "15:05");
@@ -139,15 +139,13 @@ void FormattersTest::skeletons_data()
 
 void FormattersTest::skeletons()
 {
-    QFETCH(QString, region);
-    QFETCH(int, clock);
-    QFETCH(QString, skeleton);
+    const auto [region, clock, skeleton, text] = cells<QString, int, QString, QString>();
     QVERIFY(m_root.setRegion(region.toLatin1()));
     QVERIFY(setClock(clock));
     const CustomDateFormatter formatter(skeleton);
     QVERIFY(formatter.isValid());
     for (const char* const moment : {"2012-05-16T15:05:00", "2012-05-16T15:05:00Z", "2012-05-16T15:05:00+09:00"}) {
-        QTEST(formatter.format(at(moment)), "text");
+        QCOMPARE(formatter.format(at(moment)), text);
     }
 }
 
@@ -189,7 +187,7 @@ void FormattersTest::regionIsFollowedWithoutAnEventLoop()
 
 void FormattersTest::zonesShowTheInstant_data()
 {
-    const NamedRow<QByteArray, QString, QString> row("zone", "before", "after");
+    const NamedRow<QByteArray, QString, QString> row;
     // The hour before and the hour after summer time began in Europe.
     row("Berlin", "Europe/Berlin", "01:30 ", "03:30 ");
     row("New York", "America/New_York", "20:30 ", "21:30 ");
@@ -199,9 +197,7 @@ void FormattersTest::zonesShowTheInstant_data()
 
 void FormattersTest::zonesShowTheInstant()
 {
-    QFETCH(QByteArray, zone);
-    QFETCH(QString, before);
-    QFETCH(QString, after);
+    const auto [zone, before, after] = cells<QByteArray, QString, QString>();
     QVERIFY(setTimeZone(zone));
     QVERIFY(setClock(24));
     const CustomDateFormatter formatter("hmz");
@@ -216,7 +212,7 @@ void FormattersTest::zonesShowTheInstant()
 
 void FormattersTest::ladder_data()
 {
-    const Row<QString, QString, QString, QString> row("anchor", "moment", "timeCritical", "nonTimeCritical");
+    const Row<QString, QString, QString, QString> row;
     const char* const noon = "2012-05-16T12:00:00"; // a Wednesday
     row(noon, "2013-01-01T00:00:00", "January 2013", "January 2013");
     row(noon, "2012-12-31T23:59:59", "Dec 31", "Dec 31");
@@ -255,15 +251,14 @@ void FormattersTest::ladder_data()
 
 void FormattersTest::ladder()
 {
-    QFETCH(QString, anchor);
-    QFETCH(QString, moment);
+    const auto [anchor, moment, timeCritical, nonTimeCritical] = cells<QString, QString, QString, QString>();
     MessageLog log;
     RelativeDateFormatter formatter(RelativeDateFormat::TimeCritical);
-    for (const char* const column : {"timeCritical", "nonTimeCritical"}) {
+    for (const QString& text : {timeCritical, nonTimeCritical}) {
         formatter.setLocale(QLocale("en_US"));
         formatter.setClockFormat(ClockFormat::Use24hourClock);
         formatter.setAnchorTime(at(qPrintable(anchor)));
-        QTEST(formatter.format(at(qPrintable(moment))), column);
+        QCOMPARE(formatter.format(at(qPrintable(moment))), text);
         formatter.setType(RelativeDateFormat::NonTimeCritical);
     }
     QCOMPARE(log.take(), QStringList());
@@ -271,7 +266,7 @@ void FormattersTest::ladder()
 
 void FormattersTest::ladderSpeaksTheLocale_data()
 {
-    const Row<QString, QStringList> row("locale", "texts");
+    const Row<QString, QStringList> row;
     // 5 minutes ago, in 3 hours, yesterday, tomorrow, two days ago, a week ago, last year
     row("en", {"5 minutes ago", "in 3 hours", "yesterday 08:30", "tomorrow 19:00", "Mon 12:00", "May 9", "May 2011"});
     row("de", {"vor 5 Minuten", "in 3 Stunden", "gestern, 08:30", "morgen, 19:00", "Mo., 12:00", "9. Mai", "Mai 2011"});
@@ -287,8 +282,7 @@ void FormattersTest::ladderSpeaksTheLocale_data()
 
 void FormattersTest::ladderSpeaksTheLocale()
 {
-    QFETCH(QString, locale);
-    QFETCH(QStringList, texts);
+    const auto [locale, texts] = cells<QString, QStringList>();
     RelativeDateFormatter formatter(RelativeDateFormat::TimeCritical);
     formatter.setLocale(QLocale(locale));
     formatter.setClockFormat(ClockFormat::Use24hourClock);
@@ -304,8 +298,7 @@ void FormattersTest::ladderSpeaksTheLocale()
 
 void FormattersTest::wording_data()
 {
-    const Row<QString, RelativeDateFormat::Type, QString, QString, QString, QString> row("locale", "type", "anchor",
-                                                                                         "moment", "exact", "natural");
+    const Row<QString, RelativeDateFormat::Type, QString, QString, QString, QString> row;
     constexpr auto time = RelativeDateFormat::TimeCritical;
     constexpr auto day = RelativeDateFormat::NonTimeCritical;
     const char* const newYear = "2013-01-01T00:02:00";
@@ -326,20 +319,18 @@ void FormattersTest::wording_data()
 
 void FormattersTest::wording()
 {
-    QFETCH(QString, locale);
-    QFETCH(RelativeDateFormat::Type, type);
-    QFETCH(QString, anchor);
-    QFETCH(QString, moment);
+    const auto [locale, type, anchor, moment, exact, natural] =
+        cells<QString, RelativeDateFormat::Type, QString, QString, QString, QString>();
     MessageLog log;
     RelativeDateFormatter formatter(type);
     formatter.setLocale(QLocale(locale));
     formatter.setClockFormat(ClockFormat::Use24hourClock);
     formatter.setAnchorTime(at(qPrintable(anchor)));
-    QTEST(formatter.format(at(qPrintable(moment))), "exact");
+    QCOMPARE(formatter.format(at(qPrintable(moment))), exact);
     formatter.setWording(RelativeDateWording::Natural);
-    QTEST(formatter.format(at(qPrintable(moment))), "natural");
+    QCOMPARE(formatter.format(at(qPrintable(moment))), natural);
     formatter.setWording(static_cast<RelativeDateWording::Type>(3));
-    QTEST(formatter.format(at(qPrintable(moment))), "exact");
+    QCOMPARE(formatter.format(at(qPrintable(moment))), exact);
     QCOMPARE(log.take(), QStringList());
 }
 

@@ -499,7 +499,7 @@ void TestIcuData::aliasesAreFollowed()
 
 void TestIcuData::unknownDataIsReported_data()
 {
-    const Row<QByteArray, QByteArray> row("bundle", "problem");
+    const Row<QByteArray, QByteArray> row;
     row(R"("%%Fallback" { "en" })", "de: unknown key %%Fallback");
     row(R"("%%Parent":int { 1 })", "de: %%Parent is not a text");
     row(R"("%%Parent" { "de_XY" })", "de_XY: no such parent");
@@ -511,10 +511,10 @@ void TestIcuData::unknownDataIsReported_data()
 
 void TestIcuData::unknownDataIsReported()
 {
-    QFETCH(const QByteArray, bundle);
+    const auto [bundle, problem] = cells<QByteArray, QByteArray>();
     const IcuBundles bundles;
     QVERIFY(bundles.compile(QStringLiteral("de"), "de { " + bundle + " }"));
-    QTEST(runSelf(QStringLiteral("--problem"), bundles.path()).first(), "problem");
+    QCOMPARE(runSelf(QStringLiteral("--problem"), bundles.path()).first(), problem);
 }
 
 std::optional<std::string> TestIcuData::withAdditions(const QByteArray& file, const ResourceTree& additions,
@@ -547,7 +547,7 @@ void TestIcuData::additionsReplaceNothing()
 
 void TestIcuData::damageIsReported_data()
 {
-    const NamedRow<QByteArray, QByteArray> row("file", "expected");
+    const NamedRow<QByteArray, QByteArray> row;
     const QByteArray sound = copyOf("de");
     const auto wordAt = [&sound](int word) {
         quint32 value = 0;
@@ -599,8 +599,7 @@ void TestIcuData::damageIsReported_data()
 
 void TestIcuData::damageIsReported()
 {
-    QFETCH(const QByteArray, file);
-    QFETCH(const QByteArray, expected);
+    const auto [file, expected] = cells<QByteArray, QByteArray>();
     std::string error;
     const auto data = BundleData::fromFile(view(file), error);
     QVERIFY(!data || !ResourceBundleReader::open(*data, &*m_poolReader, error));
@@ -635,7 +634,7 @@ void TestIcuData::environmentComesFirst()
 
 void TestIcuData::generatorMends_data()
 {
-    const NamedRow<Damage> row("damage");
+    const NamedRow<Damage> row;
     row("nothing", [](const QDir&) {});
     row("bundle gone", [](const QDir& bundles) { QFile::remove(bundles.filePath(QStringLiteral("de.res"))); });
     row("bundle cut short", [](const QDir& bundles) { QFile::resize(bundles.filePath(QStringLiteral("fr.res")), 9); });
@@ -646,7 +645,7 @@ void TestIcuData::generatorMends_data()
 
 void TestIcuData::generatorMends()
 {
-    QFETCH(const Damage, damage);
+    const auto [damage] = cells<Damage>();
     const QTemporaryDir directory;
     const QDir bundles(directory.filePath(QStringLiteral(U_ICUDATA_NAME)));
     const QStringList always{directory.path()};

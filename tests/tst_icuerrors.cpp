@@ -213,8 +213,7 @@ void IcuErrorsTest::initTestCase()
 
 void IcuErrorsTest::failures_data()
 {
-    addColumns<IcuFaults::Function, QList<int>, Call, QString, QStringList>("function", "fates", "call", "result",
-                                                                            "messages");
+    addColumns<IcuFaults::Function, QList<int>, Call, QString, QStringList>();
 
     const auto row = [](const char* name, IcuFaults::Function function, const QList<int>& fates, Call call,
                         const QString& result, const char* messages = nullptr) {
@@ -374,16 +373,14 @@ void IcuErrorsTest::failures_data()
 
 void IcuErrorsTest::failures()
 {
-    QFETCH(IcuFaults::Function, function);
-    QFETCH(QList<int>, fates);
-    QFETCH(Call, call);
-    QFETCH(QString, result);
+    const auto [function, fates, call, result, messages] =
+        cells<IcuFaults::Function, QList<int>, Call, QString, QStringList>();
     MessageLog log;
 
     IcuFaults::arm(function, fates);
     const QString actual = call();
     QVERIFY(IcuFaults::allTaken(function));
-    QTEST(log.take(), "messages");
+    QCOMPARE(log.take(), messages);
     QCOMPARE(actual, result);
     QCOMPARE(actual.isNull(), result.isNull());
 }
@@ -427,7 +424,7 @@ void IcuErrorsTest::listsFail()
 
 void IcuErrorsTest::handlersUseTheFormatter_data()
 {
-    const NamedRow<Call, QString> row("call", "texts");
+    const NamedRow<Call, QString> row;
     row("skeleton in format", Call(otherSkeletonDuringFormat),
         "5/1/2012, " + zoneName({}, moment, icu::Locale::getUS()) + "|May 2012");
     row("skeleton in an update", Call(otherSkeletonDuringUpdate), "May 2012");
@@ -436,7 +433,7 @@ void IcuErrorsTest::handlersUseTheFormatter_data()
 
 void IcuErrorsTest::handlersUseTheFormatter()
 {
-    QFETCH(Call, call);
+    const auto [call, texts] = cells<Call, QString>();
     QVERIFY(m_settings.setClock("13"));
     MessageLog log;
     // The clock is unknown from when it says so.
@@ -444,7 +441,7 @@ void IcuErrorsTest::handlersUseTheFormatter()
         ClockSetting::clockFormat();
         return !log.take().isEmpty();
     }));
-    QTEST(call(), "texts");
+    QCOMPARE(call(), texts);
     QVERIFY(Interruption::happened());
 }
 

@@ -202,7 +202,7 @@ void ListsTest::invalidFormatters()
 
 void ListsTest::textsHoldUntil_data()
 {
-    addColumns<RelativeDateFormat::Type, RelativeDateWording::Type>("type", "wording");
+    addColumns<RelativeDateFormat::Type, RelativeDateWording::Type>();
     for (const auto type : {RelativeDateFormat::TimeCritical, RelativeDateFormat::NonTimeCritical}) {
         for (const auto wording : {RelativeDateWording::Exact, RelativeDateWording::Natural}) {
             QTest::addRow("%d %d", type, wording) << type << wording;
@@ -212,8 +212,7 @@ void ListsTest::textsHoldUntil_data()
 
 void ListsTest::textsHoldUntil()
 {
-    QFETCH(RelativeDateFormat::Type, type);
-    QFETCH(RelativeDateWording::Type, wording);
+    const auto [type, wording] = cells<RelativeDateFormat::Type, RelativeDateWording::Type>();
     Moments moments;
     RelativeDateFormatter formatter(type);
     formatter.setLocale(QLocale("en_US"));

@@ -61,14 +61,14 @@ private:
 
 void LoadTest::staysFlat_data()
 {
-    const NamedRow<Write> row("write");
+    const NamedRow<Write> row;
     row("CustomDateFormatter", Write(writeCustom));
     row("RelativeDateFormatter", Write(writeRelative));
 }
 
 void LoadTest::staysFlat()
 {
-    QFETCH(const Write, write);
+    const auto [write] = cells<Write>();
     QVERIFY(m_root.setClock("24") && m_root.setRegion("pl_PL") && m_root.setTimeZone("Asia/Tokyo"));
     MessageLog log;
     constexpr int count = 1000000;

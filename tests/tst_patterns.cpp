@@ -52,7 +52,7 @@ bool PatternsTest::setClock(int hours)
 
 void PatternsTest::translates_data()
 {
-    const Row<QString, QString> row("icu", "qt");
+    const Row<QString, QString> row;
     row("", nullptr);
     row("y yy yyy yyyyy", "yyyy yy yyyy yyyy");
     row("M MM MMM MMMM MMMMM", "M MM MMM MMMM MMMM");
@@ -84,16 +84,15 @@ void PatternsTest::translates_data()
 
 void PatternsTest::translates()
 {
-    QFETCH(QString, icu);
+    const auto [icu, qt] = cells<QString, QString>();
     const QString translated = getQtDateTimePatternFromICU(icu);
-    QTEST(translated, "qt");
-    QFETCH(QString, qt);
+    QCOMPARE(translated, qt);
     QCOMPARE(translated.isNull(), qt.isNull());
 }
 
 void PatternsTest::dateFormats_data()
 {
-    const Row<QString, int, QString> row("locale", "type", "pattern");
+    const Row<QString, int, QString> row;
     row("en_US", DateFormat::Short, QStringLiteral("M/d/yy"));
     row("en_US", DateFormat::Medium, QStringLiteral("MMM d, yyyy"));
     row("en_US", DateFormat::Long, QStringLiteral("MMMM d, yyyy"));
@@ -114,14 +113,13 @@ void PatternsTest::dateFormats_data()
 
 void PatternsTest::dateFormats()
 {
-    QFETCH(QString, locale);
-    QFETCH(int, type);
-    QTEST(dateFormat(QLocale(locale), static_cast<DateFormat::Type>(type)), "pattern");
+    const auto [locale, type, pattern] = cells<QString, int, QString>();
+    QCOMPARE(dateFormat(QLocale(locale), static_cast<DateFormat::Type>(type)), pattern);
 }
 
 void PatternsTest::percentages_data()
 {
-    const Row<QString, double, int, int, QString> row("locale", "value", "maximum", "minimum", "text");
+    const Row<QString, double, int, int, QString> row;
     row("en_US", 0.256, 1, 0, "25.6%");
     row("en_US", 0.256, 0, 0, "26%");
     row("en_US", 0.5, 2, 2, "50.00%");
@@ -136,17 +134,13 @@ void PatternsTest::percentages_data()
 
 void PatternsTest::percentages()
 {
-    QFETCH(QString, locale);
-    QFETCH(double, value);
-    QFETCH(int, maximum);
-    QFETCH(int, minimum);
-    QTEST(toPercentageString(QLocale(locale), value, maximum, minimum), "text");
+    const auto [locale, value, maximum, minimum, text] = cells<QString, double, int, int, QString>();
+    QCOMPARE(toPercentageString(QLocale(locale), value, maximum, minimum), text);
 }
 
 void PatternsTest::timesFollowTheClock_data()
 {
-    addColumns<QString, int, bool, QString, QString, bool>("locale", "type", "withDate", "twelve", "twentyFour",
-                                                           "unsupported");
+    addColumns<QString, int, bool, QString, QString, bool>();
     const auto row = [](const char* locale, DateFormat::Type type, bool withDate, const char* twelve,
                         const char* twentyFour, bool unsupported = false) {
         QTest::addRow("%s %d%s", locale, type, withDate ? " with date" : "")
@@ -177,19 +171,17 @@ void PatternsTest::timesFollowTheClock_data()
 
 void PatternsTest::timesFollowTheClock()
 {
-    QFETCH(QString, locale);
-    QFETCH(int, type);
-    QFETCH(bool, withDate);
+    const auto [locale, type, withDate, twelve, twentyFour, unsupported] =
+        cells<QString, int, bool, QString, QString, bool>();
     QString (*const formatOf)(const QLocale&, DateFormat::Type) =
         withDate ? static_cast<QString (*)(const QLocale&, DateFormat::Type)>(&dateTimeFormat)
                  : static_cast<QString (*)(const QLocale&, DateFormat::Type)>(&timeFormat);
     MessageLog log;
     QVERIFY(setClock(12));
-    QTEST(formatOf(QLocale(locale), static_cast<DateFormat::Type>(type)), "twelve");
+    QCOMPARE(formatOf(QLocale(locale), static_cast<DateFormat::Type>(type)), twelve);
     QCOMPARE(log.take(), QStringList());
     QVERIFY(setClock(24));
-    QTEST(formatOf(QLocale(locale), static_cast<DateFormat::Type>(type)), "twentyFour");
-    QFETCH(bool, unsupported);
+    QCOMPARE(formatOf(QLocale(locale), static_cast<DateFormat::Type>(type)), twentyFour);
     const QStringList warning{QStringLiteral("warning: zel::utility::i18n::Formatting::replaceWithSystemClockFormat() "
                                              "has encountered an unsupported time format! ")};
     QCOMPARE(log.take(), unsupported ? warning : QStringList());
@@ -197,7 +189,7 @@ void PatternsTest::timesFollowTheClock()
 
 void PatternsTest::amPmComesAndGoes_data()
 {
-    const Row<QLocale::Language, QString, QString, QString> row("language", "pattern", "added", "removed");
+    const Row<QLocale::Language, QString, QString, QString> row;
     row(QLocale::German, "mm:ss", "mm:ss AP", "mm:ss");
     row(QLocale::German, "", " AP", "");
     row(QLocale::Japanese, "mm:ss", "mm:ss", "mm:ss");
@@ -214,15 +206,14 @@ void PatternsTest::amPmComesAndGoes_data()
 
 void PatternsTest::amPmComesAndGoes()
 {
-    QFETCH(QLocale::Language, language);
-    QFETCH(QString, pattern);
+    auto [language, pattern, added, removed] = cells<QLocale::Language, QString, QString, QString>();
     const MessageLog log; // of places that are not the language's own
     AmPmField::add(language, pattern);
-    QTEST(pattern, "added");
+    QCOMPARE(pattern, added);
     if (AmPmField::isIn(pattern)) {
         AmPmField::remove(language, pattern);
     }
-    QTEST(pattern.trimmed(), "removed");
+    QCOMPARE(pattern.trimmed(), removed);
     QString comma = QStringLiteral("h:mm AP, t");
     AmPmField::remove(QLocale::Albanian, comma);
     QCOMPARE(comma, QStringLiteral("hh:mm, t"));
@@ -240,7 +231,7 @@ void PatternsTest::regionIsTheDefault()
 
 void PatternsTest::clockRewritesSkeletons_data()
 {
-    const Row<QString, int, QString> row("skeleton", "format", "rewritten");
+    const Row<QString, int, QString> row;
     row("jmm", ClockFormat::Use12hourClock, "hmm");
     row("jmm", ClockFormat::Use24hourClock, "Hmm");
     row("jmm", ClockFormat::ApplyLocaleFormat, "jmm");
@@ -254,9 +245,7 @@ void PatternsTest::clockRewritesSkeletons_data()
 
 void PatternsTest::clockRewritesSkeletons()
 {
-    QFETCH(QString, skeleton);
-    QFETCH(int, format);
-    QFETCH(QString, rewritten);
+    const auto [skeleton, format, rewritten] = cells<QString, int, QString>();
     QVERIFY(setClock(24));
     MessageLog log;
     QCOMPARE(ClockPattern::apply(skeleton, static_cast<ClockFormat::Type>(format)), rewritten);

@@ -128,7 +128,7 @@ private Q_SLOTS:
 
 void PlatformTest::decodes_data()
 {
-    const NamedRow<QByteArray, QVariant> row("value", "expected");
+    const NamedRow<QByteArray, QVariant> row;
     row("text", ":de_DE", QStringLiteral("de_DE"));
     row("empty text", ":", QString());
     row("text with colons", ":a:b::c", QStringLiteral("a:b::c"));
@@ -150,8 +150,7 @@ void PlatformTest::decodes_data()
 
 void PlatformTest::decodes()
 {
-    QFETCH(QByteArray, value);
-    QFETCH(QVariant, expected);
+    const auto [value, expected] = cells<QByteArray, QVariant>();
     bool ok = false;
     const QVariantMap decoded = PpsObject::decode("@o\na:" + value + '\n', &ok);
     QVERIFY(ok);
@@ -168,7 +167,7 @@ void PlatformTest::decodes()
 // What is not a text to be decoded is a record to be encoded.
 void PlatformTest::refuses_data()
 {
-    const NamedRow<QVariant, QString> row("refused", "expected");
+    const NamedRow<QVariant, QString> row;
     row("empty", QByteArray(""), "line 1: no newline at the end");
     row("cut off", QByteArray("@o\na::b\nc::d"), "line 3: no newline at the end");
     row("no name", QByteArray("a::b\n"), "line 1: expected '@' and the name of the object");
@@ -206,8 +205,7 @@ void PlatformTest::refuses_data()
 
 void PlatformTest::refuses()
 {
-    QFETCH(QVariant, refused);
-    QFETCH(QString, expected);
+    const auto [refused, expected] = cells<QVariant, QString>();
     bool ok = true;
     QString error;
     if (refused.userType() == QMetaType::QByteArray) {
@@ -250,7 +248,7 @@ void PlatformTest::writes()
 
 void PlatformTest::opens_data()
 {
-    addColumns<QString, int, Action, QString, QString>("opened", "mode", "prepare", "openError", "readError");
+    addColumns<QString, int, Action, QString, QString>();
     const Action nothing = [](const SettingsRoot&) {};
     const auto row = [](const char* name, Action prepare, const char* openError, const char* readError) {
         QTest::newRow(name) << path << int(Subscribe) << prepare << QString::fromLatin1(openError)
@@ -281,11 +279,7 @@ void PlatformTest::opens_data()
 
 void PlatformTest::opens()
 {
-    QFETCH(QString, opened);
-    QFETCH(int, mode);
-    QFETCH(Action, prepare);
-    QFETCH(QString, openError);
-    QFETCH(QString, readError);
+    const auto [opened, mode, prepare, openError, readError] = cells<QString, int, Action, QString, QString>();
     const SettingsRoot root;
     prepare(root);
     PpsObject tested(opened);
@@ -304,7 +298,7 @@ void PlatformTest::opens()
 
 void PlatformTest::notifies_data()
 {
-    addColumns<Action, Action, int>("prepare", "change", "notifications");
+    addColumns<Action, Action, int>();
     const Action nothing = [](const SettingsRoot&) {};
     const Action create = [](const SettingsRoot& root) { root.write(path, object("de_DE")); };
     const auto row = [](const char* name, Action prepare, Action change, int notifications = 1) {
@@ -355,9 +349,7 @@ void PlatformTest::notifies_data()
 
 void PlatformTest::notifies()
 {
-    QFETCH(Action, prepare);
-    QFETCH(Action, change);
-    QFETCH(int, notifications);
+    const auto [prepare, change, notifications] = cells<Action, Action, int>();
     const SettingsRoot root;
     prepare(root);
     PpsObject watched(path);
@@ -452,7 +444,7 @@ void PlatformTest::leavesNoWatch()
 
 void PlatformTest::takesRegion_data()
 {
-    addColumns<QByteArray, QString, QString>("contents", "expected", "reason");
+    addColumns<QByteArray, QString, QString>();
     const auto accepted = [](const char* value, const char* expected) {
         QTest::newRow(value) << object(value) << QString::fromLatin1(expected) << QString();
     };
@@ -493,9 +485,7 @@ void PlatformTest::takesRegion_data()
 
 void PlatformTest::takesRegion()
 {
-    QFETCH(QByteArray, contents);
-    QFETCH(QString, expected);
-    QFETCH(QString, reason);
+    const auto [contents, expected, reason] = cells<QByteArray, QString, QString>();
     const SettingsRoot root;
     MessageLog log;
     QVERIFY(root.write(path, contents));
@@ -506,7 +496,7 @@ void PlatformTest::takesRegion()
 
 void PlatformTest::fallsBackToPosixLocale_data()
 {
-    const NamedRow<QByteArray, QByteArray, QByteArray, QString> row("all", "time", "language", "expected");
+    const NamedRow<QByteArray, QByteArray, QByteArray, QString> row;
     row("LC_ALL first", "de_AT.UTF-8", "fr_CA", "ja_JP", "de_AT Latin");
     row("then LC_TIME", "", "fr_CA.utf8", "ja_JP", "fr_CA Latin");
     row("then LANG", "", "", "ja_JP.eucJP", "ja_JP Japanese");
@@ -521,10 +511,7 @@ void PlatformTest::fallsBackToPosixLocale_data()
 
 void PlatformTest::fallsBackToPosixLocale()
 {
-    QFETCH(QByteArray, all);
-    QFETCH(QByteArray, time);
-    QFETCH(QByteArray, language);
-    QFETCH(QString, expected);
+    const auto [all, time, language, expected] = cells<QByteArray, QByteArray, QByteArray, QString>();
     const SettingsRoot root;
     MessageLog log;
     setPosixLocale(all, time, language);

@@ -108,7 +108,7 @@ void RelativeTest::invalidElementsAreReported()
 
 void RelativeTest::phrasesReplaceLetters_data()
 {
-    const NamedRow<QString, int, QString, QString> row("format", "element", "phrase", "result");
+    const NamedRow<QString, int, QString, QString> row;
     row("day", "EEEE, d MMMM", 128, "Yesterday", "'Yesterday', d MMMM");
     row("quoted letter stays", "h 'h' mm", 32, "3 hours", "'3 hours' 'h' mm");
     row("every place goes", "mm:ss m", 16, "5 minutes", "'5 minutes':ss ");
@@ -118,11 +118,9 @@ void RelativeTest::phrasesReplaceLetters_data()
 
 void RelativeTest::phrasesReplaceLetters()
 {
-    QFETCH(QString, format);
-    QFETCH(int, element);
-    QFETCH(QString, phrase);
+    const auto [format, element, phrase, result] = cells<QString, int, QString, QString>();
     MessageLog log;
-    QTEST(RelativeDate::apply(format, static_cast<RelativeDateElement::Type>(element), phrase), "result");
+    QCOMPARE(RelativeDate::apply(format, static_cast<RelativeDateElement::Type>(element), phrase), result);
     QCOMPARE(log.take(), QStringList());
 }
 
@@ -142,8 +140,7 @@ void RelativeTest::phrasesThatDoNotFit()
 
 void RelativeTest::distances_data()
 {
-    const NamedRow<QString, QString, int, int, int, int> row("anchor", "moment", "element", "offset", "difference",
-                                                             "remainder");
+    const NamedRow<QString, QString, int, int, int, int> row;
     using namespace RelativeDateElement;
     row("midnight between", "2012-05-05T23:50:00", "2012-05-06T00:10:00", NamedDays, 1, 0, 0);
     row("hour between", "2012-05-05T10:59:00", "2012-05-05T11:01:00", Minutes, -58, 2, 2);
@@ -161,18 +158,16 @@ void RelativeTest::distances_data()
 
 void RelativeTest::distances()
 {
-    QFETCH(QString, anchor);
-    QFETCH(QString, moment);
-    QFETCH(int, element);
+    const auto [anchor, moment, element, offset, difference, remainder] = cells<QString, QString, int, int, int, int>();
     const QDateTime from = at(qPrintable(anchor));
     const QDateTime to = at(qPrintable(moment));
     const auto type = static_cast<RelativeDateElement::Type>(element);
     // The Persian calendar turns the year in March, the Saudi one turns months with the moon.
     for (const char* const locale : {"en_US", "fa_IR", "ar_SA"}) {
         const DefaultLocale process(locale);
-        QTEST(RelativeDate::offset(from, to, type), "offset");
-        QTEST(RelativeDate::difference(from, to, type, false), "difference");
-        QTEST(RelativeDate::difference(from, to, type, true), "remainder");
+        QCOMPARE(RelativeDate::offset(from, to, type), offset);
+        QCOMPARE(RelativeDate::difference(from, to, type, false), difference);
+        QCOMPARE(RelativeDate::difference(from, to, type, true), remainder);
     }
 }
 
@@ -190,8 +185,7 @@ void RelativeTest::timeSpecificationsDoNotCount()
 
 void RelativeTest::ranges_data()
 {
-    const NamedRow<int, unsigned int, bool, bool, QString, bool> row("element", "minimum", "absolute", "past", "moment",
-                                                                     "contained");
+    const NamedRow<int, unsigned int, bool, bool, QString, bool> row;
     using namespace RelativeDateElement;
     row("long ago", Minutes, noMinimum, false, true, "2011-05-16T00:05:00", true);
     row("half a minute later is now", Minutes, noMinimum, false, true, "2012-05-16T00:05:30", true);
@@ -210,22 +204,19 @@ void RelativeTest::ranges_data()
 
 void RelativeTest::ranges()
 {
-    QFETCH(int, element);
-    QFETCH(unsigned int, minimum);
-    QFETCH(bool, absolute);
-    QFETCH(bool, past);
-    QFETCH(QString, moment);
+    const auto [element, minimum, absolute, past, moment, contained] =
+        cells<int, unsigned int, bool, bool, QString, bool>();
     MessageLog log;
     DateOffsetRange range(at("1999-01-01T00:00:00"), static_cast<RelativeDateElement::Type>(element), minimum, absolute,
                           past, nullptr);
     range.setAnchorTime(at("2012-05-16T00:05:00"));
-    QTEST(range.contains(at(qPrintable(moment))), "contained");
+    QCOMPARE(range.contains(at(qPrintable(moment))), contained);
     QCOMPARE(log.take().isEmpty(), element != noElement);
 }
 
 void RelativeTest::patterns_data()
 {
-    const Row<QString, QString, QList<int>, QString, QString> row("locale", "skeleton", "elements", "moment", "text");
+    const Row<QString, QString, QList<int>, QString, QString> row;
     // The anchor is 16 May 2012, 12:00.
     row("en", "yMMMM", {}, "2011-05-18T12:00:00", "May 2011");
     row("en", "Ejm", {128}, "2012-05-15T10:30:00", "yesterday 10:30");
@@ -240,10 +231,7 @@ void RelativeTest::patterns_data()
 
 void RelativeTest::patterns()
 {
-    QFETCH(QString, locale);
-    QFETCH(QString, skeleton);
-    QFETCH(QList<int>, elements);
-    QFETCH(QString, moment);
+    const auto [locale, skeleton, elements, moment, text] = cells<QString, QString, QList<int>, QString, QString>();
     QList<RelativeDateElement::Type> types;
     for (const int element : elements) {
         types.append(static_cast<RelativeDateElement::Type>(element));
@@ -251,7 +239,7 @@ void RelativeTest::patterns()
     MessageLog log;
     const RelativeDatePattern pattern(QLocale(locale), ClockFormat::Use24hourClock, at("2012-05-16T12:00:00"), skeleton,
                                       types, nullptr);
-    QTEST(pattern.format(at(qPrintable(moment))), "text");
+    QCOMPARE(pattern.format(at(qPrintable(moment))), text);
     QCOMPARE(log.take(), QStringList());
 }
 

@@ -101,7 +101,7 @@ void ResourcesTest::initTestCase()
 
 void ResourcesTest::walksAKeyPath_data()
 {
-    const NamedRow<QStringList, int, QStringList> row("keys", "type", "messages");
+    const NamedRow<QStringList, int, QStringList> row;
     row("no key", {}, URES_TABLE, {});
     row("table", {"units", "minute-past"}, URES_TABLE, {});
     row("string", {"units", "minute-past", "other"}, URES_STRING, {});
@@ -116,12 +116,12 @@ void ResourcesTest::walksAKeyPath_data()
 
 void ResourcesTest::walksAKeyPath()
 {
-    QFETCH(QStringList, keys);
+    const auto [keys, type, messages] = cells<QStringList, int, QStringList>();
     MessageLog log;
     const std::unique_ptr<icu::ResourceBundle> bundle(
         ResourceAccessor::initResource(Locale::toICU(QLocale(QStringLiteral("de"))), keys));
-    QTEST(bundle ? static_cast<int>(bundle->getType()) : -1, "type");
-    QTEST(log.take(), "messages");
+    QCOMPARE(bundle ? static_cast<int>(bundle->getType()) : -1, type);
+    QCOMPARE(log.take(), messages);
 }
 
 void ResourcesTest::apostrophesStandAsTheyAre()
@@ -135,7 +135,7 @@ void ResourcesTest::apostrophesStandAsTheyAre()
 
 void ResourcesTest::fixedPhrases_data()
 {
-    const NamedRow<QString, QStringList, QString, QStringList> row("locale", "keys", "yesterday", "messages");
+    const NamedRow<QString, QStringList, QString, QStringList> row;
     row("own table", "de", {"named"}, "gestern", {});
     row("parent's table", "de_AT", {"named"}, "gestern", {});
     row("a missing entry is silent", "de", {"twoOfThree"}, {}, exhausted(numericConstructor, "de", "\"twoOfThree\""));
@@ -150,12 +150,10 @@ void ResourcesTest::fixedPhrases_data()
 
 void ResourcesTest::fixedPhrases()
 {
-    QFETCH(QString, locale);
-    QFETCH(QStringList, keys);
-    QFETCH(QString, yesterday);
+    const auto [locale, keys, yesterday, messages] = cells<QString, QStringList, QString, QStringList>();
     MessageLog log;
     const NumericResourceAccessor accessor(QLocale(locale), keys, nullptr);
-    QTEST(log.take(), "messages");
+    QCOMPARE(log.take(), messages);
     QCOMPARE(accessor.isValid(), !yesterday.isNull());
     QCOMPARE(accessor.format(-1), yesterday);
     QCOMPARE(log.take(),
@@ -178,7 +176,7 @@ void ResourcesTest::fixedPhrasesByCount()
 
 void ResourcesTest::countedPhrases_data()
 {
-    addColumns<QString, QString, int, QString, QStringList>("locale", "table", "count", "phrase", "messages");
+    addColumns<QString, QString, int, QString, QStringList>();
     const auto row = [](const char* locale, const char* table, int count, const char* phrase,
                         const QStringList& messages = {}) {
         QTest::addRow("%s %s %d", locale, table, count) << QString::fromLatin1(locale) << QString::fromLatin1(table)
@@ -216,19 +214,17 @@ void ResourcesTest::countedPhrases_data()
 
 void ResourcesTest::countedPhrases()
 {
-    QFETCH(QString, locale);
-    QFETCH(QString, table);
-    QFETCH(int, count);
+    const auto [locale, table, count, phrase, messages] = cells<QString, QString, int, QString, QStringList>();
     MessageLog log;
     const PluralResourceAccessor accessor(QLocale(locale), {table}, nullptr);
     QVERIFY(accessor.isValid());
-    QTEST(accessor.format(count), "phrase");
-    QTEST(log.take(), "messages");
+    QCOMPARE(accessor.format(count), phrase);
+    QCOMPARE(log.take(), messages);
 }
 
 void ResourcesTest::countedTables_data()
 {
-    const NamedRow<QString, QStringList, QStringList> row("locale", "keys", "messages");
+    const NamedRow<QString, QStringList, QStringList> row;
     row("nowhere", "de_AT", {"units", "decade"}, exhausted(pluralConstructor, "de-AT", "\"units\", \"decade\""));
     row("a string where a table belongs", "de_AT", {"text"},
         {pluralConstructor + "did not reach a resource table using supplied keys (\"text\") "});
@@ -236,11 +232,10 @@ void ResourcesTest::countedTables_data()
 
 void ResourcesTest::countedTables()
 {
-    QFETCH(QString, locale);
-    QFETCH(QStringList, keys);
+    const auto [locale, keys, messages] = cells<QString, QStringList, QStringList>();
     MessageLog log;
     const PluralResourceAccessor accessor(QLocale(locale), keys, nullptr);
-    QTEST(log.take(), "messages");
+    QCOMPARE(log.take(), messages);
     QVERIFY(!accessor.isValid());
     QVERIFY(accessor.format(0).isNull());
     QCOMPARE(log.take(), QStringList{"critical: " + pluralFormat + "called on an invalid resource "});

@@ -76,7 +76,7 @@ void SettingsTest::readsAtOnce()
 
 void SettingsTest::followsTheObject_data()
 {
-    const NamedRow<QByteArray, QVariant, int> row("text", "value", "changes");
+    const NamedRow<QByteArray, QVariant, int> row;
     row("another value", "@test\na:n:8\n", 8, 1);
     row("the same value", "@test\na:n:7\nb::new\n", 7, 0);
     row("the attribute goes", "@test\nb::new\n", {}, 1);
@@ -87,8 +87,7 @@ void SettingsTest::followsTheObject_data()
 
 void SettingsTest::followsTheObject()
 {
-    QFETCH(QByteArray, text);
-    QFETCH(int, changes);
+    const auto [text, value, changes] = cells<QByteArray, QVariant, int>();
     QVERIFY(m_root.write(object, "@test\na:n:7\n"));
     Reader reader;
     QVERIFY(m_root.write(object, text));
@@ -97,7 +96,7 @@ void SettingsTest::followsTheObject()
     }
     QTest::qWait(changes > 0 ? 50 : 300);
     QCOMPARE(reader.changes.count(), changes);
-    QTEST(reader.manager.value(), "value");
+    QCOMPARE(reader.manager.value(), value);
 }
 
 void SettingsTest::keepsTheValueOverGarbage()
@@ -159,7 +158,7 @@ void SettingsTest::objectThatCannotBeOpened()
 
 void SettingsTest::clockAnswersTwelveOrTwentyFour_data()
 {
-    const NamedRow<QByteArray, int, bool> row("attribute", "hours", "known");
+    const NamedRow<QByteArray, int, bool> row;
     row("24", "hourFormat:n:24", 24, true);
     row("12", "hourFormat:n:12", 12, true);
     row("24 as text", "hourFormat::24", 24, true);
@@ -171,16 +170,15 @@ void SettingsTest::clockAnswersTwelveOrTwentyFour_data()
 
 void SettingsTest::clockAnswersTwelveOrTwentyFour()
 {
-    QFETCH(QByteArray, attribute);
+    const auto [attribute, hours, known] = cells<QByteArray, int, bool>();
     // Each row starts from another value than its own, so that a change is there to wait for.
-    QFETCH(bool, known);
     ClockSetting::clockFormat();
     ClockSetting setting(nullptr);
     QSignalSpy changes(&setting, SIGNAL(changed()));
     QVERIFY(m_root.write(QStringLiteral("/pps/system/settings"), "@settings\n" + attribute + '\n'));
     QVERIFY(changes.wait(2000));
     MessageLog log;
-    QTEST(static_cast<int>(ClockSetting::clockFormat()), "hours");
+    QCOMPARE(static_cast<int>(ClockSetting::clockFormat()), hours);
     ClockSetting::clockFormat();
     const QString complaint = QStringLiteral(
         "critical: zel::utility::i18n::ClockSetting::onPpsUpdate encountered unknown ClockFormat in PPS ");

@@ -166,7 +166,7 @@ private:
 
 void SweepTest::clocks()
 {
-    const NamedRow<int> row("clock");
+    const NamedRow<int> row;
     row("12", 12);
     row("24", 24);
 }
@@ -280,7 +280,7 @@ void SweepTest::asInICU()
 
 void SweepTest::patterns()
 {
-    QFETCH(const int, clock);
+    const auto [clock] = cells<int>();
     QVERIFY(setClock(clock));
     MessageLog log;
     for (const QLocale& locale : m_locales) {
@@ -298,7 +298,7 @@ void SweepTest::patterns()
 
 void SweepTest::customDates()
 {
-    QFETCH(const int, clock);
+    const auto [clock] = cells<int>();
     QVERIFY(setClock(clock));
     MessageLog log;
     CustomDateFormatter formatter(skeletons.first());
@@ -374,7 +374,7 @@ void SweepTest::checkPhrases(const QLocale& locale, const RelativeDateFormatter&
 
 void SweepTest::relativeDates()
 {
-    QFETCH(const int, clock);
+    const auto [clock] = cells<int>();
     QVERIFY(setClock(clock));
     MessageLog log;
     constexpr qint64 minute = 60;

@@ -215,15 +215,14 @@ private Q_SLOTS:
 
 void ThreadsTest::followTheDevice_data()
 {
-    const NamedRow<int, bool> row("threads", "onlyClock");
+    const NamedRow<int, bool> row;
     row("two threads, the clock", 2, true);
     row("eight threads, clock, zone and region", 8, false);
 }
 
 void ThreadsTest::followTheDevice()
 {
-    QFETCH(const int, threads);
-    QFETCH(const bool, onlyClock);
+    const auto [threads, onlyClock] = cells<int, bool>();
     static const SettingsRoot root;
     root.setRegion("de_DE");
     root.setTimeZone("Asia/Tokyo");

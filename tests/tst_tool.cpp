@@ -103,7 +103,7 @@ void ToolTest::initTestCase()
 
 void ToolTest::answers_data()
 {
-    addColumns<QByteArray, QString>("line", "output");
+    addColumns<QByteArray, QString>();
     const auto row = [](const char* line, const char* output) {
         QTest::newRow(line) << QByteArray(line) << QString::fromUtf8(output) + QLatin1Char('\n');
     };
@@ -148,8 +148,7 @@ void ToolTest::answers_data()
 
 void ToolTest::answers()
 {
-    QFETCH(QByteArray, line);
-    QFETCH(QString, output);
+    const auto [line, output] = cells<QByteArray, QString>();
     const SettingsRoot root;
     const Result result = run(line.constData());
     QCOMPARE(result.errors, QString());
@@ -159,7 +158,7 @@ void ToolTest::answers()
 
 void ToolTest::refusals_data()
 {
-    addColumns<QByteArray, int, QString>("line", "status", "error");
+    addColumns<QByteArray, int, QString>();
     const auto row = [](const char* line, int status, const char* error) {
         QTest::newRow(line) << QByteArray(line) << status << QLatin1String("zel-i18n: ") + QString::fromUtf8(error);
     };
@@ -210,17 +209,17 @@ void ToolTest::refusals_data()
 
 void ToolTest::refusals()
 {
-    QFETCH(QByteArray, line);
+    const auto [line, status, error] = cells<QByteArray, int, QString>();
     const SettingsRoot root;
     const Result result = run(line.constData());
-    QTEST(result.status, "status");
-    QTEST(result.errors.trimmed(), "error");
+    QCOMPARE(result.status, status);
+    QCOMPARE(result.errors.trimmed(), error);
     QCOMPARE(result.output, QString());
 }
 
 void ToolTest::environments_data()
 {
-    const NamedRow<QString> row("region");
+    const NamedRow<QString> row;
     row("", "C, as neither LC_ALL, LC_TIME nor LANG is set");
     row("LC_ALL=C", "C, from LC_ALL");
     row("LC_ALL=de_DE.ISO-8859-1", "de_DE, from LC_ALL");
@@ -230,7 +229,7 @@ void ToolTest::environments_data()
 /** Nothing is said about a character set, and the region stays that of the environment. */
 void ToolTest::environments()
 {
-    QFETCH(const QString, region);
+    const auto [region] = cells<QString>();
     const Result result = Child(QStringLiteral("env"), QStringLiteral("-i %1 " ZEL_TOOL " doctor")
                                                            .arg(QLatin1String(QTest::currentDataTag()))
                                                            .split(' ', Qt::SkipEmptyParts))
@@ -255,7 +254,7 @@ void ToolTest::help()
 
 void ToolTest::json_data()
 {
-    addColumns<QByteArray, QStringList, int>("line", "keys", "lines");
+    addColumns<QByteArray, QStringList, int>();
     const auto row = [](const char* line, const char* keys, int lines) {
         QTest::newRow(line) << QByteArray(line) << wordsOf(keys) << lines;
     };
@@ -266,15 +265,15 @@ void ToolTest::json_data()
 
 void ToolTest::json()
 {
-    QFETCH(QByteArray, line);
+    const auto [line, keys, count] = cells<QByteArray, QStringList, int>();
     const SettingsRoot root;
     const Result result = run(line.constData());
     QCOMPARE(result.status, 0);
     const QStringList lines = result.output.split(QLatin1Char('\n'));
     QCOMPARE(lines.last(), QString());
-    QTEST(static_cast<int>(lines.size()) - 1, "lines");
+    QCOMPARE(static_cast<int>(lines.size()) - 1, count);
     for (const QString& text : lines.mid(0, lines.size() - 1)) {
-        QTEST(QJsonDocument::fromJson(text.toUtf8()).object().keys(), "keys");
+        QCOMPARE(QJsonDocument::fromJson(text.toUtf8()).object().keys(), keys);
     }
 }
 

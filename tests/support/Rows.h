@@ -4,12 +4,25 @@
 #include <QtCore/QStringList>
 #include <QtCore/QVariant>
 #include <QtTest/QTest>
+#include <tuple>
+
+/** The names of the columns of any table. */
+constexpr const char* columnNames[] = {"1", "2", "3", "4", "5", "6"};
 
 /** Adds the columns of a test's table. */
-template <typename... Columns, typename... Names>
-void addColumns(const Names&... names)
+template <typename... Columns>
+void addColumns()
 {
-    (QTest::addColumn<Columns>(names), ...);
+    const auto* name = std::begin(columnNames);
+    (QTest::addColumn<Columns>(*name++), ...);
+}
+
+/** The cells of the row that is tested. */
+template <typename... Columns>
+std::tuple<Columns...> cells()
+{
+    auto next = [name = std::begin(columnNames)]() mutable { return *name++; };
+    return std::tuple<Columns...>{*static_cast<const Columns*>(QTest::qData(next(), qMetaTypeId<Columns>()))...};
 }
 
 /** Adds the columns of a test's table, and then a row with each call. */
@@ -17,11 +30,7 @@ template <typename... Columns>
 class NamedRow
 {
 public:
-    template <typename... Names>
-    explicit NamedRow(const Names&... names)
-    {
-        addColumns<Columns...>(names...);
-    }
+    NamedRow() { addColumns<Columns...>(); }
 
     void operator()(const QString& name, const Columns&... cells) const
     {
@@ -34,8 +43,6 @@ template <typename... Columns>
 class Row : private NamedRow<Columns...>
 {
 public:
-    using NamedRow<Columns...>::NamedRow;
-
     void operator()(const Columns&... cells) const
     {
         const QStringList texts{QVariant::fromValue(cells).toString()...};
