@@ -62,52 +62,33 @@ void rewriteInPlace(const Target& target)
     write(target.file, target.contents);
 }
 
-void tear(const Target& target)
-{
-    write(target.file, target.contents.substr(0, target.contents.size() / 2));
-}
-
-void unlinkFile(const Target& target)
-{
-    fs::remove(target.file, ignored);
-}
-
-void putFifo(const Target& target)
-{
-    fs::remove(target.file, ignored);
-    ::mkfifo(target.file.c_str(), 0666);
-}
-
-void setTimeBack(const Target& target)
-{
-    write(target.file, target.contents);
-    fs::last_write_time(target.file, fs::file_time_type::clock::now() - std::chrono::hours(1), ignored);
-}
-
-void replaceDirectory(const Target& target)
-{
-    replace(target.file.parent_path(), target);
-}
-
-void replaceRoot(const Target& target)
-{
-    replace(target.root, target);
-}
-
-void swapLink(const Target& target)
-{
-    const fs::path link = target.root / "pps/system";
-    const fs::path other = fs::read_symlink(link, ignored) == "one" ? "two" : "one";
-    write(target.root / "pps" / other / target.file.filename(), target.contents);
-    fs::create_directory_symlink(other, link.string() + ".new", ignored);
-    if (!fs::is_symlink(link, ignored)) {
-        fs::remove_all(link, ignored);
-    }
-    fs::rename(link.string() + ".new", link, ignored);
-}
-
-constexpr void (*operations[])(const Target&) = {replaceByRename, rewriteInPlace,   tear,        unlinkFile, putFifo,
-                                                 setTimeBack,     replaceDirectory, replaceRoot, swapLink};
+/** Rename, rewrite, tear, unlink, put a fifo, set the time back, replace directory and root, swap a link. */
+constexpr void (*operations[])(const Target&) = {
+    replaceByRename,
+    rewriteInPlace,
+    [](const Target& target) { write(target.file, target.contents.substr(0, target.contents.size() / 2)); },
+    [](const Target& target) { fs::remove(target.file, ignored); },
+    [](const Target& target) {
+        fs::remove(target.file, ignored);
+        ::mkfifo(target.file.c_str(), 0666);
+    },
+    [](const Target& target) {
+        write(target.file, target.contents);
+        fs::last_write_time(target.file, fs::file_time_type::clock::now() - std::chrono::hours(1), ignored);
+    },
+    [](const Target& target) { replace(target.file.parent_path(), target); },
+    [](const Target& target) { replace(target.root, target); },
+    [](const Target& target) {
+        const fs::path link = target.root / "pps/system";
+        const fs::path other = fs::read_symlink(link, ignored) == "one" ? "two" : "one";
+        write(target.root / "pps" / other / target.file.filename(), target.contents);
+        fs::create_directory_symlink(other, link.string() + ".new", ignored);
+        if (!fs::is_symlink(link, ignored)) {
+            fs::remove_all(link, ignored);
+        }
+        fs::rename(link.string() + ".new", link, ignored);
+    },
+};
 
 Target clockTarget(const fs::path& root, int hours)
 {
@@ -202,7 +183,7 @@ private Q_SLOTS:
 void StressTest::endsWithTheLastValue()
 {
     const QTemporaryDir directory;
-    const fs::path root = directory.filePath(QStringLiteral("root")).toStdString();
+    const fs::path root = directory.filePath("root").toStdString();
     qputenv("ZEL_PPS_ROOT", root.c_str());
     operate(root, 0);
     MessageLog log;

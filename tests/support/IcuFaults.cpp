@@ -7,6 +7,7 @@
 #include <unicode/numfmt.h>
 #include <unicode/plurrule.h>
 #include <unicode/resbund.h>
+#include <unicode/simpletz.h>
 #include <unicode/timezone.h>
 
 #define ZEL_TEXT(x) #x
@@ -28,25 +29,11 @@
 namespace {
 
 /** A zone that cannot be cloned. */
-class UniqueZone : public icu::TimeZone
+class UniqueZone : public icu::SimpleTimeZone
 {
 public:
-    UniqueZone* clone() const override { return nullptr; }
-    UClassID getDynamicClassID() const override { return nullptr; }
-    int32_t getOffset(uint8_t /*era*/, int32_t /*year*/, int32_t /*month*/, int32_t /*day*/, uint8_t /*dayOfWeek*/,
-                      int32_t /*millis*/, UErrorCode& /*status*/) const override
-    {
-        return 0;
-    }
-    int32_t getOffset(uint8_t /*era*/, int32_t /*year*/, int32_t /*month*/, int32_t /*day*/, uint8_t /*dayOfWeek*/,
-                      int32_t /*millis*/, int32_t /*monthLength*/, UErrorCode& /*status*/) const override
-    {
-        return 0;
-    }
-    void setRawOffset(int32_t /*offsetMillis*/) override {}
-    int32_t getRawOffset() const override { return 0; }
-    UBool useDaylightTime() const override { return false; }
-    UBool inDaylightTime(UDate /*date*/, UErrorCode& /*status*/) const override { return false; }
+    UniqueZone() : SimpleTimeZone(0, "unique") {}
+    SimpleTimeZone* clone() const override { return nullptr; }
 };
 
 } // namespace
