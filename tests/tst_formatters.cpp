@@ -49,7 +49,6 @@ private Q_SLOTS:
     void metaObjects();
     void skeletons_data();
     void skeletons();
-    void clockIsFollowedThroughTheEventLoop();
     void withoutHoursNothingListens();
     void regionIsFollowedWithoutAnEventLoop();
     void zonesShowTheInstant_data();
@@ -147,19 +146,6 @@ void FormattersTest::skeletons()
     for (const char* const moment : {"2012-05-16T15:05:00", "2012-05-16T15:05:00Z", "2012-05-16T15:05:00+09:00"}) {
         QCOMPARE(formatter.format(at(moment)), text);
     }
-}
-
-void FormattersTest::clockIsFollowedThroughTheEventLoop()
-{
-    const CustomDateFormatter formatter("hm");
-    const QDateTime moment = at("2012-05-16T15:05:00");
-    QCOMPARE(formatter.format(moment), QString::fromUtf8("3:05\u202FPM"));
-    QVERIFY(m_root.setClock("24"));
-    QTRY_COMPARE_WITH_TIMEOUT(formatter.format(moment), QStringLiteral("15:05"), 1000);
-    QVERIFY(m_root.remove("/pps/system/settings"));
-    QTest::qWait(100);
-    QVERIFY(m_root.setClock("12"));
-    QTRY_COMPARE_WITH_TIMEOUT(formatter.format(moment), QString::fromUtf8("3:05\u202FPM"), 1000);
 }
 
 void FormattersTest::withoutHoursNothingListens()

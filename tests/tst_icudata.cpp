@@ -311,7 +311,7 @@ QByteArray describe(const char* name)
 QList<QByteArray> runSelf(const QString& mode, const QString& icuData, bool raised = false)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.remove(QStringLiteral("ICU_DATA"));
+    environment.remove("ICU_DATA");
     if (!icuData.isNull()) {
         environment.insert(QStringLiteral("ICU_DATA"), icuData);
     }
@@ -611,10 +611,10 @@ void TestIcuData::namedDirectoryIsKept()
 {
     const QTemporaryDir tree;
     const QDir data(QFile::decodeName(dataDirectory()));
-    const QString library = tree.filePath(QStringLiteral("lib/libzelicudata.so.1"));
-    QVERIFY(QDir(tree.path()).mkpath(QStringLiteral("lib")) && QDir(tree.path()).mkpath(QStringLiteral("share/zel")));
-    QVERIFY(QFile::link(data.path(), tree.filePath(QStringLiteral("share/zel/icu"))));
-    QVERIFY(QFile::copy(data.filePath(QStringLiteral("../../../lib/libzelicudata.so.1")), library));
+    const QString library = tree.filePath("lib/libzelicudata.so.1");
+    QVERIFY(QDir(tree.path()).mkpath("lib") && QDir(tree.path()).mkpath("share/zel"));
+    QVERIFY(QFile::link(data.path(), tree.filePath("share/zel/icu")));
+    QVERIFY(QFile::copy(data.filePath("../../../lib/libzelicudata.so.1"), library));
 
     const StockData stockData;
     u_setDataDirectory("/elsewhere");
@@ -636,10 +636,10 @@ void TestIcuData::generatorMends_data()
 {
     const NamedRow<Damage> row;
     row("nothing", [](const QDir&) {});
-    row("bundle gone", [](const QDir& bundles) { QFile::remove(bundles.filePath(QStringLiteral("de.res"))); });
-    row("bundle cut short", [](const QDir& bundles) { QFile::resize(bundles.filePath(QStringLiteral("fr.res")), 9); });
-    row("pool gone", [](const QDir& bundles) { QDir(bundles.filePath(QStringLiteral("pool"))).removeRecursively(); });
-    row("list gone", [](const QDir& bundles) { QFile::remove(bundles.filePath(QStringLiteral("bundles.list"))); });
+    row("bundle gone", [](const QDir& bundles) { QFile::remove(bundles.filePath("de.res")); });
+    row("bundle cut short", [](const QDir& bundles) { QFile::resize(bundles.filePath("fr.res"), 9); });
+    row("pool gone", [](const QDir& bundles) { QDir(bundles.filePath("pool")).removeRecursively(); });
+    row("list gone", [](const QDir& bundles) { QFile::remove(bundles.filePath("bundles.list")); });
     row("all gone", [](const QDir& bundles) { QDir(bundles).removeRecursively(); });
 }
 

@@ -22,13 +22,10 @@ private Q_SLOTS:
     void translates();
     void dateFormats_data();
     void dateFormats();
-    void percentages_data();
-    void percentages();
     void timesFollowTheClock_data();
     void timesFollowTheClock();
     void amPmComesAndGoes_data();
     void amPmComesAndGoes();
-    void regionIsTheDefault();
     void clockRewritesSkeletons_data();
     void clockRewritesSkeletons();
 
@@ -117,27 +114,6 @@ void PatternsTest::dateFormats()
     QCOMPARE(dateFormat(QLocale(locale), static_cast<DateFormat::Type>(type)), pattern);
 }
 
-void PatternsTest::percentages_data()
-{
-    const Row<QString, double, int, int, QString> row;
-    row("en_US", 0.256, 1, 0, "25.6%");
-    row("en_US", 0.256, 0, 0, "26%");
-    row("en_US", 0.5, 2, 2, "50.00%");
-    row("en_US", 0.5, 0, 3, "50%");
-    row("en_US", 0.125, 0, 0, "12%");
-    row("en_US", -12.5, 0, 0, "-1,250%");
-    row("de_DE", 0.256, 1, 0, "25,6\u00A0%");
-    row("fr_FR", 12.345, 1, 0, "1\u202F234,5\u00A0%");
-    row("tr_TR", 0.5, 0, 0, "%50");
-    row("ar_EG", 0.256, 1, 0, "٢٥٫٦٪\u061C");
-}
-
-void PatternsTest::percentages()
-{
-    const auto [locale, value, maximum, minimum, text] = cells<QString, double, int, int, QString>();
-    QCOMPARE(toPercentageString(QLocale(locale), value, maximum, minimum), text);
-}
-
 void PatternsTest::timesFollowTheClock_data()
 {
     addColumns<QString, int, bool, QString, QString, bool>();
@@ -163,7 +139,7 @@ void PatternsTest::timesFollowTheClock_data()
     row("ko_KR", DateFormat::Medium, false, "AP h:mm:ss", "hh:mm:ss");
     row("sq_AL", DateFormat::Medium, false, "h:mm:ss ap", "hh:mm:ss", true);
     // With an era in its date the text is Qt's own, which knows no clock.
-    const QByteArray thai = QLocale(QStringLiteral("th_TH")).dateTimeFormat(QLocale::LongFormat).toUtf8();
+    const QByteArray thai = QLocale("th_TH").dateTimeFormat(QLocale::LongFormat).toUtf8();
     row("th_TH", DateFormat::Long, true, thai.constData(), thai.constData());
     row("fr_CA", DateFormat::Medium, false, "h 'h' mm 'min' ss 's' ap", "hh 'h' mm 'min' ss 's'");
     row("fr_CA", DateFormat::Full, false, "h 'h' mm 'min' ss 's' ap t", "hh 'h' mm 'min' ss 's' t");
@@ -217,16 +193,6 @@ void PatternsTest::amPmComesAndGoes()
     QString comma = QStringLiteral("h:mm AP, t");
     AmPmField::remove(QLocale::Albanian, comma);
     QCOMPARE(comma, QStringLiteral("hh:mm, t"));
-}
-
-void PatternsTest::regionIsTheDefault()
-{
-    QVERIFY(setClock(24));
-    const QLocale german(QStringLiteral("de_DE"));
-    QCOMPARE(dateFormat(DateFormat::Long), dateFormat(german, DateFormat::Long));
-    QCOMPARE(timeFormat(DateFormat::Short), QStringLiteral("hh:mm"));
-    QCOMPARE(dateTimeFormat(DateFormat::Medium), dateTimeFormat(german, DateFormat::Medium));
-    QCOMPARE(toPercentageString(0.5, 0, 0), QString::fromUtf8("50\u00A0%"));
 }
 
 void PatternsTest::clockRewritesSkeletons_data()

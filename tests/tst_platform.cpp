@@ -241,7 +241,7 @@ void PlatformTest::writes()
     // A directory cannot be made below a regular file.
     QVERIFY(root.remove(path));
     removeDirectory(root, "/pps/system");
-    QVERIFY(root.write(QStringLiteral("/pps/system"), "a file"));
+    QVERIFY(root.write("/pps/system", "a file"));
     QVERIFY(!writer.write(object("de_DE")));
     QVERIFY2(writer.errorString().endsWith(QLatin1String("Not a directory")), qPrintable(writer.errorString()));
 }
@@ -263,8 +263,7 @@ void PlatformTest::opens_data()
     row(
         "directory", [](const SettingsRoot& root) { QDir().mkpath(root.file(path)); }, "Is a directory", "");
     row(
-        "below a file", [](const SettingsRoot& root) { root.write(QStringLiteral("/pps"), "x"); }, "Not a directory",
-        "");
+        "below a file", [](const SettingsRoot& root) { root.write("/pps", "x"); }, "Not a directory", "");
     row(
         "device",
         [](const SettingsRoot& root) {
@@ -310,8 +309,7 @@ void PlatformTest::notifies_data()
     row(
         "rewritten with the same", create, [](const SettingsRoot& root) { root.rewrite(path, object("de_DE")); }, 0);
     row(
-        "neighbour changed", create,
-        [](const SettingsRoot& root) { root.write(QStringLiteral("/pps/system/settings"), "x"); }, 0);
+        "neighbour changed", create, [](const SettingsRoot& root) { root.write("/pps/system/settings", "x"); }, 0);
     row("removed", create, [](const SettingsRoot& root) { root.remove(path); });
     row("removed and created", create, [](const SettingsRoot& root) {
         root.remove(path);
@@ -322,29 +320,28 @@ void PlatformTest::notifies_data()
         root.write(path, object("fr_FR"));
     });
     const Action createLinked = [](const SettingsRoot& root) {
-        root.write(QStringLiteral("/one/locale"), object("de_DE"));
-        root.write(QStringLiteral("/two/locale"), object("fr_FR"));
-        QDir().mkpath(root.file(QStringLiteral("/pps")));
-        QFile::link(QStringLiteral("../one"), root.file(QStringLiteral("/pps/system")));
+        root.write("/one/locale", object("de_DE"));
+        root.write("/two/locale", object("fr_FR"));
+        QDir().mkpath(root.file("/pps"));
+        QFile::link(QStringLiteral("../one"), root.file("/pps/system"));
     };
     row("linked object rewritten", createLinked,
-        [](const SettingsRoot& root) { root.rewrite(QStringLiteral("/one/locale"), object("fr_FR")); });
+        [](const SettingsRoot& root) { root.rewrite("/one/locale", object("fr_FR")); });
     row("linked object replaced", createLinked, [](const SettingsRoot& root) {
-        std::rename(QFile::encodeName(root.file(QStringLiteral("/two/locale"))).constData(),
-                    QFile::encodeName(root.file(QStringLiteral("/one/locale"))).constData());
+        std::rename(QFile::encodeName(root.file("/two/locale")).constData(),
+                    QFile::encodeName(root.file("/one/locale")).constData());
     });
     row("linked directory replaced", createLinked, [](const SettingsRoot& root) {
         removeDirectory(root, "/one");
-        root.write(QStringLiteral("/one/locale"), object("fr_FR"));
+        root.write("/one/locale", object("fr_FR"));
     });
     row("link in the middle swapped", createLinked, [](const SettingsRoot& root) {
-        QFile::link(root.file(QStringLiteral("/two")), root.file(QStringLiteral("/pps/other")));
-        std::rename(QFile::encodeName(root.file(QStringLiteral("/pps/other"))).constData(),
-                    QFile::encodeName(root.file(QStringLiteral("/pps/system"))).constData());
+        QFile::link(root.file("/two"), root.file("/pps/other"));
+        std::rename(QFile::encodeName(root.file("/pps/other")).constData(),
+                    QFile::encodeName(root.file("/pps/system")).constData());
     });
-    row("directory above renamed", create, [](const SettingsRoot& root) {
-        QDir().rename(root.file(QStringLiteral("/pps")), root.file(QStringLiteral("/old")));
-    });
+    row("directory above renamed", create,
+        [](const SettingsRoot& root) { QDir().rename(root.file("/pps"), root.file("/old")); });
 }
 
 void PlatformTest::notifies()
@@ -598,7 +595,7 @@ void PlatformTest::keepsRelativeRoot()
     const SettingsRoot root;
     QVERIFY(root.setRegion("de_DE"));
     const QString before = QDir::currentPath();
-    QDir::setCurrent(QDir(root.path()).filePath(QStringLiteral("..")));
+    QDir::setCurrent(QDir(root.path()).filePath(".."));
     qputenv("ZEL_PPS_ROOT", QFile::encodeName(QFileInfo(root.path()).fileName()));
     QCOMPARE(region().name(), QStringLiteral("de_DE"));
     QDir::setCurrent(before);

@@ -59,7 +59,6 @@ private Q_SLOTS:
     void ranges();
     void patterns_data();
     void patterns();
-    void patternFollowsItsSetters();
 
 private:
     SettingsRoot m_root;
@@ -241,21 +240,6 @@ void RelativeTest::patterns()
                                       types, nullptr);
     QCOMPARE(pattern.format(at(qPrintable(moment))), text);
     QCOMPARE(log.take(), QStringList());
-}
-
-void RelativeTest::patternFollowsItsSetters()
-{
-    const QDateTime anchor = at("2012-05-16T12:00:00");
-    RelativeDatePattern pattern(QLocale("en_US"), ClockFormat::Use24hourClock, anchor, "Ejm",
-                                {RelativeDateElement::NamedDays}, nullptr);
-    const QDateTime moment = at("2012-05-17T18:05:00");
-    QCOMPARE(pattern.format(moment), QStringLiteral("tomorrow 18:05"));
-    pattern.setAnchorTime(anchor.addDays(2));
-    QCOMPARE(pattern.format(moment), QStringLiteral("yesterday 18:05"));
-    pattern.setLocale(QLocale("de_DE"));
-    QCOMPARE(pattern.format(moment), QStringLiteral("gestern, 18:05"));
-    pattern.setClockFormat(ClockFormat::Use12hourClock);
-    QCOMPARE(pattern.format(moment), QString::fromUtf8("gestern 6:05\u202FPM"));
 }
 
 QTEST_GUILESS_MAIN(RelativeTest)

@@ -116,7 +116,7 @@ void formatSomething(const CustomDateFormatter& formatter)
 void endBeforeApplication(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
-    formatSomething(CustomDateFormatter(QStringLiteral("hmz")));
+    formatSomething(CustomDateFormatter("hmz"));
 }
 
 void endAfterApplication(int argc, char** argv)
@@ -136,24 +136,24 @@ void formatBeforeApplication(int argc, char** argv)
 void endAfterThread(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
-    std::thread([] { formatSomething(CustomDateFormatter(QStringLiteral("hmz"))); }).join();
-    formatSomething(CustomDateFormatter(QStringLiteral("hmz")));
+    std::thread([] { formatSomething(CustomDateFormatter("hmz")); }).join();
+    formatSomething(CustomDateFormatter("hmz"));
 }
 
 struct LastWords
 {
-    ~LastWords() { formatSomething(CustomDateFormatter(QStringLiteral("hmz"))); }
+    ~LastWords() { formatSomething(CustomDateFormatter("hmz")); }
 };
 
 void formatAfterMain(int /*argc*/, char** /*argv*/)
 {
     static const LastWords lastWords;
-    formatSomething(CustomDateFormatter(QStringLiteral("hmz")));
+    formatSomething(CustomDateFormatter("hmz"));
 }
 
 QString clockText()
 {
-    return CustomDateFormatter(QStringLiteral("hm")).format(anchor);
+    return CustomDateFormatter("hm").format(anchor);
 }
 
 // The thread that asked first is gone, and so is its event loop.
@@ -181,7 +181,7 @@ void waitInMessageHandler(int argc, char** argv)
     const SettingsRoot root;
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) { std::thread(clockText).join(); });
     clockText();
-    root.write(QStringLiteral("/pps/system/settings"), "garbage");
+    root.write("/pps/system/settings", "garbage");
     QTest::qSleep(100);
     clockText();
 }

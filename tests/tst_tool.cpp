@@ -110,6 +110,8 @@ void ToolTest::answers_data()
     row("percent|--locale|en_US|--max|1|0.256|-0.5", "25.6%\n-50%");
     row("percent|--locale|en_US|--min|2|0.5|-.5", "50.00%\n-50.00%");
     row("percent|--locale|en_US|--min|3|--max|0|0.5", "50%");
+    row("percent|--locale|en_US|0.256|0.125", "26%\n12%");
+    row("percent|--locale|tr_TR|0.5", "%50");
     row("percent|--device|region=de_DE|12.5", "1.250\u00a0%");
     row("percent|--locale|en_US|--json|0.25", R"({"locale":"en_US","text":"25%","value":0.25})");
 
@@ -369,7 +371,7 @@ void ToolTest::deviceRoundTrip()
              QStringLiteral("hour-format  24\ntime-zone    Europe/Berlin\nregion       sr_Latn_RS\n"));
     QCOMPARE(textOf(root.file(settings)),
              QByteArray("@settings\nhourFormat:n:24\nmuted:b:false\nringer::loud\\nand clear\nvolume:n:0.5\n"));
-    QCOMPARE(textOf(root.file(QStringLiteral("/pps/services/confstr/_CS_TIMEZONE"))),
+    QCOMPARE(textOf(root.file("/pps/services/confstr/_CS_TIMEZONE")),
              QByteArray("@_CS_TIMEZONE\n_CS_TIMEZONE::Europe/Berlin\n"));
 
     for (const char* const object : {"/pps/services/confstr/_CS_TIMEZONE", "/pps/services/confstr", "/pps/services"}) {
@@ -381,7 +383,7 @@ void ToolTest::deviceRoundTrip()
              QByteArray("@settings\nmuted:b:false\nringer::loud\\nand clear\nvolume:n:0.5\n"));
     QCOMPARE(run("device|--json").output,
              QStringLiteral("{\"hour-format\":null,\"region\":\"sr_Latn_RS\",\"time-zone\":null}\n"));
-    QCOMPARE(QDir(root.file(QStringLiteral("/pps/system"))).entryList(QDir::Files | QDir::Hidden),
+    QCOMPARE(QDir(root.file("/pps/system")).entryList(QDir::Files | QDir::Hidden),
              QStringList({QStringLiteral("locale"), QStringLiteral("settings")}));
 }
 
@@ -389,7 +391,7 @@ void ToolTest::writersWaitForEachOther()
 {
     const SettingsRoot root;
     QVERIFY(root.setClock("12"));
-    const QByteArray directory = QFile::encodeName(root.file(QStringLiteral("/pps/system")));
+    const QByteArray directory = QFile::encodeName(root.file("/pps/system"));
     const int lock = ::open(directory.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     QCOMPARE(::flock(lock, LOCK_SH), 0);
     Running set("device|set|hour-format=24");
@@ -408,9 +410,9 @@ void ToolTest::valuesAreNoCommandsToTerminals()
     const QString value = QStringLiteral("de?[2J?DE?");
     QVERIFY(run("device").output.endsWith(value + QLatin1Char('\n')));
     QVERIFY(run("doctor").output.contains(QLatin1String("region           ") + value + QLatin1String(", from ")));
-    QVERIFY(root.write(QStringLiteral("/\x1b"), "no directory"));
-    qputenv("ZEL_PPS_ROOT", QFile::encodeName(root.file(QStringLiteral("/\x1b"))));
-    expectRefusal("device|get|region", root.file(QStringLiteral("/?/pps/system/locale: Not a directory")));
+    QVERIFY(root.write("/\x1b", "no directory"));
+    qputenv("ZEL_PPS_ROOT", QFile::encodeName(root.file("/\x1b")));
+    expectRefusal("device|get|region", root.file("/?/pps/system/locale: Not a directory"));
 }
 
 void ToolTest::machineThatIsNoDevice()
@@ -431,7 +433,7 @@ void ToolTest::nothingIsWrittenBeforeAllIsChecked()
     const SettingsRoot root;
     QVERIFY(root.setClock("12"));
     QCOMPARE(run("device|set|hour-format=24|region=xx").status, 1);
-    QVERIFY(root.write(QStringLiteral("/pps/system/locale"), "garbage\n"));
+    QVERIFY(root.write("/pps/system/locale", "garbage\n"));
     QCOMPARE(run("device|set|hour-format=24|region=de_DE").status, 1);
     QCOMPARE(run("device|get|hour-format").output, QStringLiteral("12\n"));
 }
@@ -453,8 +455,8 @@ void ToolTest::tornObject()
 void ToolTest::rootThatCannotBeRead()
 {
     const SettingsRoot root;
-    QVERIFY(root.write(QStringLiteral("/file"), "no directory"));
-    const QString file = root.file(QStringLiteral("/file"));
+    QVERIFY(root.write("/file", "no directory"));
+    const QString file = root.file("/file");
     qputenv("ZEL_PPS_ROOT", QFile::encodeName(file));
     for (const char* const line : {"format|hm", "device|get|hour-format", "device|set|--replace|hour-format=24"}) {
         expectRefusal(line, file + settings + QStringLiteral(": Not a directory"));
@@ -480,7 +482,7 @@ void ToolTest::doctorFindsWhatIsWrong()
 
     QVERIFY(root.setClock("25"));
     QVERIFY(root.setTimeZone("Asia/Tokyo"));
-    QVERIFY(root.write(QStringLiteral("/pps/system/locale"), "@locale\nregion::de_DE"));
+    QVERIFY(root.write("/pps/system/locale", "@locale\nregion::de_DE"));
     const Result wrong = run("doctor");
     QCOMPARE(wrong.status, 1);
     QVERIFY(wrong.output.contains(
@@ -570,7 +572,7 @@ void ToolTest::galleryShowsBothClocks()
 {
     const SettingsRoot root;
     QVERIFY(root.setClock("12"));
-    const QString file = m_temporary.filePath(QStringLiteral("gallery"));
+    const QString file = m_temporary.filePath("gallery");
     const QByteArray line = "gallery|--locale|de_DE|--locale|th_TH|--locale|sq_AL|--locale|ar_EG|--html|" +
                             file.toUtf8() + ".html|--tsv|" + file.toUtf8() + ".tsv";
     const Result result = run(line.constData());
