@@ -526,7 +526,11 @@ void ToolTest::watchFollowsTheDevice()
 
     QVERIFY(root.remove(settings));
     QVERIFY(root.setClock("24"));
-    QCOMPARE(watch.line(second), QStringLiteral("16:30 MESZ"));
+    QString line = watch.line(second);
+    if (line.startsWith(QLatin1String("4:30"))) { // a slow machine shows the object that is not there, too
+        line = watch.line(second);
+    }
+    QCOMPARE(line, QStringLiteral("16:30 MESZ"));
 
     watch.signal(SIGTERM);
     const Result result = watch.finish();

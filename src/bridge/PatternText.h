@@ -23,10 +23,7 @@ public:
     const QString& text() const { return m_text; }
 
     /** Whether the character is between apostrophes; a closing apostrophe is, an opening one is not. */
-    bool isQuoted(int position) const
-    {
-        return !m_quoted.empty() && m_quoted[static_cast<std::size_t>(position)];
-    }
+    bool isQuoted(int position) const { return !m_quoted.empty() && m_quoted[static_cast<std::size_t>(position)]; }
 
     /** Whether the character is the letter of a field. */
     bool isField(int position) const;
