@@ -28,6 +28,7 @@
 #include <zel/PpsObject.h>
 #include <zel/system/LocaleHandler.h>
 #include <zel/utility/i18n/CustomDateFormatter.h>
+#include <zel/utility/i18n/Formatting.h>
 #include <zel/utility/i18n/RelativeDateFormatter.h>
 
 using namespace zel::utility::i18n;
@@ -643,6 +644,7 @@ void FaultsTest::answersWithIcuDataDamaged()
     // Bundles are looked at before their first use, and not at every start.
     if (problem.contains(QLatin1String(".res"))) {
         QCOMPARE(run("LD_LIBRARY_PATH", tree.filePath("lib"), QStringLiteral("--load")).errors, QString());
+        QCOMPARE(run("LD_LIBRARY_PATH", tree.filePath("lib"), QStringLiteral("--percent")).errors, errors);
     }
 
     const Child::Result named = run("ICU_DATA", data);
@@ -664,6 +666,9 @@ int main(int argc, char** argv)
     }
     if (argc > 1 && QByteArray(argv[1]) == "--load") {
         return 0;
+    }
+    if (argc > 1 && QByteArray(argv[1]) == "--percent") {
+        return toPercentageString(QLocale("de_DE"), 0.5, 0, 0).isEmpty() ? 1 : 0;
     }
     FaultsTest test;
     return QTest::qExec(&test, argc, argv);

@@ -9,6 +9,7 @@
 #include "support/ZoneName.h"
 #include <QtCore/QMetaMethod>
 #include <QtCore/QMetaProperty>
+#include <QtCore/QPointer>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 #include <zel/utility/i18n/CustomDateFormatter.h>
@@ -392,6 +393,10 @@ void FormattersTest::invalidTypeFormatsNothing()
     QCOMPARE(log.take(), expected);
     formatter.setType(RelativeDateFormat::NonTimeCritical);
     QCOMPARE(formatter.format(QDateTime::currentDateTime()), QStringLiteral("today"));
+    const QPointer<RelativeDateFormatter> shortLived(new RelativeDateFormatter(RelativeDateFormat::TimeCritical));
+    connect(shortLived, &RelativeDateFormatter::changed, this, [&shortLived] { delete shortLived; });
+    shortLived->setType(RelativeDateFormat::NonTimeCritical);
+    QVERIFY(shortLived.isNull());
 }
 
 QTEST_GUILESS_MAIN(FormattersTest)

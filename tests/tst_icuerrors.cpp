@@ -119,6 +119,16 @@ QString otherSkeletonDuringUpdate()
     return formatter.format(moment);
 }
 
+/** What the handler sets stays. */
+QString otherClockDuringUpdate()
+{
+    RelativeDateFormatter formatter(RelativeDateFormat::TimeCritical);
+    formatter.setAnchorTime(moment);
+    const Interruption interruption([&formatter] { formatter.setClockFormat(ClockFormat::Use24hourClock); });
+    formatter.setClockFormat(static_cast<ClockFormat::Type>(99));
+    return formatter.format(moment.addDays(2)) + QLatin1Char('|') + formatter.format(moment.addDays(1));
+}
+
 QString otherTypeDuringFormat()
 {
     RelativeDateFormatter formatter(RelativeDateFormat::TimeCritical);
@@ -378,6 +388,7 @@ void IcuErrorsTest::handlersUseTheFormatter_data()
     row("skeleton in format", Call(otherSkeletonDuringFormat),
         "5/1/2012, " + zoneName({}, moment, icu::Locale::getUS()) + "|May 2012");
     row("skeleton in an update", Call(otherSkeletonDuringUpdate), "May 2012");
+    row("clock in an update", Call(otherClockDuringUpdate), "Thu 12:25|tomorrow 12:25");
     row("type in format", Call(otherTypeDuringFormat), "5 minutes ago|yesterday");
 }
 

@@ -54,7 +54,7 @@ private Q_SLOTS:
     void phrasesThatDoNotFit();
     void distances_data();
     void distances();
-    void timeSpecificationsDoNotCount();
+    void timeZonesDoNotCount();
     void ranges_data();
     void ranges();
     void patterns_data();
@@ -170,7 +170,7 @@ void RelativeTest::distances()
     }
 }
 
-void RelativeTest::timeSpecificationsDoNotCount()
+void RelativeTest::timeZonesDoNotCount()
 {
     const QDate day(2012, 3, 25);
     const QDateTime local(day, QTime(10, 0));

@@ -84,6 +84,7 @@ Finding examineIcu()
 Finding examineData()
 {
     const QString subject = QStringLiteral("ICU data");
+    icudata::checkDataDirectory(); // leaves a damaged directory
     const QString ours = QFile::decodeName(icudata::dataDirectory());
     const QString used = QFile::decodeName(u_getDataDirectory());
     if (icudata::isDataDirectoryInUse()) {
@@ -96,7 +97,7 @@ Finding examineData()
     }
     if (!ours.isEmpty()) {
         return {Finding::Wrong, subject,
-                QStringLiteral("ICU's own, as what ICU_DATA names is damaged or made for another"),
+                QStringLiteral("ICU's own, as what ICU_DATA names is damaged or made for another ICU"),
                 QStringLiteral("unset ICU_DATA, or mend what it names")};
     }
     return {Finding::Wrong, subject, QStringLiteral("ICU's own; ") + QFile::decodeName(icudata::dataDirectoryProblem()),

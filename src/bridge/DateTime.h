@@ -15,7 +15,7 @@ public:
     /** The instant that a moment denotes. */
     static UDate toICU(const QDateTime& dateTime);
 
-    /** The date and time that a moment shows, whatever its time specification, as if it stood in GMT. */
+    /** The date and time that a moment shows, whatever its time zone, as if it stood in GMT. */
     static UDate wallClock(const QDateTime& dateTime);
 };
 

@@ -10,6 +10,7 @@ namespace zel::utility::i18n {
 // Qt leaves a likely territory out ("ar" for Egypt), but ICU 76 and later take "ar" for Arabic with Latin digits.
 icu::Locale Locale::named(const QLocale& locale)
 {
+    icudata::checkDataDirectory();
     if (locale.language() == QLocale::C) {
         return icu::Locale::getEnglish(); // Qt 6.9 and later add the variant POSIX
     }
@@ -24,7 +25,6 @@ icu::Locale Locale::named(const QLocale& locale)
 
 icu::Locale Locale::toICU(const QLocale& locale)
 {
-    icudata::checkDataDirectory();
     icu::Locale icuLocale = named(locale);
     icu::ErrorCode status;
     icuLocale.setKeywordValue("calendar", "gregorian", status);

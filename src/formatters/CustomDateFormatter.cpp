@@ -216,6 +216,9 @@ QStringList CustomDateFormatter::formatAll(const QList<QDateTime>& dateTimes) co
     if (!isValid()) {
         return reportInvalid(dateTimes.size());
     }
+    if (dateTimes.isEmpty()) {
+        return {};
+    }
     d->updateRegionLocale();
     // Kept until the texts are made: a message handler may set another skeleton.
     const std::shared_ptr<icu::SimpleDateFormat> formatter = d->formatter;

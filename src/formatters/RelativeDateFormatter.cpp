@@ -12,6 +12,7 @@
 #include "resources/NowWord.h"
 #include <algorithm>
 #include <iterator>
+#include <QtCore/QPointer>
 #include <utility>
 
 namespace zel::utility::i18n {
@@ -204,8 +205,11 @@ void RelativeDateFormatter::setType(RelativeDateFormat::Type type)
         return;
     }
     auto previous = std::exchange(d, std::make_unique<RelativeDateFormatterPrivate>(this, type));
+    const QPointer<RelativeDateFormatter> alive(this);
     Q_EMIT changed();
-    d->keepWhileInUse(std::move(previous));
+    if (alive) {
+        d->keepWhileInUse(std::move(previous));
+    }
 }
 
 void RelativeDateFormatter::setLocale(const QLocale& locale)

@@ -18,7 +18,7 @@ public:
 
     /**
      * A moment written with an ICU pattern; a null string, with messages, on failure. The date and time are shown as
-     * the moment holds them, whatever its time specification; a zone field shows GMT.
+     * the moment holds them, whatever its time zone; a zone field shows GMT.
      */
     static QString formatFromPattern(const QString& pattern, const QDateTime& dateTime, const QLocale& locale);
 };

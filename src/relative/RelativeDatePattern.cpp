@@ -109,7 +109,12 @@ bool RelativeDatePattern::isAlone(RelativeDateElement::Type element) const
 
 void RelativeDatePattern::initPattern()
 {
-    m_pattern = DatePattern::patternFromSkeleton(ClockPattern::apply(m_skeleton, m_clockFormat), m_locale);
+    const unsigned int update = ++m_updates;
+    const QString pattern = DatePattern::patternFromSkeleton(ClockPattern::apply(m_skeleton, m_clockFormat), m_locale);
+    // An update that a message handler started during this one is the newer one.
+    if (update == m_updates) {
+        m_pattern = pattern;
+    }
 }
 
 int RelativeDatePattern::count(RelativeDateElement::Type element, const QDateTime& dateTime) const

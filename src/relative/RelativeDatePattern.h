@@ -59,6 +59,7 @@ private:
     QList<RelativeDateElement::Type> m_elements;
     QString m_skeleton;
     QString m_pattern;
+    unsigned int m_updates = 0;
 };
 
 } // namespace zel::utility::i18n

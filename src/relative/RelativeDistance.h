@@ -26,7 +26,7 @@ public:
     /** Both in milliseconds from 1970-01-01 00:00 on the wall clock. */
     RelativeDistance(qint64 anchor, qint64 moment) : m_anchor(anchor), m_moment(moment) {}
 
-    /** The date and time that a moment shows, whatever its time specification. */
+    /** The date and time that a moment shows, whatever its time zone. */
     static qint64 reading(const QDateTime& dateTime);
 
     /** Whether a reading is in the years 1 to 9999. */
