@@ -4,7 +4,7 @@
 #include "bridge/String.h"
 #include "settings/LinkWatcher.h"
 #include <QtCore/QFile>
-#include <QtCore/QFileInfo>
+#include <QtCore/QStringList>
 #include <sys/stat.h>
 #include <unicode/timezone.h>
 
@@ -17,25 +17,39 @@ bool isKnown(const icu::TimeZone& zone)
     return zone != icu::TimeZone::getUnknown();
 }
 
+constexpr QLatin1String directory("/zoneinfo/");
+
+bool isInDatabase(const QString& path)
+{
+    return path.contains(directory);
+}
+
 // The name of a file of the time zone database within it; other names as they are.
 QString withoutDirectory(const QString& id)
 {
-    constexpr QLatin1String directory("/zoneinfo/");
     const auto start = id.lastIndexOf(directory);
     return start < 0 ? id : id.mid(start + directory.size());
 }
 
-// The link may lead to the database through others.
-QString linkedId(QString path)
+// The link, and what it leads to: a file of the database, perhaps through other links.
+QStringList chainOf(const QString& link)
 {
     constexpr int mostLinks = 8;
-    for (int i = 0; i < mostLinks && QFileInfo(path).isSymLink(); ++i) {
-        path = QFile::symLinkTarget(path);
-        if (path.contains(QLatin1String("/zoneinfo/"))) {
-            return withoutDirectory(path);
+    QStringList chain(link);
+    for (int i = 0; i < mostLinks && !isInDatabase(chain.last()); ++i) {
+        const QString target = QFile::symLinkTarget(chain.last());
+        if (target.isEmpty()) {
+            break;
         }
+        chain.append(target);
     }
-    return {};
+    return chain;
+}
+
+QString linkedId(const QString& link)
+{
+    const QString file = chainOf(link).last();
+    return isInDatabase(file) ? withoutDirectory(file) : QString();
 }
 
 QString idOf(const QByteArray& variable, const QString& link)
@@ -82,16 +96,20 @@ std::unique_ptr<QObject> HostTimeZone::listen()
 
 QByteArray HostTimeZone::stamp() const
 {
-    struct stat status = {};
-    ::lstat(QFile::encodeName(m_link).constData(), &status);
     QByteArray stamp;
     const auto append = [&stamp](const auto& item) {
         stamp.append(reinterpret_cast<const char*>(&item), static_cast<int>(sizeof(item)));
     };
-    append(status.st_dev);
-    append(status.st_ino);
-    append(status.st_mtim);
-    append(status.st_ctim);
+    for (const QString& name : chainOf(m_link)) {
+        const QByteArray path = QFile::encodeName(name);
+        struct stat status = {};
+        ::lstat(path.constData(), &status);
+        stamp += path; // a link made anew within a tick of the clock may be the same in all that follows
+        append(status.st_dev);
+        append(status.st_ino);
+        append(status.st_mtim);
+        append(status.st_ctim);
+    }
     return stamp + qgetenv("TZ");
 }
 

@@ -24,7 +24,7 @@ public:
     std::unique_ptr<QObject> listen() override;
 
 private:
-    /** Identifies TZ and one version of the link; costs one lstat(). */
+    /** Identifies TZ and one version of the link and of all that it leads to. */
     QByteArray stamp() const;
 
     const QString m_link;
