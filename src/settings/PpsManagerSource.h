@@ -4,6 +4,7 @@
 #include "settings/HostSetting.h"
 #include "settings/PpsManager.h"
 #include <memory>
+#include <mutex>
 
 namespace zel::utility::i18n {
 
@@ -15,6 +16,8 @@ public:
 
     /** Null where the host has no such setting. */
     const std::unique_ptr<HostSetting> setting;
+
+    std::mutex mutex; // for the way of a value from the setting to the manager
 };
 
 } // namespace zel::utility::i18n

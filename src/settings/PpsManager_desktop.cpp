@@ -2,6 +2,7 @@
 
 #include "settings/PpsManager.h"
 
+#include "bridge/DeferredMessages.h"
 #include "bridge/Diagnostic.h"
 #include "settings/ChosenSetting.h"
 #include "settings/HostClock.h"
@@ -75,7 +76,12 @@ void PpsManager::onPpsUpdate()
 
 bool PpsManager::update(bool /*announced*/)
 {
-    if (setValue(m_source->setting->value())) {
+    const DeferredMessages messages;
+    // Both in one step: what one thread has read is not to be stored after a later answer that another has.
+    std::unique_lock lock(m_source->mutex);
+    const bool isOther = setValue(m_source->setting->value());
+    lock.unlock();
+    if (isOther) {
         Q_EMIT changed();
     }
     return true;
