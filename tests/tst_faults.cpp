@@ -35,7 +35,7 @@ using namespace zel::utility::i18n;
 
 // Something that is done to the settings, or to a directory with ICU data.
 using Fault = void (*)(const SettingsRoot& root);
-using Damage = void (*)(const QDir& directory);
+using Damage = void (*)(const QString& file);
 Q_DECLARE_METATYPE(Fault)
 Q_DECLARE_METATYPE(Damage)
 
@@ -577,64 +577,56 @@ void FaultsTest::seesNoTornValue()
 
 void FaultsTest::answersWithIcuDataDamaged_data()
 {
-    addColumns<Damage, QString>();
-    const auto row = [](const char* name, const char* problem, Damage damage) {
-        QTest::newRow(name) << damage << QString::fromLatin1(problem);
-    };
-    row("sound", "", [](const QDir&) {});
-    row("missing", "no " U_ICUDATA_NAME " in %1", [](const QDir& bundles) { QDir(bundles).removeRecursively(); });
-    row("another version", "no " U_ICUDATA_NAME " in %1",
-        [](const QDir& bundles) { QDir().rename(bundles.path(), bundles.filePath("../icudt1l")); });
-    row("empty", "%1/" U_ICUDATA_NAME ": bundles.list is missing or damaged", [](const QDir& bundles) {
-        QDir(bundles).removeRecursively();
-        QDir().mkpath(bundles.path());
+    const NamedRow<QString, QString, Damage> row;
+    const QString damaged = QStringLiteral("%1/" U_ICUDATA_NAME ": %2 is missing or damaged");
+    const QString none = QStringLiteral("no " U_ICUDATA_NAME " in %1");
+    const QString list = QStringLiteral("bundles.list");
+    const auto halve = [](const QString& file) { change(file, half); };
+    const auto remove = [](const QString& file) { QFile::remove(file); };
+    row("sound", "", "", [](const QString&) {});
+    row("missing", "", none, [](const QString& bundles) { QDir(bundles).removeRecursively(); });
+    row("another version", "", none, [](const QString& bundles) { QDir().rename(bundles, bundles + "/../icudt1l"); });
+    row("empty", list, damaged, [](const QString& file) {
+        QFileInfo(file).dir().removeRecursively();
+        QDir().mkpath(QFileInfo(file).path());
     });
-    row("list cut short", "%1/" U_ICUDATA_NAME ": bundles.list is missing or damaged",
-        [](const QDir& bundles) { change(bundles.filePath("bundles.list"), half); });
-    row("list is a pipe", "%1/" U_ICUDATA_NAME ": bundles.list is missing or damaged", [](const QDir& bundles) {
-        const QString list = bundles.filePath("bundles.list");
-        QFile::remove(list);
-        ::mkfifo(QFile::encodeName(list).constData(), S_IRUSR | S_IWUSR);
+    row("list cut short", list, damaged, halve);
+    row("list is a pipe", list, damaged, [](const QString& file) {
+        QFile::remove(file);
+        ::mkfifo(QFile::encodeName(file).constData(), S_IRUSR | S_IWUSR);
     });
-    row("list without an end", "%1/" U_ICUDATA_NAME ": bundles.list is missing or damaged", [](const QDir& bundles) {
-        const QString list = bundles.filePath("bundles.list");
-        QFile::remove(list);
-        QFile::link(QStringLiteral("/dev/zero"), list);
+    row("list without an end", list, damaged, [](const QString& file) {
+        QFile::remove(file);
+        QFile::link("/dev/zero", file);
     });
-    row("list as large as a disk", "%1/" U_ICUDATA_NAME ": bundles.list is missing or damaged",
-        [](const QDir& bundles) {
-            const QString list = bundles.filePath("bundles.list");
-            change(list, half);
-            QFile::resize(list, qint64(1) << 40);
+    row("list as large as a disk", list, damaged, [](const QString& file) {
+        change(file, half);
+        QFile::resize(file, qint64(1) << 40);
         });
-    row("another release", "%1/" U_ICUDATA_NAME ": made for another ICU", [](const QDir& bundles) {
-        change(bundles.filePath("bundles.list"), [](const QByteArray& list) {
-            QByteArray other = list;
-            const auto lastDigit = list.indexOf('\n') - 1;
-            other[lastDigit] = list.at(lastDigit) == '1' ? '2' : '1';
+    row("another release", list, "%1/" U_ICUDATA_NAME ": made for another ICU", [](const QString& file) {
+        change(file, [](const QByteArray& contents) {
+            QByteArray other = contents;
+            const auto lastDigit = contents.indexOf('\n') - 1;
+            other[lastDigit] = contents.at(lastDigit) == '1' ? '2' : '1';
             return other;
         });
     });
-    row("bundle missing", "%1/" U_ICUDATA_NAME ": ak.res is missing or damaged",
-        [](const QDir& bundles) { QFile::remove(bundles.filePath("ak.res")); });
-    row("bundle cut short", "%1/" U_ICUDATA_NAME ": de.res is missing or damaged",
-        [](const QDir& bundles) { change(bundles.filePath("de.res"), half); });
-    row("root of zeros", "%1/" U_ICUDATA_NAME ": root.res is missing or damaged",
-        [](const QDir& bundles) { change(bundles.filePath("root.res"), zeroed); });
+    row("bundle missing", "ak.res", damaged, remove);
+    row("bundle cut short", "de.res", damaged, halve);
+    row("root of zeros", "root.res", damaged, [](const QString& file) { change(file, zeroed); });
 }
 
 // Beside a copy of the library, and named by ICU_DATA. ICU alone would show English, or read past the end of a bundle.
 void FaultsTest::answersWithIcuDataDamaged()
 {
-    const auto [damage, problem] = cells<Damage, QString>();
+    const auto [file, problem, damage] = cells<QString, QString, Damage>();
     const QTemporaryDir tree;
     QVERIFY(install(tree.path()));
     const QString data = tree.filePath("share/zel/icu");
-    damage(QDir(data + QLatin1Char('/') + current));
-    const QString errors = problem.isEmpty()
-                               ? problem
+    damage(data + '/' + current + (file.isEmpty() ? "" : "/") + file);
+    const QString errors = problem.isEmpty() ? problem
                                : QStringLiteral("libzelicudata: %1; relative dates are without phrases\n")
-                                     .arg(problem.contains(QLatin1String("%1")) ? problem.arg(data) : problem);
+                                                   .arg(QString(problem).replace("%1", data).replace("%2", file));
 
     const Child::Result beside = run("LD_LIBRARY_PATH", tree.filePath("lib"));
     QCOMPARE(beside.status, 0);
