@@ -143,265 +143,249 @@ class DesktopTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void asksThePortal_data();
-    void asksThePortal();
-    void doesWithoutBus_data();
-    void doesWithoutBus();
-    void watchFollows_data();
-    void watchFollows();
-    void followsOnEveryThread();
-    void watchFollowsTheTimeZone();
-    void regionOfTheEnvironment_data();
-    void regionOfTheEnvironment();
-    void tellsOfLocaleChanges();
-    void followsTheTimeZone();
-};
+    void init() { qputenv("LC_ALL", "de_DE.UTF-8"); }
 
-void DesktopTest::init()
-{
-    qputenv("LC_ALL", "de_DE.UTF-8");
-}
-
-void DesktopTest::asksThePortal_data()
-{
-    addColumns<QString, QString, QByteArray, int, QStringList>();
-    const auto row = [](const char* name, const char* kind, const char* value, const char* region, int clock,
-                        const QStringList& messages = {}) {
-        QTest::newRow(name) << QString::fromLatin1(kind) << QString::fromLatin1(value) << QByteArray(region) << clock
-                            << messages;
-    };
-    const QStringList unknown = fallback(QStringLiteral("the settings portal has an unknown clock format"));
-    const QStringList silent = fallback(QStringLiteral("the settings portal does not answer"));
-    row("12 hours", "new", "12h", "de_DE", 12);
-    row("24 hours", "new", "24h", "en_US", 24);
-    row("12 hours, asked the old way", "old", "12h", "de_DE", 12);
-    row("24 hours, asked the old way", "old", "24h", "en_US", 24);
-    row("another text", "new", "13h", "de_DE", 24, unknown);
-    row("a number", "new", "a number", "en_US", 12, unknown);
-    row("silence", "new", "silence", "en_US", 12, silent);
-    row("starting", "starting", "", "de_DE", 24, fallback(QStringLiteral("the settings portal is starting")));
-    row("none", "", "", "de_DE", 24, fallback(QStringLiteral("the settings portal is not installed")));
-    row("no such setting", "new", "nothing", "de_DE", 24,
-        fallback(QStringLiteral("the settings portal does not have the setting")));
-    row("silence, asked the old way", "old", "silence", "de_DE", 24, silent);
-}
-
-void DesktopTest::asksThePortal()
-{
-    const auto [kind, value, region, hours, messages] = cells<QString, QString, QByteArray, int, QStringList>();
-    Bus bus;
-    QVERIFY(bus.isReady() && (kind.isEmpty() || bus.startPortal(kind, value)));
-    qputenv("LC_ALL", region);
-    MessageLog log;
-    std::unique_ptr<HostClock> clock;
-    const qint64 waited = makeClock(clock);
-    QCOMPARE(clock->value().toInt(), hours);
-    QCOMPARE(log.take(), messages);
-    QVERIFY2(waited <= longestWait, qPrintable(QString::number(waited)));
-}
-
-void DesktopTest::doesWithoutBus_data()
-{
-    const NamedRow<bool, QByteArray, QString> row;
-    row("no bus", false, {}, "no session bus");
-    row("nobody there", false, "unix:path=/nowhere/bus", "no session bus: No such file or directory");
-    row("a silent bus", true, {}, "the session bus does not answer");
-}
-
-void DesktopTest::doesWithoutBus()
-{
-    const auto [silent, address, fault] = cells<bool, QByteArray, QString>();
-    const SilentBus silentBus;
-    QVERIFY(silentBus.isReady());
-    qputenv("XDG_RUNTIME_DIR", "/nowhere");
-    if (!silent) {
-        qputenv("DBUS_SESSION_BUS_ADDRESS", address);
-    }
-    MessageLog log;
-    std::unique_ptr<HostClock> clock;
-    const qint64 waited = makeClock(clock);
-    QCOMPARE(clock->value(), QVariant(24));
-    qputenv("LC_ALL", "en_US.UTF-8");
-    QCOMPARE(clock->value(), QVariant(12));
-    QVERIFY(clock->source().contains(fault));
-    QSignalSpy changes(clock.get(), SIGNAL(changed()));
-    QEvent change(QEvent::LocaleChange);
-    QCoreApplication::sendEvent(QCoreApplication::instance(), &change);
-    QVERIFY(QMetaObject::invokeMethod(clock.get(), "onAnswer", Q_ARG(QVariant, QVariant()), Q_ARG(QString, fault)));
-    QCOMPARE(changes.size(), 2);
-    QCOMPARE(log.take(), fallback(fault)); // once
-    QVERIFY2(waited <= longestWait, qPrintable(QString::number(waited)));
-}
-
-void DesktopTest::watchFollows_data()
-{
-    // What happens, and the clock that a program without D-Bus types of its own shows then.
-    QTest::addColumn<QStringList>("steps");
-    const auto row = [](const char* name, const char* steps) {
-        QTest::newRow(name) << QString::fromLatin1(steps).split(QLatin1Char('|'));
-    };
-    row("changes", "portal new 24h|watch=24|set 12h=12|set 24h=24|set 12h=12");
-    row("the portal starts again", "portal new 12h|watch=12|stop portal=24|portal new 12h=12|set 24h=24");
-    row("the bus starts the portal", "portal new 12h|watch=12|portal activated 12h|stop portal=24|wait=12");
-    row("the portal starts late", "watch=24|portal new 12h=12|set 24h=24");
-    row("a late answer", "portal new late 12h|watch=24|wait=12");
-    row("the older question", "portal old 12h|watch=12|set 24h=24|stop portal|portal old 12h=12");
-    row("the bus starts again", "portal new 12h|watch=12|stop bus=24|start bus|portal new 12h=12|set 24h=24");
-}
-
-void DesktopTest::watchFollows()
-{
-    QFETCH(const QStringList, steps);
-    Bus bus;
-    QVERIFY(bus.isReady());
-    std::unique_ptr<Child> watch;
-    for (const QString& step : steps) {
-        const QString action = step.section(QLatin1Char('='), 0, 0);
-        if (action.startsWith(QLatin1String("portal "))) {
-            QVERIFY(bus.startPortal(action.section(QLatin1Char(' '), 1, 1), action.section(QLatin1Char(' '), 2)));
-        } else if (action == QLatin1String("watch")) {
-            watch = std::make_unique<Child>(QStringLiteral(ZEL_TOOL), QStringList{action, QStringLiteral("hm"),
-                                                                                  QStringLiteral("2012-05-16T15:05")});
-        } else if (action.startsWith(QLatin1String("set "))) {
-            bus.portal().feed(action.mid(4).toLatin1() + '\n');
-        } else if (action == QLatin1String("stop portal")) {
-            bus.portal().stop();
-        } else if (action == QLatin1String("stop bus")) {
-            bus.stop();
-        } else if (action == QLatin1String("start bus")) {
-            bus.start();
-        }
-        const QString clock = step.section(QLatin1Char('='), 1);
-        if (!clock.isEmpty()) {
-            const QString expected = clock == QLatin1String("12") ? afternoon : QStringLiteral("15:05");
-            const QString line = watch->line();
-            // On a busy machine the first answer may be a late one.
-            QCOMPARE(action == QLatin1String("watch") && line != expected ? watch->line() : line, expected);
-        }
-    }
-    QCOMPARE(watch->errors(), QByteArray()); // it hears of changes and does not have to poll
-}
-
-void DesktopTest::followsOnEveryThread()
-{
-    Bus bus;
-    QVERIFY(bus.isReady() && bus.startPortal("new", QStringLiteral("24h")));
-    std::thread([] { ClockSetting::clockFormat(); }).join(); // the one that asked first is gone
-    QSemaphore isMade;
-    QString text;
-    const std::unique_ptr<QThread> thread(QThread::create([&] {
-        const CustomDateFormatter formatter(QStringLiteral("hm"));
-        isMade.release();
-        const QDeadlineTimer deadline(10000);
-        while (text != afternoon && !deadline.hasExpired()) {
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
-            text = formatter.format(QDateTime(QDate(2012, 5, 16), QTime(15, 5)));
-        }
-    }));
-    thread->start();
-    isMade.acquire();
-    bus.portal().feed("12h\n");
-    QVERIFY(thread->wait()); // without an event loop here
-    QCOMPARE(text, afternoon);
-    bus.portal().feed("24h\n");
-    QTRY_COMPARE(ClockSetting::clockFormat(), ClockFormat::Use24hourClock); // with one, and without a formatter
-}
-
-void DesktopTest::watchFollowsTheTimeZone()
-{
-    const QTemporaryDir etc;
-    const QString link = etc.filePath("localtime");
-    QVERIFY(QFile::link(QStringLiteral("/usr/share/zoneinfo/Asia/Tokyo"), link));
-    qunsetenv("TZ");
-    // With this directory in the place of /etc, in a mount namespace of its own.
-    const QString script = QStringLiteral("mount --bind %1 /etc && exec %2 watch hmz 2012-05-16T14:30Z");
-    Child watch(QStringLiteral("unshare"), {QStringLiteral("-rm"), QStringLiteral("sh"), QStringLiteral("-c"),
-                                            script.arg(etc.path(), QStringLiteral(ZEL_TOOL))});
-    const QString text = watch.line();
-    if (text.isEmpty() && watch.errors().contains("unshare")) {
-        QSKIP("mount namespaces are not permitted here");
-    }
-    QCOMPARE(text, QStringLiteral("23:30 GMT+9"));
-    const QString next = etc.filePath("next");
-    QVERIFY(QFile::link(QStringLiteral("/usr/share/zoneinfo/Europe/Berlin"), next));
-    QCOMPARE(std::rename(QFile::encodeName(next).constData(), QFile::encodeName(link).constData()), 0);
-    QCOMPARE(watch.line(), QStringLiteral("16:30 MESZ"));
-}
-
-void DesktopTest::regionOfTheEnvironment_data()
-{
-    const Row<QByteArray, QByteArray, QByteArray, QLocale> row;
-    row("de_DE", "fr_FR", "ja_JP", QLocale("de_DE"));
-    row("", "fr_FR.UTF-8", "ja_JP", QLocale("fr_FR"));
-    row("", "", "ja_JP.eucJP", QLocale("ja_JP"));
-    row("de_DE.UTF-8@euro", "", "", QLocale("de_DE"));
-    row("sr_RS@latin", "", "", QLocale("sr_Latn_RS"));
-    row("C.UTF-8", "fr_FR", "", QLocale::c());
-    row("POSIX", "", "", QLocale::c());
-    row("", "", "", QLocale::c());
-}
-
-void DesktopTest::regionOfTheEnvironment()
-{
-    const auto [all, time, lang, region] = cells<QByteArray, QByteArray, QByteArray, QLocale>();
-    qputenv("LC_ALL", all);
-    qputenv("LC_TIME", time);
-    qputenv("LANG", lang);
-    QCOMPARE(Locale::region(), region);
-}
-
-void DesktopTest::tellsOfLocaleChanges()
-{
-    QTimer receiver;
-    receiver.setSingleShot(true);
-    receiver.setInterval(60000);
-    QEvent change(QEvent::LocaleChange);
+    void asksThePortal_data()
     {
-        const RegionNotifier notifier(&receiver, SLOT(start()), nullptr);
+        addColumns<QString, QString, QByteArray, int, QStringList>();
+        const auto row = [](const char* name, const char* kind, const char* value, const char* region, int clock,
+                            const QStringList& messages = {}) {
+            QTest::newRow(name) << QString::fromLatin1(kind) << QString::fromLatin1(value) << QByteArray(region)
+                                << clock << messages;
+        };
+        const QStringList unknown = fallback(QStringLiteral("the settings portal has an unknown clock format"));
+        const QStringList silent = fallback(QStringLiteral("the settings portal does not answer"));
+        row("12 hours", "new", "12h", "de_DE", 12);
+        row("24 hours", "new", "24h", "en_US", 24);
+        row("12 hours, asked the old way", "old", "12h", "de_DE", 12);
+        row("24 hours, asked the old way", "old", "24h", "en_US", 24);
+        row("another text", "new", "13h", "de_DE", 24, unknown);
+        row("a number", "new", "a number", "en_US", 12, unknown);
+        row("silence", "new", "silence", "en_US", 12, silent);
+        row("starting", "starting", "", "de_DE", 24, fallback(QStringLiteral("the settings portal is starting")));
+        row("none", "", "", "de_DE", 24, fallback(QStringLiteral("the settings portal is not installed")));
+        row("no such setting", "new", "nothing", "de_DE", 24,
+            fallback(QStringLiteral("the settings portal does not have the setting")));
+        row("silence, asked the old way", "old", "silence", "de_DE", 24, silent);
+    }
+
+    void asksThePortal()
+    {
+        const auto [kind, value, region, hours, messages] = cells<QString, QString, QByteArray, int, QStringList>();
+        Bus bus;
+        QVERIFY(bus.isReady() && (kind.isEmpty() || bus.startPortal(kind, value)));
+        qputenv("LC_ALL", region);
+        MessageLog log;
+        std::unique_ptr<HostClock> clock;
+        const qint64 waited = makeClock(clock);
+        QCOMPARE(clock->value().toInt(), hours);
+        QCOMPARE(log.take(), messages);
+        QVERIFY2(waited <= longestWait, qPrintable(QString::number(waited)));
+    }
+
+    void doesWithoutBus_data()
+    {
+        const NamedRow<bool, QByteArray, QString> row;
+        row("no bus", false, {}, "no session bus");
+        row("nobody there", false, "unix:path=/nowhere/bus", "no session bus: No such file or directory");
+        row("a silent bus", true, {}, "the session bus does not answer");
+    }
+
+    void doesWithoutBus()
+    {
+        const auto [silent, address, fault] = cells<bool, QByteArray, QString>();
+        const SilentBus silentBus;
+        QVERIFY(silentBus.isReady());
+        qputenv("XDG_RUNTIME_DIR", "/nowhere");
+        if (!silent) {
+            qputenv("DBUS_SESSION_BUS_ADDRESS", address);
+        }
+        MessageLog log;
+        std::unique_ptr<HostClock> clock;
+        const qint64 waited = makeClock(clock);
+        QCOMPARE(clock->value(), QVariant(24));
+        qputenv("LC_ALL", "en_US.UTF-8");
+        QCOMPARE(clock->value(), QVariant(12));
+        QVERIFY(clock->source().contains(fault));
+        QSignalSpy changes(clock.get(), SIGNAL(changed()));
+        QEvent change(QEvent::LocaleChange);
         QCoreApplication::sendEvent(QCoreApplication::instance(), &change);
-        QVERIFY(receiver.isActive());
-        receiver.stop();
-        QCoreApplication::sendEvent(this, &change);
+        QVERIFY(QMetaObject::invokeMethod(clock.get(), "onAnswer", Q_ARG(QVariant, QVariant()), Q_ARG(QString, fault)));
+        QCOMPARE(changes.size(), 2);
+        QCOMPARE(log.take(), fallback(fault)); // once
+        QVERIFY2(waited <= longestWait, qPrintable(QString::number(waited)));
+    }
+
+    void watchFollows_data()
+    {
+        // What happens, and the clock that a program without D-Bus types of its own shows then.
+        QTest::addColumn<QStringList>("steps");
+        const auto row = [](const char* name, const char* steps) {
+            QTest::newRow(name) << QString::fromLatin1(steps).split(QLatin1Char('|'));
+        };
+        row("changes", "portal new 24h|watch=24|set 12h=12|set 24h=24|set 12h=12");
+        row("the portal starts again", "portal new 12h|watch=12|stop portal=24|portal new 12h=12|set 24h=24");
+        row("the bus starts the portal", "portal new 12h|watch=12|portal activated 12h|stop portal=24|wait=12");
+        row("the portal starts late", "watch=24|portal new 12h=12|set 24h=24");
+        row("a late answer", "portal new late 12h|watch=24|wait=12");
+        row("the older question", "portal old 12h|watch=12|set 24h=24|stop portal|portal old 12h=12");
+        row("the bus starts again", "portal new 12h|watch=12|stop bus=24|start bus|portal new 12h=12|set 24h=24");
+    }
+
+    void watchFollows()
+    {
+        QFETCH(const QStringList, steps);
+        Bus bus;
+        QVERIFY(bus.isReady());
+        std::unique_ptr<Child> watch;
+        for (const QString& step : steps) {
+            const QString action = step.section(QLatin1Char('='), 0, 0);
+            if (action.startsWith(QLatin1String("portal "))) {
+                QVERIFY(bus.startPortal(action.section(QLatin1Char(' '), 1, 1), action.section(QLatin1Char(' '), 2)));
+            } else if (action == QLatin1String("watch")) {
+                watch =
+                    std::make_unique<Child>(QStringLiteral(ZEL_TOOL), QStringList{action, QStringLiteral("hm"),
+                                                                                  QStringLiteral("2012-05-16T15:05")});
+            } else if (action.startsWith(QLatin1String("set "))) {
+                bus.portal().feed(action.mid(4).toLatin1() + '\n');
+            } else if (action == QLatin1String("stop portal")) {
+                bus.portal().stop();
+            } else if (action == QLatin1String("stop bus")) {
+                bus.stop();
+            } else if (action == QLatin1String("start bus")) {
+                bus.start();
+            }
+            const QString clock = step.section(QLatin1Char('='), 1);
+            if (!clock.isEmpty()) {
+                const QString expected = clock == QLatin1String("12") ? afternoon : QStringLiteral("15:05");
+                const QString line = watch->line();
+                // On a busy machine the first answer may be a late one.
+                QCOMPARE(action == QLatin1String("watch") && line != expected ? watch->line() : line, expected);
+            }
+        }
+        QCOMPARE(watch->errors(), QByteArray()); // it hears of changes and does not have to poll
+    }
+
+    void followsOnEveryThread()
+    {
+        Bus bus;
+        QVERIFY(bus.isReady() && bus.startPortal("new", QStringLiteral("24h")));
+        std::thread([] { ClockSetting::clockFormat(); }).join(); // the one that asked first is gone
+        QSemaphore isMade;
+        QString text;
+        const std::unique_ptr<QThread> thread(QThread::create([&] {
+            const CustomDateFormatter formatter(QStringLiteral("hm"));
+            isMade.release();
+            const QDeadlineTimer deadline(10000);
+            while (text != afternoon && !deadline.hasExpired()) {
+                QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+                text = formatter.format(QDateTime(QDate(2012, 5, 16), QTime(15, 5)));
+            }
+        }));
+        thread->start();
+        isMade.acquire();
+        bus.portal().feed("12h\n");
+        QVERIFY(thread->wait()); // without an event loop here
+        QCOMPARE(text, afternoon);
+        bus.portal().feed("24h\n");
+        QTRY_COMPARE(ClockSetting::clockFormat(), ClockFormat::Use24hourClock); // with one, and without a formatter
+    }
+
+    void watchFollowsTheTimeZone()
+    {
+        const QTemporaryDir etc;
+        const QString link = etc.filePath("localtime");
+        QVERIFY(QFile::link(QStringLiteral("/usr/share/zoneinfo/Asia/Tokyo"), link));
+        qunsetenv("TZ");
+        // With this directory in the place of /etc, in a mount namespace of its own.
+        const QString script = QStringLiteral("mount --bind %1 /etc && exec %2 watch hmz 2012-05-16T14:30Z");
+        Child watch(QStringLiteral("unshare"), {QStringLiteral("-rm"), QStringLiteral("sh"), QStringLiteral("-c"),
+                                                script.arg(etc.path(), QStringLiteral(ZEL_TOOL))});
+        const QString text = watch.line();
+        if (text.isEmpty() && watch.errors().contains("unshare")) {
+            QSKIP("mount namespaces are not permitted here");
+        }
+        QCOMPARE(text, QStringLiteral("23:30 GMT+9"));
+        const QString next = etc.filePath("next");
+        QVERIFY(QFile::link(QStringLiteral("/usr/share/zoneinfo/Europe/Berlin"), next));
+        QCOMPARE(std::rename(QFile::encodeName(next).constData(), QFile::encodeName(link).constData()), 0);
+        QCOMPARE(watch.line(), QStringLiteral("16:30 MESZ"));
+    }
+
+    void regionOfTheEnvironment_data()
+    {
+        const Row<QByteArray, QByteArray, QByteArray, QLocale> row;
+        row("de_DE", "fr_FR", "ja_JP", QLocale("de_DE"));
+        row("", "fr_FR.UTF-8", "ja_JP", QLocale("fr_FR"));
+        row("", "", "ja_JP.eucJP", QLocale("ja_JP"));
+        row("de_DE.UTF-8@euro", "", "", QLocale("de_DE"));
+        row("sr_RS@latin", "", "", QLocale("sr_Latn_RS"));
+        row("C.UTF-8", "fr_FR", "", QLocale::c());
+        row("POSIX", "", "", QLocale::c());
+        row("", "", "", QLocale::c());
+    }
+
+    void regionOfTheEnvironment()
+    {
+        const auto [all, time, lang, region] = cells<QByteArray, QByteArray, QByteArray, QLocale>();
+        qputenv("LC_ALL", all);
+        qputenv("LC_TIME", time);
+        qputenv("LANG", lang);
+        QCOMPARE(Locale::region(), region);
+    }
+
+    void tellsOfLocaleChanges()
+    {
+        QTimer receiver;
+        receiver.setSingleShot(true);
+        receiver.setInterval(60000);
+        QEvent change(QEvent::LocaleChange);
+        {
+            const RegionNotifier notifier(&receiver, SLOT(start()), nullptr);
+            QCoreApplication::sendEvent(QCoreApplication::instance(), &change);
+            QVERIFY(receiver.isActive());
+            receiver.stop();
+            QCoreApplication::sendEvent(this, &change);
+            QVERIFY(!receiver.isActive());
+        }
+        QCoreApplication::sendEvent(QCoreApplication::instance(), &change);
         QVERIFY(!receiver.isActive());
     }
-    QCoreApplication::sendEvent(QCoreApplication::instance(), &change);
-    QVERIFY(!receiver.isActive());
-}
 
-void DesktopTest::followsTheTimeZone()
-{
-    const QTemporaryDir etc;
-    const QString link = etc.filePath("localtime");
-    const auto replaceLink = [&link](const char* target) {
-        QFile::remove(link);
-        return QFile::link(QString::fromLatin1(target), link);
-    };
-    HostTimeZone zone(link);
-    const std::unique_ptr<QObject> listener = zone.listen();
-    QSignalSpy changes(&zone, SIGNAL(changed()));
-    QTRY_COMPARE(changes.size(), 1); // it has begun to watch
-    qputenv("TZ", "Europe/Berlin");
-    QCOMPARE(zone.value(), QVariant(QStringLiteral("Europe/Berlin")));
-    qputenv("TZ", ":/usr/share/zoneinfo/Asia/Tokyo");
-    QCOMPARE(zone.value(), QVariant(QStringLiteral("Asia/Tokyo")));
-    qputenv("TZ", "CET-1CEST");
-    QVERIFY(!zone.value().toString().isEmpty());
-    qunsetenv("TZ");
-    for (const char* const id : {"Asia/Tokyo", "Europe/Paris"}) {
-        changes.clear();
-        QVERIFY(replaceLink(QByteArray("../usr/share/zoneinfo/").append(id).constData()));
-        QCOMPARE(zone.value(), QVariant(QString::fromLatin1(id))); // also without an event loop
-        QTRY_VERIFY(!changes.isEmpty());
+    void followsTheTimeZone()
+    {
+        const QTemporaryDir etc;
+        const QString link = etc.filePath("localtime");
+        const auto replaceLink = [&link](const char* target) {
+            QFile::remove(link);
+            return QFile::link(QString::fromLatin1(target), link);
+        };
+        HostTimeZone zone(link);
+        const std::unique_ptr<QObject> listener = zone.listen();
+        QSignalSpy changes(&zone, SIGNAL(changed()));
+        QTRY_COMPARE(changes.size(), 1); // it has begun to watch
+        qputenv("TZ", "Europe/Berlin");
+        QCOMPARE(zone.value(), QVariant(QStringLiteral("Europe/Berlin")));
+        qputenv("TZ", ":/usr/share/zoneinfo/Asia/Tokyo");
+        QCOMPARE(zone.value(), QVariant(QStringLiteral("Asia/Tokyo")));
+        qputenv("TZ", "CET-1CEST");
+        QVERIFY(!zone.value().toString().isEmpty());
+        qunsetenv("TZ");
+        for (const char* const id : {"Asia/Tokyo", "Europe/Paris"}) {
+            changes.clear();
+            QVERIFY(replaceLink(QByteArray("../usr/share/zoneinfo/").append(id).constData()));
+            QCOMPARE(zone.value(), QVariant(QString::fromLatin1(id))); // also without an event loop
+            QTRY_VERIFY(!changes.isEmpty());
+        }
+        // Through another link, which is replaced
+        QVERIFY(replaceLink("zone"));
+        for (const QString& id : {QStringLiteral("Asia/Kolkata"), QStringLiteral("Africa/Cairo")}) {
+            QFile::remove(etc.filePath("zone"));
+            QVERIFY(QFile::link(QStringLiteral("/usr/share/zoneinfo/") + id, etc.filePath("zone")));
+            QCOMPARE(zone.value(), QVariant(id));
+        }
     }
-    // Through another link, which is replaced
-    QVERIFY(replaceLink("zone"));
-    for (const QString& id : {QStringLiteral("Asia/Kolkata"), QStringLiteral("Africa/Cairo")}) {
-        QFile::remove(etc.filePath("zone"));
-        QVERIFY(QFile::link(QStringLiteral("/usr/share/zoneinfo/") + id, etc.filePath("zone")));
-        QCOMPARE(zone.value(), QVariant(id));
-    }
-}
+};
 
 QTEST_GUILESS_MAIN(DesktopTest)
 #include "tst_desktop.moc"

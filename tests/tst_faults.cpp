@@ -384,268 +384,260 @@ class FaultsTest : public QObject
 
 private Q_SLOTS:
     // The first: the process has one instance of inotify for good.
-    void followsWithoutInotify_data();
-    void followsWithoutInotify();
-    void followsThroughFault_data();
-    void followsThroughFault();
-    void followsWhatWasUnreadable_data();
-    void followsWhatWasUnreadable();
-    void followsCoarseTimes();
-    void tellsWhatWasTornMeanwhile();
-    void followsMount();
-    void readsOnceWithoutConnection();
-    void seesNoTornValue();
-    void answersWithIcuDataDamaged_data();
-    void answersWithIcuDataDamaged();
+
+    void followsWithoutInotify_data()
+    {
+        const NamedRow<bool> row;
+        row("no instance left", false);
+        row("no watch left", true);
+    }
+
+    void followsWithoutInotify()
+    {
+        const auto [hasInstances] = cells<bool>();
+        const SettingsRoot root;
+        QVERIFY(root.setClock("12"));
+        MessageLog log;
+        noInstances = !hasInstances;
+        noWatches = hasInstances;
+        const PpsManager manager("/pps/system/settings", "@settings", "hourFormat", nullptr);
+        QTest::qWait(longerThanQuiet);
+        QVERIFY(root.setClock("24"));
+        QVERIFY(becomes(manager, 24));
+        noInstances = false;
+        noWatches = false;
+        QCOMPARE(log.take(), QStringList());
+
+        // As soon as there are watches, changes are noticed at once again.
+        QTest::qWait(1100);
+        QElapsedTimer latency;
+        latency.start();
+        QVERIFY(root.rewrite(path, "@settings\nhourFormat:n:12\n"));
+        QVERIFY(becomes(manager, 12));
+        QVERIFY2(latency.elapsed() < 500, qPrintable(QString::number(latency.elapsed())));
+    }
+
+    void followsThroughFault_data()
+    {
+        addColumns<Fault, QString>();
+        const auto row = [](const char* name, const char* reason, Fault fault) {
+            QTest::newRow(name) << fault << QString::fromLatin1(reason);
+        };
+        row("root vanishes", "No such file or directory",
+            [](const SettingsRoot& root) { QDir(root.path()).removeRecursively(); });
+        row("root becomes a file", "Not a directory", [](const SettingsRoot& root) { replaceByFile(root.path()); });
+        row("root cannot be entered", "Permission denied", lockOut);
+        row("directory becomes a file", "Not a directory",
+            [](const SettingsRoot& root) { replaceByFile(root.file("/pps/system")); });
+        row("object becomes a directory", "Is a directory", [](const SettingsRoot& root) {
+            root.remove(path);
+            QDir().mkpath(root.file(path));
+        });
+        row("object over the limit", "larger than 1048576 bytes",
+            [](const SettingsRoot& root) { root.write(path, QByteArray(zel::PpsObject::maximumSize + 1, 'x')); });
+    }
+
+    void followsThroughFault()
+    {
+        const auto [fault, reason] = cells<Fault, QString>();
+        const SettingsRoot root;
+        QVERIFY(root.setClock("12"));
+        const PpsManager manager("/pps/system/settings", "@settings", "hourFormat", nullptr);
+        QTest::qWait(longerThanQuiet);
+        MessageLog log;
+        fault(root);
+        QTest::qWait(2 * longerThanQuiet);
+        const QStringList messages = log.take();
+        const QVariant value = manager.value();
+        mend(root);
+        QCOMPARE(messages, QStringList{failedToRead(root, reason)});
+        QCOMPARE(value, QVariant(12));
+        QVERIFY(becomes(manager, 24));
+        QCOMPARE(log.take(), QStringList());
+    }
+
+    void followsWhatWasUnreadable_data()
+    {
+        const NamedRow<QString> row;
+        row("object", path);
+        row("directory", "/pps");
+    }
+
+    void followsWhatWasUnreadable()
+    {
+        const auto [unreadable] = cells<QString>();
+        const SettingsRoot root;
+        QVERIFY(root.setClock("24"));
+        QFile::setPermissions(root.path(), QFile::Permissions(0x5555));
+        const auto permissions = QFile::permissions(root.file(unreadable));
+        QFile::setPermissions(root.file(unreadable), {});
+        MessageLog log;
+        becomeNobody();
+        const PpsManager manager("/pps/system/settings", "@settings", "hourFormat", nullptr);
+        QTest::qWait(longerThanQuiet);
+        becomeRoot();
+        QFile::setPermissions(root.file(unreadable), permissions);
+        QCOMPARE(log.take(), QStringList{failedToRead(root, QStringLiteral("Permission denied"))});
+        QVERIFY(becomes(manager, 24));
+    }
+
+    void followsCoarseTimes()
+    {
+        const SettingsRoot root;
+        QVERIFY(root.setRegion("de_DE"));
+        const zel::system::LocaleHandler handler(zel::system::LocaleType::Region);
+        QSignalSpy changes(&handler, SIGNAL(changed()));
+        coarseTimes = true;
+        handler.locale();
+        QTest::qWait(longerThanQuiet);
+        QVERIFY(root.rewrite("/pps/system/locale", "@locale\nregion::fr_FR\n"));
+        const QString name = handler.locale().name();
+        const bool heard = changes.wait();
+        coarseTimes = false;
+        QCOMPARE(name, QStringLiteral("fr_FR"));
+        QVERIFY(heard);
+    }
+
+    // The object is torn between the reading that is announced and the answer to that, and is then what it was.
+    void tellsWhatWasTornMeanwhile()
+    {
+        const QString region = QStringLiteral("/pps/system/locale");
+        const SettingsRoot root;
+        QVERIFY(root.setRegion("de_DE"));
+        const zel::system::LocaleHandler handler(zel::system::LocaleType::Region);
+        QSignalSpy changes(&handler, SIGNAL(changed()));
+        QTest::qWait(longerThanQuiet);
+        MessageLog log;
+        looksToTear = 3; // two make sure that the change is over
+        QVERIFY(root.rewrite(region, "@locale\nregion::fr_FR\n"));
+        while (looksToTear > 0) {
+            QCoreApplication::processEvents();
+        }
+        QVERIFY(root.rewrite(region, "@locale\nregion::fr_FR\n"));
+        QVERIFY(changes.count() > 0 || changes.wait());
+        QCOMPARE(handler.locale().name(), QStringLiteral("fr_FR"));
+    }
+
+    void followsMount()
+    {
+        const int result =
+            QProcess::execute(QCoreApplication::applicationFilePath(), {QStringLiteral("--follow-mount")});
+        if (result == notPossible) {
+            QSKIP("Only root can mount.");
+        }
+        QCOMPARE(result, 0);
+    }
+
+    void readsOnceWithoutConnection()
+    {
+        const SettingsRoot root;
+        QVERIFY(root.setClock("12"));
+        MessageLog log;
+        noConnections = true;
+        const PpsManager manager("/pps/system/settings", "@settings", "hourFormat", nullptr);
+        noConnections = false;
+        QCOMPARE(log.take(),
+                 QStringList({"critical: zel::PpsObject cannot report changes of " + root.file(path),
+                              "critical: zel::utility::i18n::PpsManager::PpsManager(const char*, const char*, "
+                              "const char*, QObject*) failed to connect to PPS channel for "
+                              "/pps/system/settings "}));
+        QCOMPARE(manager.value(), QVariant(12));
+        const auto* const object = manager.findChild<zel::PpsObject*>();
+        QVERIFY(object != nullptr && object->children().isEmpty()); // nothing watches it
+    }
+
+    void seesNoTornValue()
+    {
+        constexpr int kills = 1000;
+        constexpr int longestLife = 20; // of which one write of the object takes 8
+        const SettingsRoot root;
+        QVERIFY(root.write(path, generation(0)));
+        Reader reader;
+        for (int round = 0; round < kills; ++round) {
+            QCOMPARE(killWriter(round * kills, round % longestLife, reader), SIGKILL);
+            removeUnfinished(root);
+        }
+        QCOMPARE(reader.torn, QByteArrayList());
+        QVERIFY2(reader.seen.size() > kills / 4, qPrintable(QString::number(reader.seen.size())));
+        QVERIFY(root.write(path, generation(kills * kills)));
+        QTRY_VERIFY(reader.announced > 0);
+    }
+
+    void answersWithIcuDataDamaged_data()
+    {
+        const NamedRow<QString, QString, Damage> row;
+        const QString damaged = QStringLiteral("%1/" U_ICUDATA_NAME ": %2 is missing or damaged");
+        const QString none = QStringLiteral("no " U_ICUDATA_NAME " in %1");
+        const QString list = QStringLiteral("bundles.list");
+        const auto halve = [](const QString& file) { change(file, half); };
+        const auto remove = [](const QString& file) { QFile::remove(file); };
+        row("sound", "", "", [](const QString&) {});
+        row("missing", "", none, [](const QString& bundles) { QDir(bundles).removeRecursively(); });
+        row("another version", "", none,
+            [](const QString& bundles) { QDir().rename(bundles, bundles + "/../icudt1l"); });
+        row("empty", list, damaged, [](const QString& file) {
+            QFileInfo(file).dir().removeRecursively();
+            QDir().mkpath(QFileInfo(file).path());
+        });
+        row("list cut short", list, damaged, halve);
+        row("list is a pipe", list, damaged, [](const QString& file) {
+            QFile::remove(file);
+            ::mkfifo(QFile::encodeName(file).constData(), S_IRUSR | S_IWUSR);
+        });
+        row("list without an end", list, damaged, [](const QString& file) {
+            QFile::remove(file);
+            QFile::link("/dev/zero", file);
+        });
+        row("list as large as a disk", list, damaged, [](const QString& file) {
+            change(file, half);
+            QFile::resize(file, qint64(1) << 40);
+        });
+        row("another release", list, "%1/" U_ICUDATA_NAME ": made for another ICU", [](const QString& file) {
+            change(file, [](const QByteArray& contents) {
+                QByteArray other = contents;
+                const auto lastDigit = contents.indexOf('\n') - 1;
+                other[lastDigit] = contents.at(lastDigit) == '1' ? '2' : '1';
+                return other;
+            });
+        });
+        row("bundle missing", "ak.res", damaged, remove);
+        row("bundle cut short", "de.res", damaged, halve);
+        row("root of zeros", "root.res", damaged, [](const QString& file) { change(file, zeroed); });
+    }
+
+    // Beside a copy of the library, and named by ICU_DATA. ICU alone would show English, or read past the end of a
+    // bundle.
+    void answersWithIcuDataDamaged()
+    {
+        const auto [file, problem, damage] = cells<QString, QString, Damage>();
+        const QTemporaryDir tree;
+        QVERIFY(install(tree.path()));
+        const QString data = tree.filePath("share/zel/icu");
+        damage(data + '/' + current + (file.isEmpty() ? "" : "/") + file);
+        const QString errors = problem.isEmpty()
+                                   ? problem
+                                   : QStringLiteral("libzelicudata: %1; relative dates are without phrases\n")
+                                         .arg(QString(problem).replace("%1", data).replace("%2", file));
+
+        const Child::Result beside = run("LD_LIBRARY_PATH", tree.filePath("lib"));
+        QCOMPARE(beside.status, 0);
+        QCOMPARE(beside.errors, errors);
+        QCOMPARE(beside.output.split(QLatin1Char('\n')), problem.isEmpty() ? withPhrases() : withoutPhrases());
+
+        // Bundles are looked at before their first use, and not at every start.
+        if (problem.contains(QLatin1String(".res"))) {
+            QCOMPARE(run("LD_LIBRARY_PATH", tree.filePath("lib"), QStringLiteral("--load")).errors, QString());
+            QCOMPARE(run("LD_LIBRARY_PATH", tree.filePath("lib"), QStringLiteral("--percent")).errors, errors);
+        }
+
+        const Child::Result named = run("ICU_DATA", data);
+        QCOMPARE(named.status, 0);
+        QCOMPARE(named.output, beside.output);
+        // Whoever names a directory without our list means another kind of data, and hears nothing.
+        const QString list = data + QLatin1Char('/') + current + QStringLiteral("/bundles.list");
+        QCOMPARE(named.errors, QFile::exists(list) ? errors : QString());
+    }
 };
-
-void FaultsTest::followsThroughFault_data()
-{
-    addColumns<Fault, QString>();
-    const auto row = [](const char* name, const char* reason, Fault fault) {
-        QTest::newRow(name) << fault << QString::fromLatin1(reason);
-    };
-    row("root vanishes", "No such file or directory",
-        [](const SettingsRoot& root) { QDir(root.path()).removeRecursively(); });
-    row("root becomes a file", "Not a directory", [](const SettingsRoot& root) { replaceByFile(root.path()); });
-    row("root cannot be entered", "Permission denied", lockOut);
-    row("directory becomes a file", "Not a directory",
-        [](const SettingsRoot& root) { replaceByFile(root.file("/pps/system")); });
-    row("object becomes a directory", "Is a directory", [](const SettingsRoot& root) {
-        root.remove(path);
-        QDir().mkpath(root.file(path));
-    });
-    row("object over the limit", "larger than 1048576 bytes",
-        [](const SettingsRoot& root) { root.write(path, QByteArray(zel::PpsObject::maximumSize + 1, 'x')); });
-}
-
-void FaultsTest::followsThroughFault()
-{
-    const auto [fault, reason] = cells<Fault, QString>();
-    const SettingsRoot root;
-    QVERIFY(root.setClock("12"));
-    const PpsManager manager("/pps/system/settings", "@settings", "hourFormat", nullptr);
-    QTest::qWait(longerThanQuiet);
-    MessageLog log;
-    fault(root);
-    QTest::qWait(2 * longerThanQuiet);
-    const QStringList messages = log.take();
-    const QVariant value = manager.value();
-    mend(root);
-    QCOMPARE(messages, QStringList{failedToRead(root, reason)});
-    QCOMPARE(value, QVariant(12));
-    QVERIFY(becomes(manager, 24));
-    QCOMPARE(log.take(), QStringList());
-}
-
-void FaultsTest::followsWhatWasUnreadable_data()
-{
-    const NamedRow<QString> row;
-    row("object", path);
-    row("directory", "/pps");
-}
-
-void FaultsTest::followsWhatWasUnreadable()
-{
-    const auto [unreadable] = cells<QString>();
-    const SettingsRoot root;
-    QVERIFY(root.setClock("24"));
-    QFile::setPermissions(root.path(), QFile::Permissions(0x5555));
-    const auto permissions = QFile::permissions(root.file(unreadable));
-    QFile::setPermissions(root.file(unreadable), {});
-    MessageLog log;
-    becomeNobody();
-    const PpsManager manager("/pps/system/settings", "@settings", "hourFormat", nullptr);
-    QTest::qWait(longerThanQuiet);
-    becomeRoot();
-    QFile::setPermissions(root.file(unreadable), permissions);
-    QCOMPARE(log.take(), QStringList{failedToRead(root, QStringLiteral("Permission denied"))});
-    QVERIFY(becomes(manager, 24));
-}
-
-void FaultsTest::followsCoarseTimes()
-{
-    const SettingsRoot root;
-    QVERIFY(root.setRegion("de_DE"));
-    const zel::system::LocaleHandler handler(zel::system::LocaleType::Region);
-    QSignalSpy changes(&handler, SIGNAL(changed()));
-    coarseTimes = true;
-    handler.locale();
-    QTest::qWait(longerThanQuiet);
-    QVERIFY(root.rewrite("/pps/system/locale", "@locale\nregion::fr_FR\n"));
-    const QString name = handler.locale().name();
-    const bool heard = changes.wait();
-    coarseTimes = false;
-    QCOMPARE(name, QStringLiteral("fr_FR"));
-    QVERIFY(heard);
-}
-
-// The object is torn between the reading that is announced and the answer to that, and is then what it was.
-void FaultsTest::tellsWhatWasTornMeanwhile()
-{
-    const QString region = QStringLiteral("/pps/system/locale");
-    const SettingsRoot root;
-    QVERIFY(root.setRegion("de_DE"));
-    const zel::system::LocaleHandler handler(zel::system::LocaleType::Region);
-    QSignalSpy changes(&handler, SIGNAL(changed()));
-    QTest::qWait(longerThanQuiet);
-    MessageLog log;
-    looksToTear = 3; // two make sure that the change is over
-    QVERIFY(root.rewrite(region, "@locale\nregion::fr_FR\n"));
-    while (looksToTear > 0) {
-        QCoreApplication::processEvents();
-    }
-    QVERIFY(root.rewrite(region, "@locale\nregion::fr_FR\n"));
-    QVERIFY(changes.count() > 0 || changes.wait());
-    QCOMPARE(handler.locale().name(), QStringLiteral("fr_FR"));
-}
-
-void FaultsTest::followsWithoutInotify_data()
-{
-    const NamedRow<bool> row;
-    row("no instance left", false);
-    row("no watch left", true);
-}
-
-void FaultsTest::followsWithoutInotify()
-{
-    const auto [hasInstances] = cells<bool>();
-    const SettingsRoot root;
-    QVERIFY(root.setClock("12"));
-    MessageLog log;
-    noInstances = !hasInstances;
-    noWatches = hasInstances;
-    const PpsManager manager("/pps/system/settings", "@settings", "hourFormat", nullptr);
-    QTest::qWait(longerThanQuiet);
-    QVERIFY(root.setClock("24"));
-    QVERIFY(becomes(manager, 24));
-    noInstances = false;
-    noWatches = false;
-    QCOMPARE(log.take(), QStringList());
-
-    // As soon as there are watches, changes are noticed at once again.
-    QTest::qWait(1100);
-    QElapsedTimer latency;
-    latency.start();
-    QVERIFY(root.rewrite(path, "@settings\nhourFormat:n:12\n"));
-    QVERIFY(becomes(manager, 12));
-    QVERIFY2(latency.elapsed() < 500, qPrintable(QString::number(latency.elapsed())));
-}
-
-void FaultsTest::followsMount()
-{
-    const int result = QProcess::execute(QCoreApplication::applicationFilePath(), {QStringLiteral("--follow-mount")});
-    if (result == notPossible) {
-        QSKIP("Only root can mount.");
-    }
-    QCOMPARE(result, 0);
-}
-
-void FaultsTest::readsOnceWithoutConnection()
-{
-    const SettingsRoot root;
-    QVERIFY(root.setClock("12"));
-    MessageLog log;
-    noConnections = true;
-    const PpsManager manager("/pps/system/settings", "@settings", "hourFormat", nullptr);
-    noConnections = false;
-    QCOMPARE(log.take(), QStringList({"critical: zel::PpsObject cannot report changes of " + root.file(path),
-                                      "critical: zel::utility::i18n::PpsManager::PpsManager(const char*, const char*, "
-                                      "const char*, QObject*) failed to connect to PPS channel for "
-                                      "/pps/system/settings "}));
-    QCOMPARE(manager.value(), QVariant(12));
-    const auto* const object = manager.findChild<zel::PpsObject*>();
-    QVERIFY(object != nullptr && object->children().isEmpty()); // nothing watches it
-}
-
-void FaultsTest::seesNoTornValue()
-{
-    constexpr int kills = 1000;
-    constexpr int longestLife = 20; // of which one write of the object takes 8
-    const SettingsRoot root;
-    QVERIFY(root.write(path, generation(0)));
-    Reader reader;
-    for (int round = 0; round < kills; ++round) {
-        QCOMPARE(killWriter(round * kills, round % longestLife, reader), SIGKILL);
-        removeUnfinished(root);
-    }
-    QCOMPARE(reader.torn, QByteArrayList());
-    QVERIFY2(reader.seen.size() > kills / 4, qPrintable(QString::number(reader.seen.size())));
-    QVERIFY(root.write(path, generation(kills * kills)));
-    QTRY_VERIFY(reader.announced > 0);
-}
-
-void FaultsTest::answersWithIcuDataDamaged_data()
-{
-    const NamedRow<QString, QString, Damage> row;
-    const QString damaged = QStringLiteral("%1/" U_ICUDATA_NAME ": %2 is missing or damaged");
-    const QString none = QStringLiteral("no " U_ICUDATA_NAME " in %1");
-    const QString list = QStringLiteral("bundles.list");
-    const auto halve = [](const QString& file) { change(file, half); };
-    const auto remove = [](const QString& file) { QFile::remove(file); };
-    row("sound", "", "", [](const QString&) {});
-    row("missing", "", none, [](const QString& bundles) { QDir(bundles).removeRecursively(); });
-    row("another version", "", none, [](const QString& bundles) { QDir().rename(bundles, bundles + "/../icudt1l"); });
-    row("empty", list, damaged, [](const QString& file) {
-        QFileInfo(file).dir().removeRecursively();
-        QDir().mkpath(QFileInfo(file).path());
-    });
-    row("list cut short", list, damaged, halve);
-    row("list is a pipe", list, damaged, [](const QString& file) {
-        QFile::remove(file);
-        ::mkfifo(QFile::encodeName(file).constData(), S_IRUSR | S_IWUSR);
-    });
-    row("list without an end", list, damaged, [](const QString& file) {
-        QFile::remove(file);
-        QFile::link("/dev/zero", file);
-    });
-    row("list as large as a disk", list, damaged, [](const QString& file) {
-        change(file, half);
-        QFile::resize(file, qint64(1) << 40);
-        });
-    row("another release", list, "%1/" U_ICUDATA_NAME ": made for another ICU", [](const QString& file) {
-        change(file, [](const QByteArray& contents) {
-            QByteArray other = contents;
-            const auto lastDigit = contents.indexOf('\n') - 1;
-            other[lastDigit] = contents.at(lastDigit) == '1' ? '2' : '1';
-            return other;
-        });
-    });
-    row("bundle missing", "ak.res", damaged, remove);
-    row("bundle cut short", "de.res", damaged, halve);
-    row("root of zeros", "root.res", damaged, [](const QString& file) { change(file, zeroed); });
-}
-
-// Beside a copy of the library, and named by ICU_DATA. ICU alone would show English, or read past the end of a bundle.
-void FaultsTest::answersWithIcuDataDamaged()
-{
-    const auto [file, problem, damage] = cells<QString, QString, Damage>();
-    const QTemporaryDir tree;
-    QVERIFY(install(tree.path()));
-    const QString data = tree.filePath("share/zel/icu");
-    damage(data + '/' + current + (file.isEmpty() ? "" : "/") + file);
-    const QString errors = problem.isEmpty() ? problem
-                               : QStringLiteral("libzelicudata: %1; relative dates are without phrases\n")
-                                                   .arg(QString(problem).replace("%1", data).replace("%2", file));
-
-    const Child::Result beside = run("LD_LIBRARY_PATH", tree.filePath("lib"));
-    QCOMPARE(beside.status, 0);
-    QCOMPARE(beside.errors, errors);
-    QCOMPARE(beside.output.split(QLatin1Char('\n')), problem.isEmpty() ? withPhrases() : withoutPhrases());
-
-    // Bundles are looked at before their first use, and not at every start.
-    if (problem.contains(QLatin1String(".res"))) {
-        QCOMPARE(run("LD_LIBRARY_PATH", tree.filePath("lib"), QStringLiteral("--load")).errors, QString());
-        QCOMPARE(run("LD_LIBRARY_PATH", tree.filePath("lib"), QStringLiteral("--percent")).errors, errors);
-    }
-
-    const Child::Result named = run("ICU_DATA", data);
-    QCOMPARE(named.status, 0);
-    QCOMPARE(named.output, beside.output);
-    // Whoever names a directory without our list means another kind of data, and hears nothing.
-    const QString list = data + QLatin1Char('/') + current + QStringLiteral("/bundles.list");
-    QCOMPARE(named.errors, QFile::exists(list) ? errors : QString());
-}
 
 int main(int argc, char** argv)
 {

@@ -361,326 +361,313 @@ class TestIcuData : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void copiesKeepEverything();
-    void icuSeesNoDifference();
+    void initTestCase()
+    {
+        QVERIFY2(isDataDirectoryInUse(), "run without ICU_DATA");
+        QVERIFY(hasPhraseTables());
+        QVERIFY(phrasePackage() == nullptr);
+        const StockData stockData;
+        std::string error;
+        m_pool = stock("pool");
+        m_poolReader = ResourceBundleReader::open(BundleData::fromIcu(m_pool.get()), nullptr, error);
+        QVERIFY2(m_poolReader, error.c_str());
+    }
+
+    void copiesKeepEverything()
+    {
+        const StockData stockData;
+        for (const std::string& name : StockBundles::names()) {
+            QCOMPARE(differenceOfCopy(name), QByteArray());
+        }
+    }
+
+    // A locale that had no calendar of its own has one now: ICU must still find its parent's formats through it.
+    void icuSeesNoDifference()
+    {
+        const QTemporaryDir empty;
+        const QList<QByteArray> expected = runSelf(QStringLiteral("--describe"), empty.path());
+        const std::vector<std::string> names = StockBundles::names();
+        QCOMPARE(static_cast<std::size_t>(expected.size()), names.size());
+        for (std::size_t i = 0; i < names.size(); ++i) {
+            QCOMPARE(describe(names[i].c_str()), expected[static_cast<int>(i)]);
+        }
+    }
+
     void phrasesAreThoseOfIcu_data() { addLocales(); }
-    void phrasesAreThoseOfIcu();
+
+    void phrasesAreThoseOfIcu()
+    {
+        QFETCH(const QByteArray, locale);
+        const icu::Locale icuLocale(locale.constData());
+        UErrorCode status = U_ZERO_ERROR;
+        const icu::RelativeDateTimeFormatter formatter(icuLocale, status);
+        const Phrases phrases(icuLocale, status);
+        QVERIFY(U_SUCCESS(status));
+        for (const auto& [table, unit, direction] : phraseTables) {
+            for (const int count : {0, 1, 2, 3, 5, 11, 21, 100, 1000000}) {
+                icu::UnicodeString expected;
+                formatter.format(count, direction, unit, expected, status);
+                QCOMPARE(phrases.counted(table, count), utf8(expected));
+            }
+        }
+        for (const auto& [key, direction] : dayPhrases) {
+            icu::UnicodeString expected;
+            formatter.format(direction, UDAT_ABSOLUTE_DAY, expected, status);
+            QCOMPARE(phrases.ofDay(key), utf8(expected));
+        }
+        QVERIFY(U_SUCCESS(status));
+    }
+
     void aliasesAreFollowed_data() { addLocales(); }
-    void aliasesAreFollowed();
-    void unknownDataIsReported_data();
-    void unknownDataIsReported();
-    void additionsReplaceNothing();
-    void damageIsReported_data();
-    void damageIsReported();
-    void namedDirectoryIsKept();
-    void environmentComesFirst();
-    void generatorMends_data();
-    void generatorMends();
-    void generatorsRunSideBySide();
+
+    // The wide phrases meet no alias, the narrow ones do: where a locale has none, they are its short ones.
+    void aliasesAreFollowed()
+    {
+        QFETCH(const QByteArray, locale);
+        UErrorCode status = U_ZERO_ERROR;
+        const icu::RelativeDateTimeFormatter formatter(icu::Locale(locale.constData()), nullptr, UDAT_STYLE_NARROW,
+                                                       UDISPCTX_CAPITALIZATION_NONE, status);
+        icu::UnicodeString expected;
+        formatter.format(UDAT_DIRECTION_LAST, UDAT_ABSOLUTE_YEAR, expected, status);
+        QVERIFY(U_SUCCESS(status));
+
+        const StockData stockData;
+        StockBundles bundles;
+        std::string error;
+        const auto text = PhraseTables(bundles).text(locale.toStdString(), {"fields", "year-narrow", "relative", "-1"},
+                                                     PhraseTables::Root::Included, error);
+        QVERIFY2(error.empty(), error.c_str());
+        QCOMPARE(utf8(icu::UnicodeString(text.value_or(u"").c_str())), utf8(expected));
+    }
+
+    void unknownDataIsReported_data()
+    {
+        const Row<QByteArray, QByteArray> row;
+        row(R"("%%Fallback" { "en" })", "de: unknown key %%Fallback");
+        row(R"("%%Parent":int { 1 })", "de: %%Parent is not a text");
+        row(R"("%%Parent" { "de_XY" })", "de_XY: no such parent");
+        row(R"("%%Parent" { "de" })", "de: parents without an end");
+        row(R"(fields:alias { "/LOCALE/fields" })",
+            "de: aliases without an end at /fields/minute/relativeTime/past/zero");
+        row(R"(fields:alias { "/OTHER/de/fields" })",
+            "de: an alias out of the locale data at /fields/minute/relativeTime/past/zero");
+    }
+
+    void unknownDataIsReported()
+    {
+        const auto [bundle, problem] = cells<QByteArray, QByteArray>();
+        const IcuBundles bundles;
+        QVERIFY(bundles.compile(QStringLiteral("de"), "de { " + bundle + " }"));
+        QCOMPARE(runSelf(QStringLiteral("--problem"), bundles.path()).first(), problem);
+    }
+
+    void additionsReplaceNothing()
+    {
+        ResourceTree additions;
+        ResourceTree& table = additions.children["units"].children["minute-past"];
+        table.children["other"].text = u"changed";
+        table.children["many"].text = u"new";
+        const QByteArray file = copyOf("de");
+        std::string error;
+        const auto written = withAdditions(file, additions, error);
+        QVERIFY2(written, error.c_str());
+        const Dump before(file.constData() + 32, udata_getMemory(m_pool.get()));
+        Dump after(written->data() + 32, udata_getMemory(m_pool.get()));
+        QCOMPARE(after.items.take("/units/minute-past/many"), "string " + bytesOf(u"new", 3));
+        QVERIFY(after.items == before.items);
+
+        additions.children["units"].children["minute-past"] = {u"a text where a table is", {}};
+        QVERIFY(!withAdditions(file, additions, error));
+        QCOMPARE(error, std::string("/units/minute-past is there already, as something else"));
+    }
+
+    void damageIsReported_data()
+    {
+        const NamedRow<QByteArray, QByteArray> row;
+        const QByteArray sound = copyOf("de");
+        const auto wordAt = [&sound](int word) {
+            quint32 value = 0;
+            std::memcpy(&value, sound.mid(32 + 4 * word, 4).constData(), 4);
+            return static_cast<int>(value & 0x0fffffff);
+        };
+        const auto edited = [](QByteArray file, int word, quint32 value) {
+            return file.replace(32 + 4 * word, 4, bytesOf(&value, 1));
+        };
+        const auto withByte = [&sound](int offset, char value) {
+            return QByteArray(sound).replace(offset, 1, &value, 1);
+        };
+        const auto withWord = [&](int word, quint32 value) { return edited(sound, word, value); };
+        const int root = wordAt(0);
+        const int lastItem = root + 2 * wordAt(root);
+        const int lastUnits = wordAt(7) - 1;
+        const auto lastUnit = static_cast<quint32>((wordAt(1) >> 8) + 2 * (lastUnits - wordAt(2)) + 1);
+
+        const QByteArray noContainer = "a table or an array out of range";
+        const QByteArray noResource = "a resource out of range";
+        row("half a header", sound.left(20), "the file ends inside its header");
+        row("magic", withByte(2, 0), "not an ICU data file");
+        row("header size", withByte(0, 8), "the header's size is out of range");
+        row("byte order", withByte(8, 1), "made for machines with the other byte order");
+        row("charset", withByte(9, 1), "made for another kind of machine");
+        row("other data", withByte(12, 'C'), "not a resource bundle");
+        row("version 1", withByte(16, 1), "unknown format version 1.0");
+        row("version 4", withByte(16, 4), "unknown format version 4.0");
+        row("no index", sound.left(32 + 12), "too short for its index");
+        row("index length", withByte(32 + 4, 9), "an index of unknown length 9");
+        row("attributes", withByte(32 + 24, 0x14), "unknown attributes");
+        row("truncated", sound.left(1000), "an index with tops out of range");
+        row("tops", withWord(2, 0x00ffffff), "an index with tops out of range");
+        row("pool", withWord(8, 1), "made with another pool bundle");
+        row("no table", withWord(0, 0x70000001), "the root is not a table");
+        row("root", withWord(0, 0x4fffffff), noContainer);
+        row("end before the root", edited(withWord(3, quint32(wordAt(7))), 4, quint32(wordAt(7))), noContainer);
+        row("table size", withWord(root, 0x7fffffff), noContainer);
+        row("key", withWord(root + 1, 0x7ffffff0), "a key out of range");
+        row("pool key", withWord(root + 1, 0xfffffff0), "a key out of range");
+        row("key order", withWord(root + 1, 0x80000000 + quint32(wordAt(root + 2))), "a table with keys out of order");
+        row("unknown type", withWord(lastItem, 0xa0000000), "a resource of unknown type 10");
+        row("text without an end", edited(withWord(lastUnits, 0x00410041), lastItem, 6U << 28U | lastUnit), noResource);
+        row("text longer than all", edited(withWord(lastUnits, 0xdc050041), lastItem, 6U << 28U | lastUnit),
+            noResource);
+        for (const quint32 type : {0x0U, 0x1U, 0x2U, 0x3U, 0x5U, 0x6U, 0x8U, 0x9U, 0xeU}) {
+            const bool isContainer = type == 0x2U || type == 0x5U || type == 0x8U || type == 0x9U;
+            row(qPrintable(QStringLiteral("resource of type %1").arg(type)),
+                withWord(lastItem, type << 28U | 0x0ffffff0), isContainer ? noContainer : noResource);
+        }
+    }
+
+    void damageIsReported()
+    {
+        const auto [file, expected] = cells<QByteArray, QByteArray>();
+        std::string error;
+        const auto data = BundleData::fromFile(view(file), error);
+        QVERIFY(!data || !ResourceBundleReader::open(*data, &*m_poolReader, error));
+        QCOMPARE(QByteArray::fromStdString(error), expected);
+    }
+
+    // Loads a copy of the library from an installed tree of its own.
+    void namedDirectoryIsKept()
+    {
+        const QTemporaryDir tree;
+        const QDir data(QFile::decodeName(dataDirectory()));
+        const QString library = tree.filePath("lib/libzelicudata.so.1");
+        QVERIFY(QDir(tree.path()).mkpath("lib") && QDir(tree.path()).mkpath("share/zel"));
+        QVERIFY(QFile::link(data.path(), tree.filePath("share/zel/icu")));
+        QVERIFY(QFile::copy(data.filePath("../../../lib/libzelicudata.so.1"), library));
+
+        const StockData stockData;
+        u_setDataDirectory("/elsewhere");
+        QVERIFY2(dlopen(QFile::encodeName(library).constData(), RTLD_NOW | RTLD_LOCAL) != nullptr, dlerror());
+        QCOMPARE(QByteArray(u_getDataDirectory()), QByteArray("/elsewhere"));
+    }
+
+    void environmentComesFirst()
+    {
+        const QList<QByteArray> ours{QByteArray(dataDirectory()) + " 1 1"};
+        const QString mode = QStringLiteral("--data-directory");
+        QCOMPARE(runSelf(mode, QString()), ours);
+        QCOMPARE(runSelf(mode, QStringLiteral("")), ours);
+        QCOMPARE(runSelf(mode, QStringLiteral("/elsewhere")), QList<QByteArray>{"/elsewhere 0 0"});
+        QCOMPARE(runSelf(mode, QStringLiteral("/elsewhere"), true), ours);
+    }
+
+    void generatorMends_data()
+    {
+        const NamedRow<Damage> row;
+        row("nothing", [](const QDir&) {});
+        row("bundle gone", [](const QDir& bundles) { QFile::remove(bundles.filePath("de.res")); });
+        row("bundle cut short", [](const QDir& bundles) { QFile::resize(bundles.filePath("fr.res"), 9); });
+        row("pool gone", [](const QDir& bundles) { QDir(bundles.filePath("pool")).removeRecursively(); });
+        row("list gone", [](const QDir& bundles) { QFile::remove(bundles.filePath("bundles.list")); });
+        row("all gone", [](const QDir& bundles) { QDir(bundles).removeRecursively(); });
+    }
+
+    void generatorMends()
+    {
+        const auto [damage] = cells<Damage>();
+        const QTemporaryDir directory;
+        const QDir bundles(directory.filePath(QStringLiteral(U_ICUDATA_NAME)));
+        const QStringList always{directory.path()};
+        const QStringList unlessSound{QStringLiteral("--unless-sound"), directory.path()};
+        QCOMPARE(QProcess::execute(QStringLiteral(ZEL_ICUDATA_GEN), always), 0);
+        const QDateTime made = QFileInfo(bundles, QStringLiteral("bundles.list")).lastModified();
+        damage(bundles);
+        const auto isSound = [path = bundles.path().toStdString()] {
+            return BundleList::problemOf(path).empty() && BundleList::hasPool(path);
+        };
+        const bool wasSound = isSound();
+        QCOMPARE(wasSound, QByteArray(QTest::currentDataTag()) == "nothing");
+        QCOMPARE(QProcess::execute(QStringLiteral(ZEL_ICUDATA_GEN), unlessSound), 0);
+        QVERIFY(isSound());
+        QCOMPARE(QFileInfo(bundles, QStringLiteral("bundles.list")).lastModified() == made, wasSound);
+    }
+
+    void generatorsRunSideBySide()
+    {
+        const QTemporaryDir directory;
+        for (int round = 0; round < 3; ++round) {
+            std::array<QProcess, 2> generators;
+            for (QProcess& generator : generators) {
+                generator.start(QStringLiteral(ZEL_ICUDATA_GEN), {directory.path()});
+            }
+            for (QProcess& generator : generators) {
+                QVERIFY(generator.waitForFinished());
+                QCOMPARE(generator.readAllStandardError(), QByteArray());
+                QCOMPARE(generator.exitCode(), 0);
+            }
+            QCOMPARE(BundleList::problemOf(directory.filePath(QStringLiteral(U_ICUDATA_NAME)).toStdString()),
+                     std::string());
+            QCOMPARE(QDir(directory.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).size(),
+                     1);
+        }
+    }
 
 private:
-    QByteArray differenceOfCopy(const std::string& name) const;
+    // By path and content, so that it does not matter where in a bundle things are.
+    QByteArray differenceOfCopy(const std::string& name) const
+    {
+        static const QRegularExpression added(QRegularExpression::anchoredPattern(
+            QStringLiteral("/units(/(minute|hour|year)-(past|future)(/(zero|one|two|few|many|other))?)?"
+                           "|/calendar(/gregorian(/fields(/(day|second)(/relative(/(-1|0|1))?)?)?)?)?")));
+        const Memory original = stock(name);
+        const QByteArray copy = copyOf(name);
+        const auto* words = static_cast<const quint32*>(udata_getMemory(original.get()));
+        const auto* copyWords = reinterpret_cast<const quint32*>(copy.constData() + 32);
+        const bool sameFlags = !copy.isEmpty() && std::all_of(keptIndexWords.begin(), keptIndexWords.end(),
+                                                              [=](int word) { return words[word] == copyWords[word]; });
+        if (!sameFlags) {
+            return QByteArray::fromStdString(name) + ": no copy, or one with other flags";
+        }
+        const Dump before(words, udata_getMemory(m_pool.get()));
+        Dump after(copyWords, udata_getMemory(m_pool.get()));
+        QList<QByteArray> wrong(after.isSorted ? QList<QByteArray>() : QList<QByteArray>{"keys out of order"});
+        if (copyWords[5] < after.longestTable) {
+            wrong.append("a table longer than the index says");
+        }
+        for (auto item = before.items.begin(); item != before.items.end(); ++item) {
+            if (after.items.take(item.key()) != item.value()) {
+                wrong.append("lost: " + item.key());
+            }
+        }
+        for (auto item = after.items.begin(); item != after.items.end(); ++item) {
+            if (!added.match(QString::fromUtf8(item.key())).hasMatch()) {
+                wrong.append("added: " + item.key());
+            }
+        }
+        return wrong.isEmpty() ? QByteArray() : QByteArray::fromStdString(name) + ": " + wrong.join(", ");
+    }
+
     std::optional<std::string> withAdditions(const QByteArray& file, const ResourceTree& additions,
-                                             std::string& error) const;
+                                             std::string& error) const
+    {
+        const auto data = BundleData::fromFile(view(file), error);
+        const auto bundle = data ? ResourceBundleReader::open(*data, &*m_poolReader, error) : std::nullopt;
+        return bundle ? ResourceBundleWriter::write(*bundle, additions, error) : std::nullopt;
+    }
 
     Memory m_pool{nullptr, &udata_close};
     std::optional<ResourceBundleReader> m_poolReader;
 };
-
-void TestIcuData::initTestCase()
-{
-    QVERIFY2(isDataDirectoryInUse(), "run without ICU_DATA");
-    QVERIFY(hasPhraseTables());
-    QVERIFY(phrasePackage() == nullptr);
-    const StockData stockData;
-    std::string error;
-    m_pool = stock("pool");
-    m_poolReader = ResourceBundleReader::open(BundleData::fromIcu(m_pool.get()), nullptr, error);
-    QVERIFY2(m_poolReader, error.c_str());
-}
-
-void TestIcuData::copiesKeepEverything()
-{
-    const StockData stockData;
-    for (const std::string& name : StockBundles::names()) {
-        QCOMPARE(differenceOfCopy(name), QByteArray());
-    }
-}
-
-// By path and content, so that it does not matter where in a bundle things are.
-QByteArray TestIcuData::differenceOfCopy(const std::string& name) const
-{
-    static const QRegularExpression added(QRegularExpression::anchoredPattern(
-        QStringLiteral("/units(/(minute|hour|year)-(past|future)(/(zero|one|two|few|many|other))?)?"
-                       "|/calendar(/gregorian(/fields(/(day|second)(/relative(/(-1|0|1))?)?)?)?)?")));
-    const Memory original = stock(name);
-    const QByteArray copy = copyOf(name);
-    const auto* words = static_cast<const quint32*>(udata_getMemory(original.get()));
-    const auto* copyWords = reinterpret_cast<const quint32*>(copy.constData() + 32);
-    const bool sameFlags = !copy.isEmpty() && std::all_of(keptIndexWords.begin(), keptIndexWords.end(),
-                                                          [=](int word) { return words[word] == copyWords[word]; });
-    if (!sameFlags) {
-        return QByteArray::fromStdString(name) + ": no copy, or one with other flags";
-    }
-    const Dump before(words, udata_getMemory(m_pool.get()));
-    Dump after(copyWords, udata_getMemory(m_pool.get()));
-    QList<QByteArray> wrong(after.isSorted ? QList<QByteArray>() : QList<QByteArray>{"keys out of order"});
-    if (copyWords[5] < after.longestTable) {
-        wrong.append("a table longer than the index says");
-    }
-    for (auto item = before.items.begin(); item != before.items.end(); ++item) {
-        if (after.items.take(item.key()) != item.value()) {
-            wrong.append("lost: " + item.key());
-        }
-    }
-    for (auto item = after.items.begin(); item != after.items.end(); ++item) {
-        if (!added.match(QString::fromUtf8(item.key())).hasMatch()) {
-            wrong.append("added: " + item.key());
-        }
-    }
-    return wrong.isEmpty() ? QByteArray() : QByteArray::fromStdString(name) + ": " + wrong.join(", ");
-}
-
-// A locale that had no calendar of its own has one now: ICU must still find its parent's formats through it.
-void TestIcuData::icuSeesNoDifference()
-{
-    const QTemporaryDir empty;
-    const QList<QByteArray> expected = runSelf(QStringLiteral("--describe"), empty.path());
-    const std::vector<std::string> names = StockBundles::names();
-    QCOMPARE(static_cast<std::size_t>(expected.size()), names.size());
-    for (std::size_t i = 0; i < names.size(); ++i) {
-        QCOMPARE(describe(names[i].c_str()), expected[static_cast<int>(i)]);
-    }
-}
-
-void TestIcuData::phrasesAreThoseOfIcu()
-{
-    QFETCH(const QByteArray, locale);
-    const icu::Locale icuLocale(locale.constData());
-    UErrorCode status = U_ZERO_ERROR;
-    const icu::RelativeDateTimeFormatter formatter(icuLocale, status);
-    const Phrases phrases(icuLocale, status);
-    QVERIFY(U_SUCCESS(status));
-    for (const auto& [table, unit, direction] : phraseTables) {
-        for (const int count : {0, 1, 2, 3, 5, 11, 21, 100, 1000000}) {
-            icu::UnicodeString expected;
-            formatter.format(count, direction, unit, expected, status);
-            QCOMPARE(phrases.counted(table, count), utf8(expected));
-        }
-    }
-    for (const auto& [key, direction] : dayPhrases) {
-        icu::UnicodeString expected;
-        formatter.format(direction, UDAT_ABSOLUTE_DAY, expected, status);
-        QCOMPARE(phrases.ofDay(key), utf8(expected));
-    }
-    QVERIFY(U_SUCCESS(status));
-}
-
-// The wide phrases meet no alias, the narrow ones do: where a locale has none, they are its short ones.
-void TestIcuData::aliasesAreFollowed()
-{
-    QFETCH(const QByteArray, locale);
-    UErrorCode status = U_ZERO_ERROR;
-    const icu::RelativeDateTimeFormatter formatter(icu::Locale(locale.constData()), nullptr, UDAT_STYLE_NARROW,
-                                                   UDISPCTX_CAPITALIZATION_NONE, status);
-    icu::UnicodeString expected;
-    formatter.format(UDAT_DIRECTION_LAST, UDAT_ABSOLUTE_YEAR, expected, status);
-    QVERIFY(U_SUCCESS(status));
-
-    const StockData stockData;
-    StockBundles bundles;
-    std::string error;
-    const auto text = PhraseTables(bundles).text(locale.toStdString(), {"fields", "year-narrow", "relative", "-1"},
-                                                 PhraseTables::Root::Included, error);
-    QVERIFY2(error.empty(), error.c_str());
-    QCOMPARE(utf8(icu::UnicodeString(text.value_or(u"").c_str())), utf8(expected));
-}
-
-void TestIcuData::unknownDataIsReported_data()
-{
-    const Row<QByteArray, QByteArray> row;
-    row(R"("%%Fallback" { "en" })", "de: unknown key %%Fallback");
-    row(R"("%%Parent":int { 1 })", "de: %%Parent is not a text");
-    row(R"("%%Parent" { "de_XY" })", "de_XY: no such parent");
-    row(R"("%%Parent" { "de" })", "de: parents without an end");
-    row(R"(fields:alias { "/LOCALE/fields" })", "de: aliases without an end at /fields/minute/relativeTime/past/zero");
-    row(R"(fields:alias { "/OTHER/de/fields" })",
-        "de: an alias out of the locale data at /fields/minute/relativeTime/past/zero");
-}
-
-void TestIcuData::unknownDataIsReported()
-{
-    const auto [bundle, problem] = cells<QByteArray, QByteArray>();
-    const IcuBundles bundles;
-    QVERIFY(bundles.compile(QStringLiteral("de"), "de { " + bundle + " }"));
-    QCOMPARE(runSelf(QStringLiteral("--problem"), bundles.path()).first(), problem);
-}
-
-std::optional<std::string> TestIcuData::withAdditions(const QByteArray& file, const ResourceTree& additions,
-                                                      std::string& error) const
-{
-    const auto data = BundleData::fromFile(view(file), error);
-    const auto bundle = data ? ResourceBundleReader::open(*data, &*m_poolReader, error) : std::nullopt;
-    return bundle ? ResourceBundleWriter::write(*bundle, additions, error) : std::nullopt;
-}
-
-void TestIcuData::additionsReplaceNothing()
-{
-    ResourceTree additions;
-    ResourceTree& table = additions.children["units"].children["minute-past"];
-    table.children["other"].text = u"changed";
-    table.children["many"].text = u"new";
-    const QByteArray file = copyOf("de");
-    std::string error;
-    const auto written = withAdditions(file, additions, error);
-    QVERIFY2(written, error.c_str());
-    const Dump before(file.constData() + 32, udata_getMemory(m_pool.get()));
-    Dump after(written->data() + 32, udata_getMemory(m_pool.get()));
-    QCOMPARE(after.items.take("/units/minute-past/many"), "string " + bytesOf(u"new", 3));
-    QVERIFY(after.items == before.items);
-
-    additions.children["units"].children["minute-past"] = {u"a text where a table is", {}};
-    QVERIFY(!withAdditions(file, additions, error));
-    QCOMPARE(error, std::string("/units/minute-past is there already, as something else"));
-}
-
-void TestIcuData::damageIsReported_data()
-{
-    const NamedRow<QByteArray, QByteArray> row;
-    const QByteArray sound = copyOf("de");
-    const auto wordAt = [&sound](int word) {
-        quint32 value = 0;
-        std::memcpy(&value, sound.mid(32 + 4 * word, 4).constData(), 4);
-        return static_cast<int>(value & 0x0fffffff);
-    };
-    const auto edited = [](QByteArray file, int word, quint32 value) {
-        return file.replace(32 + 4 * word, 4, bytesOf(&value, 1));
-    };
-    const auto withByte = [&sound](int offset, char value) { return QByteArray(sound).replace(offset, 1, &value, 1); };
-    const auto withWord = [&](int word, quint32 value) { return edited(sound, word, value); };
-    const int root = wordAt(0);
-    const int lastItem = root + 2 * wordAt(root);
-    const int lastUnits = wordAt(7) - 1;
-    const auto lastUnit = static_cast<quint32>((wordAt(1) >> 8) + 2 * (lastUnits - wordAt(2)) + 1);
-
-    const QByteArray noContainer = "a table or an array out of range";
-    const QByteArray noResource = "a resource out of range";
-    row("half a header", sound.left(20), "the file ends inside its header");
-    row("magic", withByte(2, 0), "not an ICU data file");
-    row("header size", withByte(0, 8), "the header's size is out of range");
-    row("byte order", withByte(8, 1), "made for machines with the other byte order");
-    row("charset", withByte(9, 1), "made for another kind of machine");
-    row("other data", withByte(12, 'C'), "not a resource bundle");
-    row("version 1", withByte(16, 1), "unknown format version 1.0");
-    row("version 4", withByte(16, 4), "unknown format version 4.0");
-    row("no index", sound.left(32 + 12), "too short for its index");
-    row("index length", withByte(32 + 4, 9), "an index of unknown length 9");
-    row("attributes", withByte(32 + 24, 0x14), "unknown attributes");
-    row("truncated", sound.left(1000), "an index with tops out of range");
-    row("tops", withWord(2, 0x00ffffff), "an index with tops out of range");
-    row("pool", withWord(8, 1), "made with another pool bundle");
-    row("no table", withWord(0, 0x70000001), "the root is not a table");
-    row("root", withWord(0, 0x4fffffff), noContainer);
-    row("end before the root", edited(withWord(3, quint32(wordAt(7))), 4, quint32(wordAt(7))), noContainer);
-    row("table size", withWord(root, 0x7fffffff), noContainer);
-    row("key", withWord(root + 1, 0x7ffffff0), "a key out of range");
-    row("pool key", withWord(root + 1, 0xfffffff0), "a key out of range");
-    row("key order", withWord(root + 1, 0x80000000 + quint32(wordAt(root + 2))), "a table with keys out of order");
-    row("unknown type", withWord(lastItem, 0xa0000000), "a resource of unknown type 10");
-    row("text without an end", edited(withWord(lastUnits, 0x00410041), lastItem, 6U << 28U | lastUnit), noResource);
-    row("text longer than all", edited(withWord(lastUnits, 0xdc050041), lastItem, 6U << 28U | lastUnit), noResource);
-    for (const quint32 type : {0x0U, 0x1U, 0x2U, 0x3U, 0x5U, 0x6U, 0x8U, 0x9U, 0xeU}) {
-        const bool isContainer = type == 0x2U || type == 0x5U || type == 0x8U || type == 0x9U;
-        row(qPrintable(QStringLiteral("resource of type %1").arg(type)), withWord(lastItem, type << 28U | 0x0ffffff0),
-            isContainer ? noContainer : noResource);
-    }
-}
-
-void TestIcuData::damageIsReported()
-{
-    const auto [file, expected] = cells<QByteArray, QByteArray>();
-    std::string error;
-    const auto data = BundleData::fromFile(view(file), error);
-    QVERIFY(!data || !ResourceBundleReader::open(*data, &*m_poolReader, error));
-    QCOMPARE(QByteArray::fromStdString(error), expected);
-}
-
-// Loads a copy of the library from an installed tree of its own.
-void TestIcuData::namedDirectoryIsKept()
-{
-    const QTemporaryDir tree;
-    const QDir data(QFile::decodeName(dataDirectory()));
-    const QString library = tree.filePath("lib/libzelicudata.so.1");
-    QVERIFY(QDir(tree.path()).mkpath("lib") && QDir(tree.path()).mkpath("share/zel"));
-    QVERIFY(QFile::link(data.path(), tree.filePath("share/zel/icu")));
-    QVERIFY(QFile::copy(data.filePath("../../../lib/libzelicudata.so.1"), library));
-
-    const StockData stockData;
-    u_setDataDirectory("/elsewhere");
-    QVERIFY2(dlopen(QFile::encodeName(library).constData(), RTLD_NOW | RTLD_LOCAL) != nullptr, dlerror());
-    QCOMPARE(QByteArray(u_getDataDirectory()), QByteArray("/elsewhere"));
-}
-
-void TestIcuData::environmentComesFirst()
-{
-    const QList<QByteArray> ours{QByteArray(dataDirectory()) + " 1 1"};
-    const QString mode = QStringLiteral("--data-directory");
-    QCOMPARE(runSelf(mode, QString()), ours);
-    QCOMPARE(runSelf(mode, QStringLiteral("")), ours);
-    QCOMPARE(runSelf(mode, QStringLiteral("/elsewhere")), QList<QByteArray>{"/elsewhere 0 0"});
-    QCOMPARE(runSelf(mode, QStringLiteral("/elsewhere"), true), ours);
-}
-
-void TestIcuData::generatorMends_data()
-{
-    const NamedRow<Damage> row;
-    row("nothing", [](const QDir&) {});
-    row("bundle gone", [](const QDir& bundles) { QFile::remove(bundles.filePath("de.res")); });
-    row("bundle cut short", [](const QDir& bundles) { QFile::resize(bundles.filePath("fr.res"), 9); });
-    row("pool gone", [](const QDir& bundles) { QDir(bundles.filePath("pool")).removeRecursively(); });
-    row("list gone", [](const QDir& bundles) { QFile::remove(bundles.filePath("bundles.list")); });
-    row("all gone", [](const QDir& bundles) { QDir(bundles).removeRecursively(); });
-}
-
-void TestIcuData::generatorMends()
-{
-    const auto [damage] = cells<Damage>();
-    const QTemporaryDir directory;
-    const QDir bundles(directory.filePath(QStringLiteral(U_ICUDATA_NAME)));
-    const QStringList always{directory.path()};
-    const QStringList unlessSound{QStringLiteral("--unless-sound"), directory.path()};
-    QCOMPARE(QProcess::execute(QStringLiteral(ZEL_ICUDATA_GEN), always), 0);
-    const QDateTime made = QFileInfo(bundles, QStringLiteral("bundles.list")).lastModified();
-    damage(bundles);
-    const auto isSound = [path = bundles.path().toStdString()] {
-        return BundleList::problemOf(path).empty() && BundleList::hasPool(path);
-    };
-    const bool wasSound = isSound();
-    QCOMPARE(wasSound, QByteArray(QTest::currentDataTag()) == "nothing");
-    QCOMPARE(QProcess::execute(QStringLiteral(ZEL_ICUDATA_GEN), unlessSound), 0);
-    QVERIFY(isSound());
-    QCOMPARE(QFileInfo(bundles, QStringLiteral("bundles.list")).lastModified() == made, wasSound);
-}
-
-void TestIcuData::generatorsRunSideBySide()
-{
-    const QTemporaryDir directory;
-    for (int round = 0; round < 3; ++round) {
-        std::array<QProcess, 2> generators;
-        for (QProcess& generator : generators) {
-            generator.start(QStringLiteral(ZEL_ICUDATA_GEN), {directory.path()});
-        }
-        for (QProcess& generator : generators) {
-            QVERIFY(generator.waitForFinished());
-            QCOMPARE(generator.readAllStandardError(), QByteArray());
-            QCOMPARE(generator.exitCode(), 0);
-        }
-        QCOMPARE(BundleList::problemOf(directory.filePath(QStringLiteral(U_ICUDATA_NAME)).toStdString()),
-                 std::string());
-        QCOMPARE(QDir(directory.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).size(), 1);
-    }
-}
 
 int main(int argc, char** argv)
 {

@@ -162,56 +162,44 @@ class IcuErrorsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void failures_data();
-    void failures();
-    void listsFail_data();
-    void listsFail();
-    void handlersUseTheFormatter_data();
-    void handlersUseTheFormatter();
+    void initTestCase()
+    {
+        QVERIFY(m_settings.setClock("12"));
+        QVERIFY(m_settings.setRegion("en_US"));
+    }
 
-private:
-    SettingsRoot m_settings;
-};
+    void failures_data()
+    {
+        addColumns<IcuFaults::Function, QList<int>, Call, QString, QStringList>();
 
-void IcuErrorsTest::initTestCase()
-{
-    QVERIFY(m_settings.setClock("12"));
-    QVERIFY(m_settings.setRegion("en_US"));
-}
+        const auto row = [](const char* name, IcuFaults::Function function, const QList<int>& fates, Call call,
+                            const QString& result, const char* messages = nullptr) {
+            QTest::newRow(name) << function << fates << call << result
+                                << (messages == nullptr ? QStringList() : lines(messages));
+        };
+        const QString none;
+        const auto text = [](const char* ascii) { return QString::fromLatin1(ascii); };
 
-void IcuErrorsTest::failures_data()
-{
-    addColumns<IcuFaults::Function, QList<int>, Call, QString, QStringList>();
+        // Without the keyword the locale serves all the same.
+        row("keyword", IcuFaults::SetKeywordValue, {atOnce}, localeName, text("de_AT"),
+            "warning: Error in calling icu::Locale::setKeywordValue( const char *, const char *, UErrorCode & ) : "
+            "U_MEMORY_ALLOCATION_ERROR\n"
+            "warning: static icu::Locale zel::utility::i18n::Locale::toICU(const QLocale&) could not set gregorian "
+            "calendar "
+            "on de_AT locale");
+        row("keyword of a format", IcuFaults::SetKeywordValue, {atOnce}, mediumDate, text("dd.MM.yyyy"),
+            "warning: Error in calling icu::Locale::setKeywordValue( const char *, const char *, UErrorCode & ): "
+            "U_MEMORY_ALLOCATION_ERROR\n"
+            "warning: zel::utility::i18n::getICULocale could not set gregorian calendar on de_AT locale");
 
-    const auto row = [](const char* name, IcuFaults::Function function, const QList<int>& fates, Call call,
-                        const QString& result, const char* messages = nullptr) {
-        QTest::newRow(name) << function << fates << call << result
-                            << (messages == nullptr ? QStringList() : lines(messages));
-    };
-    const QString none;
-    const auto text = [](const char* ascii) { return QString::fromLatin1(ascii); };
-
-    // Without the keyword the locale serves all the same.
-    row("keyword", IcuFaults::SetKeywordValue, {atOnce}, localeName, text("de_AT"),
-        "warning: Error in calling icu::Locale::setKeywordValue( const char *, const char *, UErrorCode & ) : "
-        "U_MEMORY_ALLOCATION_ERROR\n"
-        "warning: static icu::Locale zel::utility::i18n::Locale::toICU(const QLocale&) could not set gregorian "
-        "calendar "
-        "on de_AT locale");
-    row("keyword of a format", IcuFaults::SetKeywordValue, {atOnce}, mediumDate, text("dd.MM.yyyy"),
-        "warning: Error in calling icu::Locale::setKeywordValue( const char *, const char *, UErrorCode & ): "
-        "U_MEMORY_ALLOCATION_ERROR\n"
-        "warning: zel::utility::i18n::getICULocale could not set gregorian calendar on de_AT locale");
-
-    // Qt's own formats, which do not follow the clock.
-    row("date", IcuFaults::CreateDateTimeInstance, {null}, mediumDate, austrian.dateFormat(QLocale::ShortFormat));
-    row("time", IcuFaults::CreateDateTimeInstance, {null}, shortTime, austrian.timeFormat(QLocale::ShortFormat));
-    row("date and time", IcuFaults::CreateDateTimeInstance, {null}, mediumDateTime,
-        austrian.dateTimeFormat(QLocale::ShortFormat));
-    row("percentage", IcuFaults::CreatePercentInstance, {atOnce}, percentage, none);
-    row("percentage, late", IcuFaults::CreatePercentInstance, {late}, percentage, none);
-    row("percentage, null", IcuFaults::CreatePercentInstance, {null}, percentage, none);
+        // Qt's own formats, which do not follow the clock.
+        row("date", IcuFaults::CreateDateTimeInstance, {null}, mediumDate, austrian.dateFormat(QLocale::ShortFormat));
+        row("time", IcuFaults::CreateDateTimeInstance, {null}, shortTime, austrian.timeFormat(QLocale::ShortFormat));
+        row("date and time", IcuFaults::CreateDateTimeInstance, {null}, mediumDateTime,
+            austrian.dateTimeFormat(QLocale::ShortFormat));
+        row("percentage", IcuFaults::CreatePercentInstance, {atOnce}, percentage, none);
+        row("percentage, late", IcuFaults::CreatePercentInstance, {late}, percentage, none);
+        row("percentage, null", IcuFaults::CreatePercentInstance, {null}, percentage, none);
 
 #define GENERATOR "icu::DateTimePatternGenerator::createInstance( const icu::Locale &, UErrorCode & )"
 #define BEST_PATTERN "icu::DateTimePatternGenerator::getBestPattern( const icu::UnicodeString &, UErrorCode & )"
@@ -223,22 +211,23 @@ void IcuErrorsTest::failures_data()
 #define PATTERN                                                                                                        \
     "\nwarning: static QString zel::utility::i18n::DatePattern::formatFromPattern(const QString&, const QDateTime&, "  \
     "const QLocale&) "
-    row("generator", IcuFaults::CreateGenerator, {atOnce}, bestPattern, none,
-        "warning: Error in calling " GENERATOR ": U_MEMORY_ALLOCATION_ERROR" SKELETON
-        "could not instantiate icu::DateTimePatternGenerator");
-    row("generator, late", IcuFaults::CreateGenerator, {late}, bestPattern, none,
-        "warning: Error in calling " GENERATOR ": U_INTERNAL_PROGRAM_ERROR" SKELETON
-        "could not instantiate icu::DateTimePatternGenerator");
-    row("generator, null", IcuFaults::CreateGenerator, {null}, bestPattern, none,
-        "warning: " GENERATOR " returned a NULL pointer without setting an error code!" SKELETON
-        "could not instantiate icu::DateTimePatternGenerator");
-    row("best pattern", IcuFaults::GetBestPattern, {late}, bestPattern, none,
-        "warning: Error in calling " BEST_PATTERN ": U_INTERNAL_PROGRAM_ERROR" SKELETON "could not parse the skeleton");
-    row("date format", IcuFaults::CreateDateFormat, {late}, formatted, none,
-        "warning: Error in calling " DATE_FORMAT ": U_INTERNAL_PROGRAM_ERROR" PATTERN
-        "could not instantiate date formatter");
-    row("formatting", IcuFaults::FormatDate, {late}, formatted, none,
-        "warning: Error in calling " FORMAT_DATE ": U_INTERNAL_PROGRAM_ERROR" PATTERN "failed to format date/time");
+        row("generator", IcuFaults::CreateGenerator, {atOnce}, bestPattern, none,
+            "warning: Error in calling " GENERATOR ": U_MEMORY_ALLOCATION_ERROR" SKELETON
+            "could not instantiate icu::DateTimePatternGenerator");
+        row("generator, late", IcuFaults::CreateGenerator, {late}, bestPattern, none,
+            "warning: Error in calling " GENERATOR ": U_INTERNAL_PROGRAM_ERROR" SKELETON
+            "could not instantiate icu::DateTimePatternGenerator");
+        row("generator, null", IcuFaults::CreateGenerator, {null}, bestPattern, none,
+            "warning: " GENERATOR " returned a NULL pointer without setting an error code!" SKELETON
+            "could not instantiate icu::DateTimePatternGenerator");
+        row("best pattern", IcuFaults::GetBestPattern, {late}, bestPattern, none,
+            "warning: Error in calling " BEST_PATTERN ": U_INTERNAL_PROGRAM_ERROR" SKELETON
+            "could not parse the skeleton");
+        row("date format", IcuFaults::CreateDateFormat, {late}, formatted, none,
+            "warning: Error in calling " DATE_FORMAT ": U_INTERNAL_PROGRAM_ERROR" PATTERN
+            "could not instantiate date formatter");
+        row("formatting", IcuFaults::FormatDate, {late}, formatted, none,
+            "warning: Error in calling " FORMAT_DATE ": U_INTERNAL_PROGRAM_ERROR" PATTERN "failed to format date/time");
 
 #define INIT                                                                                                           \
     "static icu::ResourceBundle* zel::utility::i18n::ResourceAccessor::initResource(const icu::Locale&, const "        \
@@ -246,17 +235,17 @@ void IcuErrorsTest::failures_data()
 #define GET_FAILED                                                                                                     \
     "warning: Error in calling icu::ResourceBundle::get( const char *, UErrorCode & ) : U_INTERNAL_PROGRAM_ERROR\n"    \
     "warning: " INIT "failed to access resource key "
-    row("bundle", IcuFaults::OpenBundle, {atOnce}, bundle, none,
-        "critical: " INIT "icu::ResourceBundle::ResourceBundle( const char *, const icu::Locale &, UErrorCode & )\n"
-        "critical: " INIT "failed to open resource bundle for locale de_AT");
-    row("first key", IcuFaults::GetResource, {late}, bundle, none, GET_FAILED "\"units\" in locale de_AT");
-    row("second key", IcuFaults::GetResource, {works, late}, bundle, none,
-        GET_FAILED "\"minute-past\" in locale de_AT");
+        row("bundle", IcuFaults::OpenBundle, {atOnce}, bundle, none,
+            "critical: " INIT "icu::ResourceBundle::ResourceBundle( const char *, const icu::Locale &, UErrorCode & )\n"
+            "critical: " INIT "failed to open resource bundle for locale de_AT");
+        row("first key", IcuFaults::GetResource, {late}, bundle, none, GET_FAILED "\"units\" in locale de_AT");
+        row("second key", IcuFaults::GetResource, {works, late}, bundle, none,
+            GET_FAILED "\"minute-past\" in locale de_AT");
 
-    // The next locale of the chain has the phrases, too.
-    row("named days", IcuFaults::GetString, {works, late}, today, text("heute"),
-        "warning: Error in calling icu::ResourceBundle::getStringEx( const char *, UErrorCode & ) : "
-        "U_INTERNAL_PROGRAM_ERROR");
+        // The next locale of the chain has the phrases, too.
+        row("named days", IcuFaults::GetString, {works, late}, today, text("heute"),
+            "warning: Error in calling icu::ResourceBundle::getStringEx( const char *, UErrorCode & ) : "
+            "U_INTERNAL_PROGRAM_ERROR");
 
 #define PLURAL                                                                                                         \
     "zel::utility::i18n::PluralResourceAccessor::PluralResourceAccessor(const QLocale&, const QStringList&, "          \
@@ -269,19 +258,19 @@ void IcuErrorsTest::failures_data()
     "critical: Error in calling " factory " : " error "\ncritical: " PLURAL consequence INVALID
 #define NOTHING(factory, consequence)                                                                                  \
     "warning: " factory " returned a NULL pointer without setting an error code!\nwarning: " PLURAL consequence INVALID
-    row("plural rules", IcuFaults::ForLocale, {late}, fiveMinutesAgo, none,
-        FAILED(RULES, "U_INTERNAL_PROGRAM_ERROR", "failed to instantiate plural rules"));
-    row("plural rules, null", IcuFaults::ForLocale, {null}, fiveMinutesAgo, none,
-        NOTHING(RULES, "failed to instantiate plural rules"));
-    row("root numbers", IcuFaults::CreateNumberFormat, {atOnce}, fiveMinutesAgo, none,
-        FAILED(NUMBERS, "U_MEMORY_ALLOCATION_ERROR", "failed to instantiate root number formatting"));
-    row("root numbers, null", IcuFaults::CreateNumberFormat, {null}, fiveMinutesAgo, none,
-        NOTHING(NUMBERS, "failed to instantiate root number formatting"));
-    row("numbers", IcuFaults::CreateNumberFormat, {works, late}, fiveMinutesAgo, none,
-        FAILED(NUMBERS, "U_INTERNAL_PROGRAM_ERROR", "failed to instantiate number formatting"));
-    row("numbers, null", IcuFaults::CreateNumberFormat, {works, null}, fiveMinutesAgo, none,
-        NOTHING(NUMBERS, "failed to instantiate number formatting"));
-    row("last entry is there", IcuFaults::GetString, {missing, missing}, fiveMinutesAgo, text("vor 5 Minuten"));
+        row("plural rules", IcuFaults::ForLocale, {late}, fiveMinutesAgo, none,
+            FAILED(RULES, "U_INTERNAL_PROGRAM_ERROR", "failed to instantiate plural rules"));
+        row("plural rules, null", IcuFaults::ForLocale, {null}, fiveMinutesAgo, none,
+            NOTHING(RULES, "failed to instantiate plural rules"));
+        row("root numbers", IcuFaults::CreateNumberFormat, {atOnce}, fiveMinutesAgo, none,
+            FAILED(NUMBERS, "U_MEMORY_ALLOCATION_ERROR", "failed to instantiate root number formatting"));
+        row("root numbers, null", IcuFaults::CreateNumberFormat, {null}, fiveMinutesAgo, none,
+            NOTHING(NUMBERS, "failed to instantiate root number formatting"));
+        row("numbers", IcuFaults::CreateNumberFormat, {works, late}, fiveMinutesAgo, none,
+            FAILED(NUMBERS, "U_INTERNAL_PROGRAM_ERROR", "failed to instantiate number formatting"));
+        row("numbers, null", IcuFaults::CreateNumberFormat, {works, null}, fiveMinutesAgo, none,
+            NOTHING(NUMBERS, "failed to instantiate number formatting"));
+        row("last entry is there", IcuFaults::GetString, {missing, missing}, fiveMinutesAgo, text("vor 5 Minuten"));
 
 #define OFFSET                                                                                                         \
     "static int zel::utility::i18n::RelativeDate::offset(const QDateTime&, const QDateTime&, "                         \
@@ -308,9 +297,9 @@ void IcuErrorsTest::failures_data()
     row(name ", time", IcuFaults::SetTime, {__VA_ARGS__ late}, call, text("0"),                                        \
         "warning: Error in calling icu::Calendar::setTime( UDate, UErrorCode & ): "                                    \
         "U_INTERNAL_PROGRAM_ERROR\nwarning: " signature "failed to set up a calendar")
-    CALENDAR_ROWS("offset", hourOffset, OFFSET, );
-    CALENDAR_ROWS("offset, second", hourOffset, OFFSET, works, );
-    CALENDAR_ROWS("difference", minuteDifference, DIFFERENCE, );
+        CALENDAR_ROWS("offset", hourOffset, OFFSET, );
+        CALENDAR_ROWS("offset, second", hourOffset, OFFSET, works, );
+        CALENDAR_ROWS("difference", minuteDifference, DIFFERENCE, );
 
 #define UPDATE "\nwarning: void zel::utility::i18n::CustomDateFormatterPrivate::updateFormatter() const "
 #define CUSTOM_FORMAT "QString zel::utility::i18n::CustomDateFormatter::format(const QDateTime&) const "
@@ -320,91 +309,95 @@ void IcuErrorsTest::failures_data()
         "called on invalid formatter");                                                                                \
     row(name ", second build", IcuFaults::function, {works, atOnce}, customAgain, text("5/1/2012"),                    \
         "warning: Error in calling " icu " : U_MEMORY_ALLOCATION_ERROR" UPDATE consequence)
-    CUSTOM_ROWS("custom, generator", CreateGenerator, GENERATOR, "could not instantiate  the pattern generator");
-    row("custom, generator, null", IcuFaults::CreateGenerator, {works, null}, customAgain, text("5/1/2012"),
-        "warning: " GENERATOR " returned a NULL pointer without setting an error code!" UPDATE
-        "could not instantiate  the pattern generator");
-    CUSTOM_ROWS("custom, best pattern", GetBestPattern, BEST_PATTERN, "could not parse the skeleton");
-    CUSTOM_ROWS("custom, date format", CreateDateFormat, DATE_FORMAT, "could not instantiate the date format");
-    row("custom, formatting", IcuFaults::FormatDate, {late}, custom, none,
-        "warning: Error in calling " FORMAT_DATE " : U_INTERNAL_PROGRAM_ERROR\nwarning: " CUSTOM_FORMAT
-        "failed to format date/time");
-}
-
-void IcuErrorsTest::failures()
-{
-    const auto [function, fates, call, result, messages] =
-        cells<IcuFaults::Function, QList<int>, Call, QString, QStringList>();
-    MessageLog log;
-
-    IcuFaults::arm(function, fates);
-    const QString actual = call();
-    QVERIFY(IcuFaults::allTaken(function));
-    QCOMPARE(log.take(), messages);
-    QCOMPARE(actual, result);
-    QCOMPARE(actual.isNull(), result.isNull());
-}
-
-void IcuErrorsTest::listsFail_data()
-{
-    QTest::addColumn<IcuFaults::Function>("function");
-    for (const auto function :
-         {IcuFaults::CreateDateFormat, IcuFaults::FormatDate, IcuFaults::OpenBundle, IcuFaults::GetResource,
-          IcuFaults::GetString, IcuFaults::ForLocale, IcuFaults::CreateNumberFormat, IcuFaults::CreateCalendar,
-          IcuFaults::SetTime, IcuFaults::SetKeywordValue}) {
-        QTest::addRow("%d", function) << function;
+        CUSTOM_ROWS("custom, generator", CreateGenerator, GENERATOR, "could not instantiate  the pattern generator");
+        row("custom, generator, null", IcuFaults::CreateGenerator, {works, null}, customAgain, text("5/1/2012"),
+            "warning: " GENERATOR " returned a NULL pointer without setting an error code!" UPDATE
+            "could not instantiate  the pattern generator");
+        CUSTOM_ROWS("custom, best pattern", GetBestPattern, BEST_PATTERN, "could not parse the skeleton");
+        CUSTOM_ROWS("custom, date format", CreateDateFormat, DATE_FORMAT, "could not instantiate the date format");
+        row("custom, formatting", IcuFaults::FormatDate, {late}, custom, none,
+            "warning: Error in calling " FORMAT_DATE " : U_INTERNAL_PROGRAM_ERROR\nwarning: " CUSTOM_FORMAT
+            "failed to format date/time");
     }
-}
 
-/** While ICU fails, the texts and messages of a list are those of its moments one by one. */
-void IcuErrorsTest::listsFail()
-{
-    QFETCH(IcuFaults::Function, function);
-    const QList<int> fails = QVector<int>(1000, late).toList();
-    RelativeDateFormatter formatter(RelativeDateFormat::TimeCritical);
-    formatter.setLocale(austrian);
-    formatter.setAnchorTime(moment);
-    formatter.setWording(RelativeDateWording::Natural);
-    const QList<QDateTime> list{moment, moment.addSecs(-300), moment.addDays(-1), moment.addDays(-2),
-                                moment.addDays(-9)};
-    MessageLog log;
-    IcuFaults::arm(function, fails);
-    const QStringList texts = formatter.formatAll(list);
-    const QStringList messages = log.take();
-    QVERIFY(!messages.isEmpty());
-    QStringList oneByOne;
-    IcuFaults::arm(function, fails);
-    for (const QDateTime& each : list) {
-        oneByOne.append(formatter.format(each));
+    void failures()
+    {
+        const auto [function, fates, call, result, messages] =
+            cells<IcuFaults::Function, QList<int>, Call, QString, QStringList>();
+        MessageLog log;
+
+        IcuFaults::arm(function, fates);
+        const QString actual = call();
+        QVERIFY(IcuFaults::allTaken(function));
+        QCOMPARE(log.take(), messages);
+        QCOMPARE(actual, result);
+        QCOMPARE(actual.isNull(), result.isNull());
     }
-    IcuFaults::arm(function, {});
-    QCOMPARE(texts, oneByOne);
-    QCOMPARE(messages, log.take());
-}
 
-void IcuErrorsTest::handlersUseTheFormatter_data()
-{
-    const NamedRow<Call, QString> row;
-    row("skeleton in format", Call(otherSkeletonDuringFormat),
-        "5/1/2012, " + zoneName({}, moment, icu::Locale::getUS()) + "|May 2012");
-    row("skeleton in an update", Call(otherSkeletonDuringUpdate), "May 2012");
-    row("clock in an update", Call(otherClockDuringUpdate), "Thu 12:25|tomorrow 12:25");
-    row("type in format", Call(otherTypeDuringFormat), "5 minutes ago|yesterday");
-}
+    void listsFail_data()
+    {
+        QTest::addColumn<IcuFaults::Function>("function");
+        for (const auto function :
+             {IcuFaults::CreateDateFormat, IcuFaults::FormatDate, IcuFaults::OpenBundle, IcuFaults::GetResource,
+              IcuFaults::GetString, IcuFaults::ForLocale, IcuFaults::CreateNumberFormat, IcuFaults::CreateCalendar,
+              IcuFaults::SetTime, IcuFaults::SetKeywordValue}) {
+            QTest::addRow("%d", function) << function;
+        }
+    }
 
-void IcuErrorsTest::handlersUseTheFormatter()
-{
-    const auto [call, texts] = cells<Call, QString>();
-    QVERIFY(m_settings.setClock("13"));
-    MessageLog log;
-    // The clock is unknown from when it says so.
-    QVERIFY(QTest::qWaitFor([&log] {
-        ClockSetting::clockFormat();
-        return !log.take().isEmpty();
-    }));
-    QCOMPARE(call(), texts);
-    QVERIFY(Interruption::happened());
-}
+    /** While ICU fails, the texts and messages of a list are those of its moments one by one. */
+    void listsFail()
+    {
+        QFETCH(IcuFaults::Function, function);
+        const QList<int> fails = QVector<int>(1000, late).toList();
+        RelativeDateFormatter formatter(RelativeDateFormat::TimeCritical);
+        formatter.setLocale(austrian);
+        formatter.setAnchorTime(moment);
+        formatter.setWording(RelativeDateWording::Natural);
+        const QList<QDateTime> list{moment, moment.addSecs(-300), moment.addDays(-1), moment.addDays(-2),
+                                    moment.addDays(-9)};
+        MessageLog log;
+        IcuFaults::arm(function, fails);
+        const QStringList texts = formatter.formatAll(list);
+        const QStringList messages = log.take();
+        QVERIFY(!messages.isEmpty());
+        QStringList oneByOne;
+        IcuFaults::arm(function, fails);
+        for (const QDateTime& each : list) {
+            oneByOne.append(formatter.format(each));
+        }
+        IcuFaults::arm(function, {});
+        QCOMPARE(texts, oneByOne);
+        QCOMPARE(messages, log.take());
+    }
+
+    void handlersUseTheFormatter_data()
+    {
+        const NamedRow<Call, QString> row;
+        row("skeleton in format", Call(otherSkeletonDuringFormat),
+            "5/1/2012, " + zoneName({}, moment, icu::Locale::getUS()) + "|May 2012");
+        row("skeleton in an update", Call(otherSkeletonDuringUpdate), "May 2012");
+        row("clock in an update", Call(otherClockDuringUpdate), "Thu 12:25|tomorrow 12:25");
+        row("type in format", Call(otherTypeDuringFormat), "5 minutes ago|yesterday");
+    }
+
+    void handlersUseTheFormatter()
+    {
+        const auto [call, texts] = cells<Call, QString>();
+        QVERIFY(m_settings.setClock("13"));
+        MessageLog log;
+        // The clock is unknown from when it says so.
+        QVERIFY(QTest::qWaitFor([&log] {
+            ClockSetting::clockFormat();
+            return !log.take().isEmpty();
+        }));
+        QCOMPARE(call(), texts);
+        QVERIFY(Interruption::happened());
+    }
+
+private:
+    SettingsRoot m_settings;
+};
 
 QTEST_GUILESS_MAIN(IcuErrorsTest)
 #include "tst_icuerrors.moc"

@@ -90,160 +90,153 @@ class ListsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void distances();
+    void initTestCase()
+    {
+        qputenv("TZ", "Europe/Berlin");
+        ::tzset();
+        QVERIFY(m_root.setClock("12"));
+        QVERIFY(m_root.setTimeZone("America/New_York"));
+    }
+
+    /** The arithmetic counts as ICU's calendars do. */
+    void distances()
+    {
+        Moments moments;
+        for (int i = 0; i < 2000; ++i) {
+            const QDateTime anchor = moments.anchor();
+            const QDateTime moment = moments.near(anchor);
+            const RelativeDistance distance(RelativeDistance::reading(anchor), RelativeDistance::reading(moment));
+            const QByteArray what =
+                (anchor.toString(Qt::ISODateWithMs) + ' ' + moment.toString(Qt::ISODateWithMs)).toUtf8();
+            QVERIFY2(distance.years() == RelativeDate::offset(anchor, moment, RelativeDateElement::Years), what);
+            if (distance.years() == 0) {
+                QVERIFY2(distance.days() == RelativeDate::offset(anchor, moment, RelativeDateElement::NamedDays), what);
+            }
+            for (const auto element :
+                 {RelativeDateElement::Minutes, RelativeDateElement::Hours, RelativeDateElement::NamedDays}) {
+                if (qAbs(distance.days()) < 1000) {
+                    QVERIFY2(distance.difference(element) == RelativeDate::difference(anchor, moment, element, false),
+                             what);
+                }
+            }
+        }
+    }
+
     void relativeLists_data() { locales_data(); }
-    void relativeLists();
+
+    void relativeLists()
+    {
+        QFETCH(QString, locale);
+        Moments moments;
+        MessageLog log;
+        for (const auto type : {RelativeDateFormat::TimeCritical, RelativeDateFormat::NonTimeCritical}) {
+            RelativeDateFormatter formatter(type);
+            formatter.setLocale(QLocale(locale));
+            for (const auto clock : {ClockFormat::Use12hourClock, ClockFormat::Use24hourClock}) {
+                formatter.setClockFormat(clock);
+                for (const auto wording : {RelativeDateWording::Exact, RelativeDateWording::Natural}) {
+                    formatter.setWording(wording);
+                    formatter.setAnchorTime(moments.anchor());
+                    QList<QDateTime> list{QDateTime(), formatter.anchorTime(),
+                                          QDateTime(QDate(-3000, 3, 15), QTime(12, 0)),
+                                          QDateTime(QDate(12345, 6, 7), QTime(8, 9))};
+                    for (int i = 0; i < 60; ++i) {
+                        list.append(moments.near(formatter.anchorTime()));
+                    }
+                    const QStringList texts = formatter.formatAll(list);
+                    const QStringList messages = log.take();
+                    QCOMPARE(texts, oneByOne(formatter, list));
+                    QCOMPARE(messages, log.take());
+                }
+            }
+        }
+    }
+
     void customLists_data() { locales_data(); }
-    void customLists();
-    void invalidFormatters();
-    void textsHoldUntil_data();
-    void textsHoldUntil();
+
+    void customLists()
+    {
+        QFETCH(QString, locale);
+        QVERIFY(m_root.setRegion(locale.toLatin1()));
+        Moments moments;
+        for (const char* const skeleton : {"yMMMd", "EEEEhm", "yMMMdHmsz", "v", ""}) {
+            const CustomDateFormatter formatter(QString::fromLatin1(skeleton));
+            QList<QDateTime> list{QDateTime()};
+            for (int i = 0; i < 30; ++i) {
+                list.append(moments.near(moments.anchor()));
+            }
+            QCOMPARE(formatter.formatAll(list), oneByOne(formatter, list));
+        }
+    }
+
+    void invalidFormatters()
+    {
+        MessageLog log;
+        const RelativeDateFormatter formatter(static_cast<RelativeDateFormat::Type>(3));
+        const QList<QDateTime> list{QDateTime(), QDateTime::currentDateTime()};
+        log.take();
+        QCOMPARE(formatter.formatAll(list), (QStringList{QString(), QString()}));
+        QCOMPARE(log.take().size(), 2);
+        QVERIFY(!formatter.validUntil(list.last()).isValid());
+        QCOMPARE(RelativeDateFormatter(RelativeDateFormat::TimeCritical).formatAll({}), QStringList());
+    }
+
+    void textsHoldUntil_data()
+    {
+        addColumns<RelativeDateFormat::Type, RelativeDateWording::Type>();
+        for (const auto type : {RelativeDateFormat::TimeCritical, RelativeDateFormat::NonTimeCritical}) {
+            for (const auto wording : {RelativeDateWording::Exact, RelativeDateWording::Natural}) {
+                QTest::addRow("%d %d", type, wording) << type << wording;
+            }
+        }
+    }
+
+    void textsHoldUntil()
+    {
+        const auto [type, wording] = cells<RelativeDateFormat::Type, RelativeDateWording::Type>();
+        Moments moments;
+        RelativeDateFormatter formatter(type);
+        formatter.setLocale(QLocale("en_US"));
+        formatter.setWording(wording);
+        int near = 0;
+        int changed = 0;
+        for (int i = 0; i < 1500; ++i) {
+            const QDateTime anchor = moments.anchor();
+            const QDateTime moment = moments.near(anchor);
+            const auto textAt = [&](qint64 later) {
+                formatter.setAnchorTime(anchor.addMSecs(later));
+                return formatter.format(moment);
+            };
+            const QString text = textAt(0);
+            const QDateTime until = formatter.validUntil(moment);
+            const qint64 held = until.isValid() ? anchor.msecsTo(until) : 400 * day;
+            const QByteArray what =
+                (anchor.toString(Qt::ISODateWithMs) + ' ' + moment.toString(Qt::ISODateWithMs) + ' ' + text).toUtf8();
+            QVERIFY2(held > 0, what);
+            for (const qint64 later : {held - 1, moments.upTo(held), moments.upTo(std::min(held, hour))}) {
+                QVERIFY2(textAt(later) == text, what);
+            }
+            if (until.isValid() && qAbs(anchor.msecsTo(moment)) < day) {
+                ++near;
+                changed += textAt(held) != text ? 1 : 0;
+            }
+            QVERIFY2(!until.isValid() || (until.timeSpec() == anchor.timeSpec()), what);
+        }
+        QVERIFY2(near > 300, qPrintable(QString::number(near)));
+        QVERIFY2(changed * 100 >= near * 95, qPrintable(QStringLiteral("%1 of %2").arg(changed).arg(near)));
+    }
 
 private:
-    static void locales_data();
+    static void locales_data()
+    {
+        QTest::addColumn<QString>("locale");
+        for (const char* const locale : locales) {
+            QTest::newRow(locale) << QString::fromLatin1(locale);
+        }
+    }
 
     SettingsRoot m_root;
 };
-
-void ListsTest::initTestCase()
-{
-    qputenv("TZ", "Europe/Berlin");
-    ::tzset();
-    QVERIFY(m_root.setClock("12"));
-    QVERIFY(m_root.setTimeZone("America/New_York"));
-}
-
-void ListsTest::locales_data()
-{
-    QTest::addColumn<QString>("locale");
-    for (const char* const locale : locales) {
-        QTest::newRow(locale) << QString::fromLatin1(locale);
-    }
-}
-
-/** The arithmetic counts as ICU's calendars do. */
-void ListsTest::distances()
-{
-    Moments moments;
-    for (int i = 0; i < 2000; ++i) {
-        const QDateTime anchor = moments.anchor();
-        const QDateTime moment = moments.near(anchor);
-        const RelativeDistance distance(RelativeDistance::reading(anchor), RelativeDistance::reading(moment));
-        const QByteArray what =
-            (anchor.toString(Qt::ISODateWithMs) + ' ' + moment.toString(Qt::ISODateWithMs)).toUtf8();
-        QVERIFY2(distance.years() == RelativeDate::offset(anchor, moment, RelativeDateElement::Years), what);
-        if (distance.years() == 0) {
-            QVERIFY2(distance.days() == RelativeDate::offset(anchor, moment, RelativeDateElement::NamedDays), what);
-        }
-        for (const auto element :
-             {RelativeDateElement::Minutes, RelativeDateElement::Hours, RelativeDateElement::NamedDays}) {
-            if (qAbs(distance.days()) < 1000) {
-                QVERIFY2(distance.difference(element) == RelativeDate::difference(anchor, moment, element, false),
-                         what);
-            }
-        }
-    }
-}
-
-void ListsTest::relativeLists()
-{
-    QFETCH(QString, locale);
-    Moments moments;
-    MessageLog log;
-    for (const auto type : {RelativeDateFormat::TimeCritical, RelativeDateFormat::NonTimeCritical}) {
-        RelativeDateFormatter formatter(type);
-        formatter.setLocale(QLocale(locale));
-        for (const auto clock : {ClockFormat::Use12hourClock, ClockFormat::Use24hourClock}) {
-            formatter.setClockFormat(clock);
-            for (const auto wording : {RelativeDateWording::Exact, RelativeDateWording::Natural}) {
-                formatter.setWording(wording);
-                formatter.setAnchorTime(moments.anchor());
-                QList<QDateTime> list{QDateTime(), formatter.anchorTime(), QDateTime(QDate(-3000, 3, 15), QTime(12, 0)),
-                                      QDateTime(QDate(12345, 6, 7), QTime(8, 9))};
-                for (int i = 0; i < 60; ++i) {
-                    list.append(moments.near(formatter.anchorTime()));
-                }
-                const QStringList texts = formatter.formatAll(list);
-                const QStringList messages = log.take();
-                QCOMPARE(texts, oneByOne(formatter, list));
-                QCOMPARE(messages, log.take());
-            }
-        }
-    }
-}
-
-void ListsTest::customLists()
-{
-    QFETCH(QString, locale);
-    QVERIFY(m_root.setRegion(locale.toLatin1()));
-    Moments moments;
-    for (const char* const skeleton : {"yMMMd", "EEEEhm", "yMMMdHmsz", "v", ""}) {
-        const CustomDateFormatter formatter(QString::fromLatin1(skeleton));
-        QList<QDateTime> list{QDateTime()};
-        for (int i = 0; i < 30; ++i) {
-            list.append(moments.near(moments.anchor()));
-        }
-        QCOMPARE(formatter.formatAll(list), oneByOne(formatter, list));
-    }
-}
-
-void ListsTest::invalidFormatters()
-{
-    MessageLog log;
-    const RelativeDateFormatter formatter(static_cast<RelativeDateFormat::Type>(3));
-    const QList<QDateTime> list{QDateTime(), QDateTime::currentDateTime()};
-    log.take();
-    QCOMPARE(formatter.formatAll(list), (QStringList{QString(), QString()}));
-    QCOMPARE(log.take().size(), 2);
-    QVERIFY(!formatter.validUntil(list.last()).isValid());
-    QCOMPARE(RelativeDateFormatter(RelativeDateFormat::TimeCritical).formatAll({}), QStringList());
-}
-
-void ListsTest::textsHoldUntil_data()
-{
-    addColumns<RelativeDateFormat::Type, RelativeDateWording::Type>();
-    for (const auto type : {RelativeDateFormat::TimeCritical, RelativeDateFormat::NonTimeCritical}) {
-        for (const auto wording : {RelativeDateWording::Exact, RelativeDateWording::Natural}) {
-            QTest::addRow("%d %d", type, wording) << type << wording;
-        }
-    }
-}
-
-void ListsTest::textsHoldUntil()
-{
-    const auto [type, wording] = cells<RelativeDateFormat::Type, RelativeDateWording::Type>();
-    Moments moments;
-    RelativeDateFormatter formatter(type);
-    formatter.setLocale(QLocale("en_US"));
-    formatter.setWording(wording);
-    int near = 0;
-    int changed = 0;
-    for (int i = 0; i < 1500; ++i) {
-        const QDateTime anchor = moments.anchor();
-        const QDateTime moment = moments.near(anchor);
-        const auto textAt = [&](qint64 later) {
-            formatter.setAnchorTime(anchor.addMSecs(later));
-            return formatter.format(moment);
-        };
-        const QString text = textAt(0);
-        const QDateTime until = formatter.validUntil(moment);
-        const qint64 held = until.isValid() ? anchor.msecsTo(until) : 400 * day;
-        const QByteArray what =
-            (anchor.toString(Qt::ISODateWithMs) + ' ' + moment.toString(Qt::ISODateWithMs) + ' ' + text).toUtf8();
-        QVERIFY2(held > 0, what);
-        for (const qint64 later : {held - 1, moments.upTo(held), moments.upTo(std::min(held, hour))}) {
-            QVERIFY2(textAt(later) == text, what);
-        }
-        if (until.isValid() && qAbs(anchor.msecsTo(moment)) < day) {
-            ++near;
-            changed += textAt(held) != text ? 1 : 0;
-        }
-        QVERIFY2(!until.isValid() || (until.timeSpec() == anchor.timeSpec()), what);
-    }
-    QVERIFY2(near > 300, qPrintable(QString::number(near)));
-    QVERIFY2(changed * 100 >= near * 95, qPrintable(QStringLiteral("%1 of %2").arg(changed).arg(near)));
-}
 
 QTEST_GUILESS_MAIN(ListsTest)
 #include "tst_lists.moc"

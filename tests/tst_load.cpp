@@ -52,39 +52,36 @@ class LoadTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void staysFlat_data();
-    void staysFlat();
+    void staysFlat_data()
+    {
+        const NamedRow<Write> row;
+        row("CustomDateFormatter", Write(writeCustom));
+        row("RelativeDateFormatter", Write(writeRelative));
+    }
+
+    void staysFlat()
+    {
+        const auto [write] = cells<Write>();
+        QVERIFY(m_root.setClock("24") && m_root.setRegion("pl_PL") && m_root.setTimeZone("Asia/Tokyo"));
+        MessageLog log;
+        constexpr int count = 1000000;
+        constexpr int warmUp = 10000;
+        constexpr qint64 step = 1237; // seconds, so that all kinds of text are met
+        qint64 early = 0;
+        int written = 0;
+        for (int i = 0; i < count; ++i) {
+            written += write(anchor.addSecs((i % 1000 - 500) * step)).isEmpty() ? 0 : 1;
+            early = i == warmUp ? residentSize() : early;
+        }
+        const qint64 late = residentSize();
+        QCOMPARE(written, count);
+        QVERIFY2(late * 100 <= early * 102, qPrintable(QStringLiteral("%1 kB became %2 kB").arg(early).arg(late)));
+        QCOMPARE(log.take(), QStringList());
+    }
 
 private:
     SettingsRoot m_root;
 };
-
-void LoadTest::staysFlat_data()
-{
-    const NamedRow<Write> row;
-    row("CustomDateFormatter", Write(writeCustom));
-    row("RelativeDateFormatter", Write(writeRelative));
-}
-
-void LoadTest::staysFlat()
-{
-    const auto [write] = cells<Write>();
-    QVERIFY(m_root.setClock("24") && m_root.setRegion("pl_PL") && m_root.setTimeZone("Asia/Tokyo"));
-    MessageLog log;
-    constexpr int count = 1000000;
-    constexpr int warmUp = 10000;
-    constexpr qint64 step = 1237; // seconds, so that all kinds of text are met
-    qint64 early = 0;
-    int written = 0;
-    for (int i = 0; i < count; ++i) {
-        written += write(anchor.addSecs((i % 1000 - 500) * step)).isEmpty() ? 0 : 1;
-        early = i == warmUp ? residentSize() : early;
-    }
-    const qint64 late = residentSize();
-    QCOMPARE(written, count);
-    QVERIFY2(late * 100 <= early * 102, qPrintable(QStringLiteral("%1 kB became %2 kB").arg(early).arg(late)));
-    QCOMPARE(log.take(), QStringList());
-}
 
 QTEST_GUILESS_MAIN(LoadTest)
 #include "tst_load.moc"

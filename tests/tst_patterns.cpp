@@ -17,211 +17,199 @@ class PatternsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void translates_data();
-    void translates();
-    void dateFormats_data();
-    void dateFormats();
-    void timesFollowTheClock_data();
-    void timesFollowTheClock();
-    void amPmComesAndGoes_data();
-    void amPmComesAndGoes();
-    void clockRewritesSkeletons_data();
-    void clockRewritesSkeletons();
+    void initTestCase()
+    {
+        QVERIFY(m_root.setRegion("de_DE"));
+        QVERIFY(m_root.setClock("12"));
+    }
+
+    void translates_data()
+    {
+        const Row<QString, QString> row;
+        row("", nullptr);
+        row("y yy yyy yyyyy", "yyyy yy yyyy yyyy");
+        row("M MM MMM MMMM MMMMM", "M MM MMM MMMM MMMM");
+        row("L LL LLL LLLL LLLLL", "M MM MMM MMMM MMMM");
+        row("d dd ddd", "d dd dd");
+        row("E EE EEE EEEE EEEEEE", "ddd ddd ddd dddd dddd");
+        row("ccc cccc ccccc", "ddd dddd dddd");
+        row("c", nullptr);
+        row("cc", nullptr);
+        row("eee", "ddd");
+        row("e", nullptr);
+        row("eeee", nullptr);
+        row("H HH h hh HHH", "h hh h hh hh");
+        row("m mm s ss", "m mm s ss");
+        row("s.S ss.SS ss.SSS", "s.z ss.zzz ss.zzz");
+        row("h:mm aaaa", "h:mm AP");
+        row("z zzzz Z v vvvv V", "t t t t t t");
+        row("d 'de' MMMM 'de' y", "d 'de' MMMM 'de' yyyy");
+        row("''h", "''h");
+        row("h 'o''clock' a", "h 'o''clock' AP");
+        row("'abc", "'abc'");
+        row("y年M月d日[x]_9", "yyyy年M月d日[x]_9");
+        row("G y", nullptr);
+        row("h:mm K", nullptr);
+        for (const char letter : {'Y', 'u', 'Q', 'q', 'w', 'W', 'D', 'F', 'g', 'A', 'k', 'K'}) {
+            QTest::addRow("no Qt form for %c", letter) << QString(QLatin1Char(letter)) << QString();
+        }
+    }
+
+    void translates()
+    {
+        const auto [icu, qt] = cells<QString, QString>();
+        const QString translated = getQtDateTimePatternFromICU(icu);
+        QCOMPARE(translated, qt);
+        QCOMPARE(translated.isNull(), qt.isNull());
+    }
+
+    void dateFormats_data()
+    {
+        const Row<QString, int, QString> row;
+        row("en_US", DateFormat::Short, QStringLiteral("M/d/yy"));
+        row("en_US", DateFormat::Medium, QStringLiteral("MMM d, yyyy"));
+        row("en_US", DateFormat::Long, QStringLiteral("MMMM d, yyyy"));
+        row("en_US", DateFormat::Full, QStringLiteral("dddd, MMMM d, yyyy"));
+        row("de_AT", DateFormat::Full, QStringLiteral("dddd, d. MMMM yyyy"));
+        row("es_ES", DateFormat::Long, QStringLiteral("d 'de' MMMM 'de' yyyy"));
+        row("ja_JP", DateFormat::Long, QString::fromUtf8("yyyy年M月d日"));
+        row("zh_TW", DateFormat::Full, QString::fromUtf8("yyyy年M月d日 dddd"));
+        row("en_US", 0, QStringLiteral("MMM d, yyyy"));
+        row("en_US", 5, QStringLiteral("MMM d, yyyy"));
+        row("en_US", -1, QStringLiteral("MMM d, yyyy"));
+        // Long Thai dates carry an era, which Qt cannot write.
+        const QLocale thai(QStringLiteral("th_TH"));
+        row("th_TH", DateFormat::Medium, QStringLiteral("d MMM yyyy"));
+        row("th_TH", DateFormat::Long, thai.dateFormat(QLocale::LongFormat));
+        row("th_TH", DateFormat::Full, thai.dateFormat(QLocale::LongFormat));
+    }
+
+    void dateFormats()
+    {
+        const auto [locale, type, pattern] = cells<QString, int, QString>();
+        QCOMPARE(dateFormat(QLocale(locale), static_cast<DateFormat::Type>(type)), pattern);
+    }
+
+    void timesFollowTheClock_data()
+    {
+        addColumns<QString, int, bool, QString, QString, bool>();
+        const auto row = [](const char* locale, DateFormat::Type type, bool withDate, const char* twelve,
+                            const char* twentyFour, bool unsupported = false) {
+            QTest::addRow("%s %d%s", locale, type, withDate ? " with date" : "")
+                << QString::fromLatin1(locale) << static_cast<int>(type) << withDate << QString::fromUtf8(twelve)
+                << QString::fromUtf8(twentyFour) << unsupported;
+        };
+        row("en_US", DateFormat::Medium, false, "h:mm:ss AP", "hh:mm:ss");
+        row("en_US", DateFormat::Full, false, "h:mm:ss AP t", "hh:mm:ss t");
+        row("en_US", DateFormat::Short, true, "M/d/yy, h:mm AP", "M/d/yy, hh:mm");
+        row("en_GB", DateFormat::Short, false, "h:mm ap", "hh:mm");
+        row("de_DE", DateFormat::Medium, false, "h:mm:ss AP", "hh:mm:ss");
+        row("de_DE", DateFormat::Full, false, "h:mm:ss AP t", "hh:mm:ss t");
+        row("de_DE", DateFormat::Short, false, "h:mm AP", "hh:mm");
+        row("ja_JP", DateFormat::Medium, false, "APh:mm:ss", "h:mm:ss");
+        row("zh_CN", DateFormat::Medium, false, "APh:mm:ss", "hh:mm:ss");
+        row("zh_CN", DateFormat::Full, false, "t APh:mm:ss", "t hh:mm:ss");
+        row("tr_TR", DateFormat::Short, true, "d.MM.yyyy AP h:mm", "d.MM.yyyy hh:mm");
+        row("es_ES", DateFormat::Full, false, "h:mm:ss ap (t)", "h:mm:ss (t)");
+        row("zh_TW", DateFormat::Medium, false, "APh:mm:ss", "hh:mm:ss");
+        row("ko_KR", DateFormat::Medium, false, "AP h:mm:ss", "hh:mm:ss");
+        row("sq_AL", DateFormat::Medium, false, "h:mm:ss ap", "hh:mm:ss", true);
+        // With an era in its date the text is Qt's own, which knows no clock.
+        const QByteArray thai = QLocale("th_TH").dateTimeFormat(QLocale::LongFormat).toUtf8();
+        row("th_TH", DateFormat::Long, true, thai.constData(), thai.constData());
+        row("fr_CA", DateFormat::Medium, false, "h 'h' mm 'min' ss 's' ap", "hh 'h' mm 'min' ss 's'");
+        row("fr_CA", DateFormat::Full, false, "h 'h' mm 'min' ss 's' ap t", "hh 'h' mm 'min' ss 's' t");
+    }
+
+    void timesFollowTheClock()
+    {
+        const auto [locale, type, withDate, twelve, twentyFour, unsupported] =
+            cells<QString, int, bool, QString, QString, bool>();
+        QString (*const formatOf)(const QLocale&, DateFormat::Type) =
+            withDate ? static_cast<QString (*)(const QLocale&, DateFormat::Type)>(&dateTimeFormat)
+                     : static_cast<QString (*)(const QLocale&, DateFormat::Type)>(&timeFormat);
+        MessageLog log;
+        QVERIFY(setClock(12));
+        QCOMPARE(formatOf(QLocale(locale), static_cast<DateFormat::Type>(type)), twelve);
+        QCOMPARE(log.take(), QStringList());
+        QVERIFY(setClock(24));
+        QCOMPARE(formatOf(QLocale(locale), static_cast<DateFormat::Type>(type)), twentyFour);
+        const QStringList warning{
+            QStringLiteral("warning: zel::utility::i18n::Formatting::replaceWithSystemClockFormat() "
+                           "has encountered an unsupported time format! ")};
+        QCOMPARE(log.take(), unsupported ? warning : QStringList());
+    }
+
+    void amPmComesAndGoes_data()
+    {
+        const Row<QLocale::Language, QString, QString, QString> row;
+        row(QLocale::German, "mm:ss", "mm:ss AP", "mm:ss");
+        row(QLocale::German, "", " AP", "");
+        row(QLocale::Japanese, "mm:ss", "mm:ss", "mm:ss");
+        row(QLocale::Chinese, "mm:ss", "mm:ss AP", "mm:ss");
+        row(QLocale::Cantonese, "hh:mm", "APh:mm", "hh:mm");
+        row(QLocale::Burmese, "d 'hh' hh:mm", "d 'hh' AP h:mm", "d 'hh' hh:mm");
+        row(QLocale::Spanish, "h:mm:ss (t)", "h:mm:ss AP (t)", "hh:mm:ss (t)");
+        row(QLocale::Spanish, "h:mm:ss(t)", "h:mm:ss AP(t)", "hh:mm:ss(t)");
+        row(QLocale::Spanish, "h:mm:ss, t", "h:mm:ss AP, t", "hh:mm:ss, t");
+        row(QLocale::Bulgarian, "h:mm 'ч'.", "h:mm 'ч'. AP", "hh:mm 'ч'.");
+        row(QLocale::French, "hh'h'mm'min'", "h'h'mm'min' AP", "hh'h'mm'min'");
+        row(QLocale::French, "hh:mm''", "h:mm AP''", "hh:mm''");
+    }
+
+    void amPmComesAndGoes()
+    {
+        auto [language, pattern, added, removed] = cells<QLocale::Language, QString, QString, QString>();
+        const MessageLog log; // of places that are not the language's own
+        AmPmField::add(language, pattern);
+        QCOMPARE(pattern, added);
+        if (AmPmField::isIn(pattern)) {
+            AmPmField::remove(language, pattern);
+        }
+        QCOMPARE(pattern.trimmed(), removed);
+        QString comma = QStringLiteral("h:mm AP, t");
+        AmPmField::remove(QLocale::Albanian, comma);
+        QCOMPARE(comma, QStringLiteral("hh:mm, t"));
+    }
+
+    void clockRewritesSkeletons_data()
+    {
+        const Row<QString, int, QString> row;
+        row("jmm", ClockFormat::Use12hourClock, "hmm");
+        row("jmm", ClockFormat::Use24hourClock, "Hmm");
+        row("jmm", ClockFormat::ApplyLocaleFormat, "jmm");
+        row("jmm", ClockFormat::ApplyUserFormat, "Hmm");
+        row("jjmm", ClockFormat::Use12hourClock, "hhmm");
+        row("Jmm", ClockFormat::Use24hourClock, "Jmm");
+        row("yMMMd", 99, "yMMMd");
+        row("jmm", 99, nullptr);
+        row("Jmm", 0, nullptr);
+    }
+
+    void clockRewritesSkeletons()
+    {
+        const auto [skeleton, format, rewritten] = cells<QString, int, QString>();
+        QVERIFY(setClock(24));
+        MessageLog log;
+        QCOMPARE(ClockPattern::apply(skeleton, static_cast<ClockFormat::Type>(format)), rewritten);
+        const QStringList complaint{
+            QStringLiteral("critical: static QString zel::utility::i18n::ClockPattern::apply(const "
+                           "QString&, zel::utility::i18n::ClockFormat::Type) called with invalid "
+                           "clock format type %1 ")
+                .arg(format)};
+        QCOMPARE(log.take(), rewritten.isNull() ? complaint : QStringList());
+        QCOMPARE(ClockPattern::isNotApplicable(skeleton), skeleton == QLatin1String("yMMMd"));
+    }
 
 private:
-    bool setClock(int hours);
+    bool setClock(int hours)
+    {
+        return m_root.setClock(QByteArray::number(hours)) &&
+               QTest::qWaitFor([hours] { return ClockSetting::clockFormat() == hours; }, 2000);
+    }
 
     SettingsRoot m_root;
 };
-
-void PatternsTest::initTestCase()
-{
-    QVERIFY(m_root.setRegion("de_DE"));
-    QVERIFY(m_root.setClock("12"));
-}
-
-bool PatternsTest::setClock(int hours)
-{
-    return m_root.setClock(QByteArray::number(hours)) &&
-           QTest::qWaitFor([hours] { return ClockSetting::clockFormat() == hours; }, 2000);
-}
-
-void PatternsTest::translates_data()
-{
-    const Row<QString, QString> row;
-    row("", nullptr);
-    row("y yy yyy yyyyy", "yyyy yy yyyy yyyy");
-    row("M MM MMM MMMM MMMMM", "M MM MMM MMMM MMMM");
-    row("L LL LLL LLLL LLLLL", "M MM MMM MMMM MMMM");
-    row("d dd ddd", "d dd dd");
-    row("E EE EEE EEEE EEEEEE", "ddd ddd ddd dddd dddd");
-    row("ccc cccc ccccc", "ddd dddd dddd");
-    row("c", nullptr);
-    row("cc", nullptr);
-    row("eee", "ddd");
-    row("e", nullptr);
-    row("eeee", nullptr);
-    row("H HH h hh HHH", "h hh h hh hh");
-    row("m mm s ss", "m mm s ss");
-    row("s.S ss.SS ss.SSS", "s.z ss.zzz ss.zzz");
-    row("h:mm aaaa", "h:mm AP");
-    row("z zzzz Z v vvvv V", "t t t t t t");
-    row("d 'de' MMMM 'de' y", "d 'de' MMMM 'de' yyyy");
-    row("''h", "''h");
-    row("h 'o''clock' a", "h 'o''clock' AP");
-    row("'abc", "'abc'");
-    row("y年M月d日[x]_9", "yyyy年M月d日[x]_9");
-    row("G y", nullptr);
-    row("h:mm K", nullptr);
-    for (const char letter : {'Y', 'u', 'Q', 'q', 'w', 'W', 'D', 'F', 'g', 'A', 'k', 'K'}) {
-        QTest::addRow("no Qt form for %c", letter) << QString(QLatin1Char(letter)) << QString();
-    }
-}
-
-void PatternsTest::translates()
-{
-    const auto [icu, qt] = cells<QString, QString>();
-    const QString translated = getQtDateTimePatternFromICU(icu);
-    QCOMPARE(translated, qt);
-    QCOMPARE(translated.isNull(), qt.isNull());
-}
-
-void PatternsTest::dateFormats_data()
-{
-    const Row<QString, int, QString> row;
-    row("en_US", DateFormat::Short, QStringLiteral("M/d/yy"));
-    row("en_US", DateFormat::Medium, QStringLiteral("MMM d, yyyy"));
-    row("en_US", DateFormat::Long, QStringLiteral("MMMM d, yyyy"));
-    row("en_US", DateFormat::Full, QStringLiteral("dddd, MMMM d, yyyy"));
-    row("de_AT", DateFormat::Full, QStringLiteral("dddd, d. MMMM yyyy"));
-    row("es_ES", DateFormat::Long, QStringLiteral("d 'de' MMMM 'de' yyyy"));
-    row("ja_JP", DateFormat::Long, QString::fromUtf8("yyyy年M月d日"));
-    row("zh_TW", DateFormat::Full, QString::fromUtf8("yyyy年M月d日 dddd"));
-    row("en_US", 0, QStringLiteral("MMM d, yyyy"));
-    row("en_US", 5, QStringLiteral("MMM d, yyyy"));
-    row("en_US", -1, QStringLiteral("MMM d, yyyy"));
-    // Long Thai dates carry an era, which Qt cannot write.
-    const QLocale thai(QStringLiteral("th_TH"));
-    row("th_TH", DateFormat::Medium, QStringLiteral("d MMM yyyy"));
-    row("th_TH", DateFormat::Long, thai.dateFormat(QLocale::LongFormat));
-    row("th_TH", DateFormat::Full, thai.dateFormat(QLocale::LongFormat));
-}
-
-void PatternsTest::dateFormats()
-{
-    const auto [locale, type, pattern] = cells<QString, int, QString>();
-    QCOMPARE(dateFormat(QLocale(locale), static_cast<DateFormat::Type>(type)), pattern);
-}
-
-void PatternsTest::timesFollowTheClock_data()
-{
-    addColumns<QString, int, bool, QString, QString, bool>();
-    const auto row = [](const char* locale, DateFormat::Type type, bool withDate, const char* twelve,
-                        const char* twentyFour, bool unsupported = false) {
-        QTest::addRow("%s %d%s", locale, type, withDate ? " with date" : "")
-            << QString::fromLatin1(locale) << static_cast<int>(type) << withDate << QString::fromUtf8(twelve)
-            << QString::fromUtf8(twentyFour) << unsupported;
-    };
-    row("en_US", DateFormat::Medium, false, "h:mm:ss AP", "hh:mm:ss");
-    row("en_US", DateFormat::Full, false, "h:mm:ss AP t", "hh:mm:ss t");
-    row("en_US", DateFormat::Short, true, "M/d/yy, h:mm AP", "M/d/yy, hh:mm");
-    row("en_GB", DateFormat::Short, false, "h:mm ap", "hh:mm");
-    row("de_DE", DateFormat::Medium, false, "h:mm:ss AP", "hh:mm:ss");
-    row("de_DE", DateFormat::Full, false, "h:mm:ss AP t", "hh:mm:ss t");
-    row("de_DE", DateFormat::Short, false, "h:mm AP", "hh:mm");
-    row("ja_JP", DateFormat::Medium, false, "APh:mm:ss", "h:mm:ss");
-    row("zh_CN", DateFormat::Medium, false, "APh:mm:ss", "hh:mm:ss");
-    row("zh_CN", DateFormat::Full, false, "t APh:mm:ss", "t hh:mm:ss");
-    row("tr_TR", DateFormat::Short, true, "d.MM.yyyy AP h:mm", "d.MM.yyyy hh:mm");
-    row("es_ES", DateFormat::Full, false, "h:mm:ss ap (t)", "h:mm:ss (t)");
-    row("zh_TW", DateFormat::Medium, false, "APh:mm:ss", "hh:mm:ss");
-    row("ko_KR", DateFormat::Medium, false, "AP h:mm:ss", "hh:mm:ss");
-    row("sq_AL", DateFormat::Medium, false, "h:mm:ss ap", "hh:mm:ss", true);
-    // With an era in its date the text is Qt's own, which knows no clock.
-    const QByteArray thai = QLocale("th_TH").dateTimeFormat(QLocale::LongFormat).toUtf8();
-    row("th_TH", DateFormat::Long, true, thai.constData(), thai.constData());
-    row("fr_CA", DateFormat::Medium, false, "h 'h' mm 'min' ss 's' ap", "hh 'h' mm 'min' ss 's'");
-    row("fr_CA", DateFormat::Full, false, "h 'h' mm 'min' ss 's' ap t", "hh 'h' mm 'min' ss 's' t");
-}
-
-void PatternsTest::timesFollowTheClock()
-{
-    const auto [locale, type, withDate, twelve, twentyFour, unsupported] =
-        cells<QString, int, bool, QString, QString, bool>();
-    QString (*const formatOf)(const QLocale&, DateFormat::Type) =
-        withDate ? static_cast<QString (*)(const QLocale&, DateFormat::Type)>(&dateTimeFormat)
-                 : static_cast<QString (*)(const QLocale&, DateFormat::Type)>(&timeFormat);
-    MessageLog log;
-    QVERIFY(setClock(12));
-    QCOMPARE(formatOf(QLocale(locale), static_cast<DateFormat::Type>(type)), twelve);
-    QCOMPARE(log.take(), QStringList());
-    QVERIFY(setClock(24));
-    QCOMPARE(formatOf(QLocale(locale), static_cast<DateFormat::Type>(type)), twentyFour);
-    const QStringList warning{QStringLiteral("warning: zel::utility::i18n::Formatting::replaceWithSystemClockFormat() "
-                                             "has encountered an unsupported time format! ")};
-    QCOMPARE(log.take(), unsupported ? warning : QStringList());
-}
-
-void PatternsTest::amPmComesAndGoes_data()
-{
-    const Row<QLocale::Language, QString, QString, QString> row;
-    row(QLocale::German, "mm:ss", "mm:ss AP", "mm:ss");
-    row(QLocale::German, "", " AP", "");
-    row(QLocale::Japanese, "mm:ss", "mm:ss", "mm:ss");
-    row(QLocale::Chinese, "mm:ss", "mm:ss AP", "mm:ss");
-    row(QLocale::Cantonese, "hh:mm", "APh:mm", "hh:mm");
-    row(QLocale::Burmese, "d 'hh' hh:mm", "d 'hh' AP h:mm", "d 'hh' hh:mm");
-    row(QLocale::Spanish, "h:mm:ss (t)", "h:mm:ss AP (t)", "hh:mm:ss (t)");
-    row(QLocale::Spanish, "h:mm:ss(t)", "h:mm:ss AP(t)", "hh:mm:ss(t)");
-    row(QLocale::Spanish, "h:mm:ss, t", "h:mm:ss AP, t", "hh:mm:ss, t");
-    row(QLocale::Bulgarian, "h:mm 'ч'.", "h:mm 'ч'. AP", "hh:mm 'ч'.");
-    row(QLocale::French, "hh'h'mm'min'", "h'h'mm'min' AP", "hh'h'mm'min'");
-    row(QLocale::French, "hh:mm''", "h:mm AP''", "hh:mm''");
-}
-
-void PatternsTest::amPmComesAndGoes()
-{
-    auto [language, pattern, added, removed] = cells<QLocale::Language, QString, QString, QString>();
-    const MessageLog log; // of places that are not the language's own
-    AmPmField::add(language, pattern);
-    QCOMPARE(pattern, added);
-    if (AmPmField::isIn(pattern)) {
-        AmPmField::remove(language, pattern);
-    }
-    QCOMPARE(pattern.trimmed(), removed);
-    QString comma = QStringLiteral("h:mm AP, t");
-    AmPmField::remove(QLocale::Albanian, comma);
-    QCOMPARE(comma, QStringLiteral("hh:mm, t"));
-}
-
-void PatternsTest::clockRewritesSkeletons_data()
-{
-    const Row<QString, int, QString> row;
-    row("jmm", ClockFormat::Use12hourClock, "hmm");
-    row("jmm", ClockFormat::Use24hourClock, "Hmm");
-    row("jmm", ClockFormat::ApplyLocaleFormat, "jmm");
-    row("jmm", ClockFormat::ApplyUserFormat, "Hmm");
-    row("jjmm", ClockFormat::Use12hourClock, "hhmm");
-    row("Jmm", ClockFormat::Use24hourClock, "Jmm");
-    row("yMMMd", 99, "yMMMd");
-    row("jmm", 99, nullptr);
-    row("Jmm", 0, nullptr);
-}
-
-void PatternsTest::clockRewritesSkeletons()
-{
-    const auto [skeleton, format, rewritten] = cells<QString, int, QString>();
-    QVERIFY(setClock(24));
-    MessageLog log;
-    QCOMPARE(ClockPattern::apply(skeleton, static_cast<ClockFormat::Type>(format)), rewritten);
-    const QStringList complaint{QStringLiteral("critical: static QString zel::utility::i18n::ClockPattern::apply(const "
-                                               "QString&, zel::utility::i18n::ClockFormat::Type) called with invalid "
-                                               "clock format type %1 ")
-                                    .arg(format)};
-    QCOMPARE(log.take(), rewritten.isNull() ? complaint : QStringList());
-    QCOMPARE(ClockPattern::isNotApplicable(skeleton), skeleton == QLatin1String("yMMMd"));
-}
 
 QTEST_GUILESS_MAIN(PatternsTest)
 #include "tst_patterns.moc"

@@ -99,563 +99,541 @@ class PlatformTest : public QObject
 private Q_SLOTS:
     void init() { setPosixLocale("", "", "nl_BE.UTF-8"); }
 
-    void decodes_data();
-    void decodes();
-    void refuses_data();
-    void refuses();
-    void writes();
-    void opens_data();
-    void opens();
-    void notifies_data();
-    void notifies();
-    void notifiesOfWholeObjects();
-    void notifiesAfterTornRead();
-    void readsWhatWasAnnounced();
-    void stopsNotifying();
-    void leavesNoWatch();
-
-    void takesRegion_data();
-    void takesRegion();
-    void fallsBackToPosixLocale_data();
-    void fallsBackToPosixLocale();
-    void reportsEachBadContentOnce();
-    void seesChangeWithinOneTick();
-    void neverWaits();
-    void keepsRelativeRoot();
-    void doesNotReadAgain();
-    void tellsChangedRegion();
-};
-
-void PlatformTest::decodes_data()
-{
-    const NamedRow<QByteArray, QVariant> row;
-    row("text", ":de_DE", QStringLiteral("de_DE"));
-    row("empty text", ":", QString());
-    row("text with colons", ":a:b::c", QStringLiteral("a:b::c"));
-    row("escapes", R"(:\\n\n\\)", QStringLiteral("\\n\n\\"));
-    row("carriage return", ":a\r", QStringLiteral("a\r"));
-    row("beyond the BMP", ":\xF0\x9F\x95\x91", QString::fromUtf8("\xF0\x9F\x95\x91"));
-    row("byte order mark", ":\xEF\xBB\xBFx", QChar(0xFEFF) + QLatin1String("x"));
-    row("integer", "n:24", 24);
-    row("negative", "n:-7", -7);
-    row("smallest int", "n:-2147483648", std::numeric_limits<int>::min());
-    row("past int", "n:2147483648", Q_INT64_C(2147483648));
-    row("past long", "n:9223372036854775808", 9223372036854775808.0);
-    row("real", "n:0.1", 0.1);
-    row("whole real", "n:24.0", 24.0);
-    row("exponent", "n:1e300", 1e300);
-    row("true", "b:true", true);
-    row("false", "b:false", false);
-}
-
-void PlatformTest::decodes()
-{
-    const auto [value, expected] = cells<QByteArray, QVariant>();
-    bool ok = false;
-    const QVariantMap decoded = PpsObject::decode("@o\na:" + value + '\n', &ok);
-    QVERIFY(ok);
-    QCOMPARE(decoded, record(expected));
-    const QVariant held = decoded.first().toMap().first();
-    QCOMPARE(held.userType(), expected.userType());
-
-    const QByteArray encoded = PpsObject::encode(decoded, &ok);
-    QVERIFY(ok);
-    QCOMPARE(PpsObject::decode(encoded), decoded);
-    QCOMPARE(PpsObject::decode(encoded).first().toMap().first().userType(), held.userType());
-}
-
-// What is not a text to be decoded is a record to be encoded.
-void PlatformTest::refuses_data()
-{
-    const NamedRow<QVariant, QString> row;
-    row("empty", QByteArray(""), "line 1: no newline at the end");
-    row("cut off", QByteArray("@o\na::b\nc::d"), "line 3: no newline at the end");
-    row("no name", QByteArray("a::b\n"), "line 1: expected '@' and the name of the object");
-    row("Windows line end", QByteArray("@o\r\n"), "line 1: control character in the name");
-    row("byte order mark", QByteArray("\xEF\xBB\xBF@o\n"), "line 1: not valid UTF-8");
-    row("blank line", QByteArray("@o\n\na::b\n"), "line 2: expected attribute:encoding:value");
-    row("no attribute name", QByteArray("@o\n::b\n"), "line 2: empty attribute name");
-    row("tab in attribute name", QByteArray("@o\na\t::b\n"), "line 2: control character in the attribute name");
-    row("attribute twice", QByteArray("@o\na::b\nc::d\na:n:1\n"), "line 4: attribute appears twice");
-    row("unknown encoding", QByteArray("@o\na:json:b\n"), "line 2: unknown encoding");
-    row("unknown escape", QByteArray("@o\na::b\\t\n"), "line 2: unknown escape");
-    row("NUL", QByteArray("@o\na::b\0\n", 9), "line 2: NUL character");
-    row("Latin-1", QByteArray("@o\na::\xE4\n"), "line 2: not valid UTF-8");
-    row("overlong", QByteArray("@o\na::\xC0\xAF\n"), "line 2: not valid UTF-8");
-    for (const char* const number : {"", " 1", "1 ", "+1", "0x10", "1,5", "nan", "1e999", "\xD9\xA1"}) {
-        row(qPrintable(QStringLiteral("number '%1'").arg(QString::fromUtf8(number))),
-            QByteArray("@o\na:n:") + number + '\n', "line 2: not a number");
-    }
-    row("True", QByteArray("@o\na:b:True\n"), "line 2: neither true nor false");
-    row("too large", "@o\na::" + QByteArray(PpsObject::maximumSize - 6, 'x') + '\n', "larger than 1048576 bytes");
-
-    const char* const cannot = "holds what an object cannot";
-    const auto named = [](const char* name, const QVariant& value) {
-        return QVariantMap{{QString::fromLatin1(name), value}};
-    };
-    row("no object", QVariantMap(), "not exactly one object");
-    row("name without @", named("o", QVariantMap()), "line 1: expected '@' and the name of the object");
-    row("no attributes at all", named("@o", 5), cannot);
-    row("colon in attribute name", named("@o", named("a::b", QString())), cannot);
-    row("list", record(QVariantList{1, 2}), "line 2: expected attribute:encoding:value");
-    row("NaN", record(std::numeric_limits<double>::quiet_NaN()), "line 2: not a number");
-    row("half a surrogate pair", record(QString(QChar(0xD83D))), cannot);
-    row("too large to write", record(QString(PpsObject::maximumSize, QLatin1Char('x'))), "larger than 1048576 bytes");
-}
-
-void PlatformTest::refuses()
-{
-    const auto [refused, expected] = cells<QVariant, QString>();
-    bool ok = true;
-    QString error;
-    if (refused.userType() == QMetaType::QByteArray) {
-        QVERIFY(PpsObject::decode(refused.toByteArray(), &ok, &error).isEmpty());
-    } else {
-        QVERIFY(PpsObject::encode(refused.toMap(), &ok, &error).isEmpty());
-    }
-    QVERIFY(!ok);
-    QCOMPARE(error, expected);
-}
-
-void PlatformTest::writes()
-{
-    const SettingsRoot root;
-    PpsObject reader(path);
-    PpsObject writer(path);
-    QVERIFY(reader.open(Subscribe));
-    QVERIFY(!reader.write(object("de_DE")));
-    QCOMPARE(reader.errorString(), root.file(path) + QStringLiteral(": not open for writing"));
-    QVERIFY(writer.open(Publish));
-    bool ok = true;
-    writer.read(&ok);
-    QVERIFY(!ok);
-    QCOMPARE(writer.errorString(), root.file(path) + QStringLiteral(": not open for reading"));
-
-    QVERIFY(writer.write(object("de_DE")));
-    QVERIFY(!writer.write("@locale\nregion"));
-    QCOMPARE(writer.errorString(), root.file(path) + QStringLiteral(": line 2: no newline at the end"));
-    QCOMPARE(reader.read(&ok), object("de_DE"));
-    QVERIFY(ok);
-    QCOMPARE(QFileInfo(root.file(path)).dir().entryList(QDir::Files), {QStringLiteral("locale")});
-
-    // A directory cannot be made below a regular file.
-    QVERIFY(root.remove(path));
-    removeDirectory(root, "/pps/system");
-    QVERIFY(root.write("/pps/system", "a file"));
-    QVERIFY(!writer.write(object("de_DE")));
-    QVERIFY2(writer.errorString().endsWith(QLatin1String("Not a directory")), qPrintable(writer.errorString()));
-}
-
-void PlatformTest::opens_data()
-{
-    addColumns<QString, int, Action, QString, QString>();
-    const Action nothing = [](const SettingsRoot&) {};
-    const auto row = [](const char* name, Action prepare, const char* openError, const char* readError) {
-        QTest::newRow(name) << path << int(Subscribe) << prepare << QString::fromLatin1(openError)
-                            << QString::fromLatin1(readError);
-    };
-    row(
-        "there", [](const SettingsRoot& root) { root.write(path, object("de_DE")); }, "", "");
-    row("no directories yet", nothing, "", "No such file or directory");
-    row(
-        "too large", [](const SettingsRoot& root) { root.write(path, QByteArray(PpsObject::maximumSize + 1, 'x')); },
-        "", "larger than 1048576 bytes");
-    row(
-        "directory", [](const SettingsRoot& root) { QDir().mkpath(root.file(path)); }, "Is a directory", "");
-    row(
-        "below a file", [](const SettingsRoot& root) { root.write("/pps", "x"); }, "Not a directory", "");
-    row(
-        "device",
-        [](const SettingsRoot& root) {
-            QDir().mkpath(QFileInfo(root.file(path)).path());
-            QFile::link(QStringLiteral("/dev/null"), root.file(path));
-        },
-        "Not a regular file", "");
-    QTest::newRow("empty path") << QString() << int(Subscribe) << nothing << QStringLiteral("not an absolute path")
-                                << QString();
-    QTest::newRow("strange mode") << path << 6 << nothing << QStringLiteral("unknown open mode") << QString();
-}
-
-void PlatformTest::opens()
-{
-    const auto [opened, mode, prepare, openError, readError] = cells<QString, int, Action, QString, QString>();
-    const SettingsRoot root;
-    prepare(root);
-    PpsObject tested(opened);
-    QCOMPARE(tested.open(QFlags<zel::PpsOpenMode::Type>(QFlag(mode))), openError.isEmpty());
-    if (!openError.isEmpty()) {
-        QCOMPARE(tested.errorString(), root.file(opened) + QStringLiteral(": ") + openError);
-        return;
-    }
-    bool ok = false;
-    QCOMPARE(tested.read(&ok), readError.isEmpty() ? object("de_DE") : QByteArray());
-    QCOMPARE(ok, readError.isEmpty());
-    if (!ok) {
-        QCOMPARE(tested.errorString(), root.file(opened) + QStringLiteral(": ") + readError);
-    }
-}
-
-void PlatformTest::notifies_data()
-{
-    addColumns<Action, Action, int>();
-    const Action nothing = [](const SettingsRoot&) {};
-    const Action create = [](const SettingsRoot& root) { root.write(path, object("de_DE")); };
-    const auto row = [](const char* name, Action prepare, Action change, int notifications = 1) {
-        QTest::newRow(name) << prepare << change << notifications;
-    };
-    row("directories that do not exist yet", nothing, create);
-    row("replaced by rename", create, [](const SettingsRoot& root) { root.write(path, object("fr_FR")); });
-    row("rewritten in place", create, [](const SettingsRoot& root) { root.rewrite(path, object("fr_FR")); });
-    row(
-        "rewritten with the same", create, [](const SettingsRoot& root) { root.rewrite(path, object("de_DE")); }, 0);
-    row(
-        "neighbour changed", create, [](const SettingsRoot& root) { root.write("/pps/system/settings", "x"); }, 0);
-    row("removed", create, [](const SettingsRoot& root) { root.remove(path); });
-    row("removed and created", create, [](const SettingsRoot& root) {
-        root.remove(path);
-        root.write(path, object("fr_FR"));
-    });
-    row("directories removed and created", create, [](const SettingsRoot& root) {
-        removeDirectory(root, "/pps");
-        root.write(path, object("fr_FR"));
-    });
-    const Action createLinked = [](const SettingsRoot& root) {
-        root.write("/one/locale", object("de_DE"));
-        root.write("/two/locale", object("fr_FR"));
-        QDir().mkpath(root.file("/pps"));
-        QFile::link(QStringLiteral("../one"), root.file("/pps/system"));
-    };
-    row("linked object rewritten", createLinked,
-        [](const SettingsRoot& root) { root.rewrite("/one/locale", object("fr_FR")); });
-    row("linked object replaced", createLinked, [](const SettingsRoot& root) {
-        std::rename(QFile::encodeName(root.file("/two/locale")).constData(),
-                    QFile::encodeName(root.file("/one/locale")).constData());
-    });
-    row("linked directory replaced", createLinked, [](const SettingsRoot& root) {
-        removeDirectory(root, "/one");
-        root.write("/one/locale", object("fr_FR"));
-    });
-    row("link in the middle swapped", createLinked, [](const SettingsRoot& root) {
-        QFile::link(root.file("/two"), root.file("/pps/other"));
-        std::rename(QFile::encodeName(root.file("/pps/other")).constData(),
-                    QFile::encodeName(root.file("/pps/system")).constData());
-    });
-    row("directory above renamed", create,
-        [](const SettingsRoot& root) { QDir().rename(root.file("/pps"), root.file("/old")); });
-}
-
-void PlatformTest::notifies()
-{
-    const auto [prepare, change, notifications] = cells<Action, Action, int>();
-    const SettingsRoot root;
-    prepare(root);
-    PpsObject watched(path);
-    QSignalSpy spy(&watched, SIGNAL(readyRead()));
-    QVERIFY(watched.open(Subscribe));
-    QTest::qWait(longerThanQuiet);
-    QCOMPARE(spy.count(), 0);
-    change(root);
-    QVERIFY(notifications == 0 || spy.wait());
-    QTest::qWait(longerThanQuiet);
-    QCOMPARE(spy.count(), notifications);
-
-    // Whatever was done, it goes on.
-    removeDirectory(root, "/pps/system/locale");
-    root.write(path, object("ja_JP"));
-    QVERIFY(spy.wait());
-    root.rewrite(path, object("th_TH"));
-    QVERIFY(spy.wait());
-    QCOMPARE(spy.count(), notifications + 2);
-    bool ok = false;
-    QCOMPARE(watched.read(&ok), object("th_TH"));
-    QVERIFY(ok);
-}
-
-void PlatformTest::notifiesOfWholeObjects()
-{
-    Watched watched;
-    QList<QByteArray> heard;
-    connect(&watched.object, &PpsObject::readyRead, this, [&] { heard.append(watched.object.read()); });
-    // Another writer leaves the object empty for half of the time, for longer than a watcher waits for it to end.
-    constexpr int rewrites = 200;
-    std::thread writer([&watched] {
-        for (int i = 1; i <= rewrites; ++i) {
-            watched.root.rewrite(path, "");
-            QTest::qSleep(3);
-            watched.root.rewrite(path, object(QByteArray::number(i).constData()));
-            QTest::qSleep(3);
-        }
-    });
-    QTest::qWait(1000);
-    writer.join();
-    const QByteArray last = object(QByteArray::number(rewrites).constData());
-    QTRY_VERIFY(!heard.isEmpty() && heard.last() == last);
-    QVERIFY2(heard.size() >= 3, qPrintable(QString::number(heard.size())));
-    QVERIFY(!heard.contains(QByteArray()));
-}
-
-void PlatformTest::notifiesAfterTornRead()
-{
-    Watched watched;
-    watched.root.rewrite(path, "@loc");
-    QCOMPARE(watched.object.read(), QByteArray("@loc"));
-    watched.root.rewrite(path, object("de_DE"));
-    QTRY_COMPARE(watched.spy.count(), 1);
-}
-
-void PlatformTest::readsWhatWasAnnounced()
-{
-    Watched watched;
-    QList<QByteArray> heard;
-    connect(&watched.object, &PpsObject::readyRead, this, [&] {
-        // Another writer is at it again.
-        watched.root.rewrite(path, "@loc");
-        heard.append(watched.object.read());
-        heard.append(watched.object.read());
-    });
-    watched.root.write(path, object("fr_FR"));
-    QTRY_COMPARE(heard, (QList<QByteArray>{object("fr_FR"), "@loc"}));
-}
-
-void PlatformTest::stopsNotifying()
-{
-    Watched watched;
-    connect(&watched.object, &PpsObject::readyRead, this, [&] { watched.object.setReadyReadEnabled(false); });
-    QVERIFY(watched.root.write(path, object("it_IT")));
-    QTRY_COMPARE(watched.spy.count(), 1);
-    QVERIFY(watched.root.write(path, object("fr_FR")));
-    QTest::qWait(longerThanQuiet);
-    QCOMPARE(watched.spy.count(), 1);
-    watched.object.setReadyReadEnabled(true);
-    QTRY_COMPARE(watched.spy.count(), 2);
-}
-
-void PlatformTest::leavesNoWatch()
-{
+    void decodes_data()
     {
-        const Watched watched;
-        QVERIFY(watches() > 0);
+        const NamedRow<QByteArray, QVariant> row;
+        row("text", ":de_DE", QStringLiteral("de_DE"));
+        row("empty text", ":", QString());
+        row("text with colons", ":a:b::c", QStringLiteral("a:b::c"));
+        row("escapes", R"(:\\n\n\\)", QStringLiteral("\\n\n\\"));
+        row("carriage return", ":a\r", QStringLiteral("a\r"));
+        row("beyond the BMP", ":\xF0\x9F\x95\x91", QString::fromUtf8("\xF0\x9F\x95\x91"));
+        row("byte order mark", ":\xEF\xBB\xBFx", QChar(0xFEFF) + QLatin1String("x"));
+        row("integer", "n:24", 24);
+        row("negative", "n:-7", -7);
+        row("smallest int", "n:-2147483648", std::numeric_limits<int>::min());
+        row("past int", "n:2147483648", Q_INT64_C(2147483648));
+        row("past long", "n:9223372036854775808", 9223372036854775808.0);
+        row("real", "n:0.1", 0.1);
+        row("whole real", "n:24.0", 24.0);
+        row("exponent", "n:1e300", 1e300);
+        row("true", "b:true", true);
+        row("false", "b:false", false);
     }
-    QCOMPARE(watches(), 0);
-}
 
-void PlatformTest::takesRegion_data()
-{
-    addColumns<QByteArray, QString, QString>();
-    const auto accepted = [](const char* value, const char* expected) {
-        QTest::newRow(value) << object(value) << QString::fromLatin1(expected) << QString();
-    };
-    const auto rejected = [](const char* name, const QByteArray& contents, const QString& reason) {
-        QTest::newRow(name) << contents << QStringLiteral("nl_BE Latin") << reason;
-    };
-    const auto noLocale = [&](const char* name, const QByteArray& region, const char* shown) {
-        rejected(name, object(region.constData()),
-                 QStringLiteral("region \"%1\" is not a locale").arg(QLatin1String(shown)));
-    };
-    accepted("de", "de_DE Latin");
-    accepted("de-at", "de_AT Latin");
-    accepted("es-419", "es_419 Latin");
-    accepted("zh-Hant-TW", "zh_TW Traditional Han");
-    accepted("sr_Latn_RS", "sr_RS Latin");
-    accepted("sr_RS@latin", "sr_RS Latin");
-    accepted("el_Grek_GR", "el_GR Greek");
-    accepted("iw_IL", "he_IL Hebrew");
-    accepted("de_DE.UTF-8@euro", "de_DE Latin");
-    accepted("ca-ES-valencia", "ca_ES Latin");
-    accepted("en-US-u-hc-h12", "en_US Latin");
-    accepted("C", "C Default");
-    noLocale("empty", "", "");
-    noLocale("unknown language", "qq_DE", "qq_DE");
-    noLocale("unknown territory", "de_QQ", "de_QQ");
-    noLocale("language name", "German", "German");
-    noLocale("three-letter territory", "de_DEU", "de_DEU");
-    noLocale("script of others", "de_Cyrl_DE", "de_Cyrl_DE");
-    noLocale("unknown script", "de_Qqqq", "de_Qqqq");
-    noLocale("undetermined", "und", "und");
-    noLocale("trailing blank", "de_DE ", "de_DE ");
-    noLocale("line break", "de\\nDE", "de?DE");
-    noLocale("10,000 subtags", "de" + QByteArray("-variant").repeated(10000),
-             "de-variant-variant-variant-variant-varia...");
-    rejected("number", "@locale\nregion:n:49\n", QStringLiteral("region \"49\" is not a locale"));
-    rejected("torn", "@locale\nregion::de", QStringLiteral("line 2: no newline at the end"));
-}
+    void decodes()
+    {
+        const auto [value, expected] = cells<QByteArray, QVariant>();
+        bool ok = false;
+        const QVariantMap decoded = PpsObject::decode("@o\na:" + value + '\n', &ok);
+        QVERIFY(ok);
+        QCOMPARE(decoded, record(expected));
+        const QVariant held = decoded.first().toMap().first();
+        QCOMPARE(held.userType(), expected.userType());
 
-void PlatformTest::takesRegion()
-{
-    const auto [contents, expected, reason] = cells<QByteArray, QString, QString>();
-    const SettingsRoot root;
-    MessageLog log;
-    QVERIFY(root.write(path, contents));
-    QCOMPARE(fullName(region()), expected);
-    const QString message = QStringLiteral("warning: zel::system::LocaleHandler: %1: %2; using the locale nl_BE");
-    QCOMPARE(log.take(), reason.isEmpty() ? QStringList() : QStringList(message.arg(root.file(path), reason)));
-}
-
-void PlatformTest::fallsBackToPosixLocale_data()
-{
-    const NamedRow<QByteArray, QByteArray, QByteArray, QString> row;
-    row("LC_ALL first", "de_AT.UTF-8", "fr_CA", "ja_JP", "de_AT Latin");
-    row("then LC_TIME", "", "fr_CA.utf8", "ja_JP", "fr_CA Latin");
-    row("then LANG", "", "", "ja_JP.eucJP", "ja_JP Japanese");
-    row("none", "", "", "", "C Default");
-    row("C", "C", "", "de_DE", "C Default");
-    row("POSIX", "POSIX", "", "de_DE", "C Default");
-    row("currency modifier", "", "", "de_DE@euro", "de_DE Latin");
-    row("other script modifier", "", "", "uz_UZ@cyrillic", "uz_UZ Cyrillic");
-    row("closest", "", "", "de_US.UTF-8", "de_DE Latin");
-    row("nonsense", "", "", "nonsense", "C Default");
-}
-
-void PlatformTest::fallsBackToPosixLocale()
-{
-    const auto [all, time, language, expected] = cells<QByteArray, QByteArray, QByteArray, QString>();
-    const SettingsRoot root;
-    MessageLog log;
-    setPosixLocale(all, time, language);
-    QCOMPARE(fullName(region()), expected);
-    QVERIFY(root.write(path, "@locale\nlanguage::it_IT\n"));
-    QCOMPARE(fullName(region()), expected);
-    QVERIFY(root.setRegion("pt_BR"));
-    QCOMPARE(region().name(), QStringLiteral("pt_BR"));
-    QVERIFY(root.remove(path));
-    QCOMPARE(fullName(region()), expected);
-    setPosixLocale("is_IS", "", "");
-    QCOMPARE(region().name(), QStringLiteral("is_IS"));
-    QCOMPARE(LocaleHandler(static_cast<zel::system::LocaleType::Type>(1)).locale(), QLocale::c());
-    QCOMPARE(log.take(), QStringList());
-}
-
-void PlatformTest::reportsEachBadContentOnce()
-{
-    const SettingsRoot root;
-    MessageLog log;
-    const auto messagesFor = [&](const QByteArray& contents) {
-        if (!root.write(path, contents)) {
-            return -1;
-        }
-        for (int i = 0; i < 100; ++i) {
-            region();
-        }
-        return static_cast<int>(log.take().size());
-    };
-    QCOMPARE(messagesFor(object("bad")), 1);
-    QCOMPARE(messagesFor(object("bad")), 0);
-    QCOMPARE(messagesFor("@locale\nregion::bad\nmore::1\n"), 1);
-    QCOMPARE(messagesFor(""), 1);
-    QCOMPARE(messagesFor(object("de_DE")), 0);
-    QCOMPARE(messagesFor(""), 1);
-    QCOMPARE(region().name(), QStringLiteral("de_DE"));
-    root.remove(path);
-    QCOMPARE(region().name(), QStringLiteral("nl_BE"));
-    QVERIFY(QDir().mkpath(root.file(path)));
-    region();
-    region();
-    QCOMPARE(log.take(), {QStringLiteral("warning: zel::system::LocaleHandler: %1: Is a directory; using the locale "
-                                         "nl_BE")
-                              .arg(root.file(path))});
-}
-
-void PlatformTest::seesChangeWithinOneTick()
-{
-    const SettingsRoot root;
-    QVERIFY(root.setRegion("de_DE"));
-    for (int i = 0; i < 500; ++i) {
-        // The same size and inode, and mostly the same time of change.
-        const char* const next = i % 2 == 0 ? "fr_FR" : "de_DE";
-        QVERIFY(root.rewrite(path, object(next)));
-        QCOMPARE(region().name(), QString::fromLatin1(next));
+        const QByteArray encoded = PpsObject::encode(decoded, &ok);
+        QVERIFY(ok);
+        QCOMPARE(PpsObject::decode(encoded), decoded);
+        QCOMPARE(PpsObject::decode(encoded).first().toMap().first().userType(), held.userType());
     }
-}
 
-void PlatformTest::neverWaits()
-{
-    const SettingsRoot root;
-    QVERIFY(root.setRegion("de_DE"));
-    const QByteArray file = QFile::encodeName(root.file(path));
-    const QByteArray other = file + '2';
-    std::atomic<bool> done{false};
-    std::thread swapper([&] {
-        for (int i = 0; i < 500; ++i) {
-            ::mkfifo(other.constData(), 0666);
-            std::rename(other.constData(), file.constData());
-            root.rewrite(path + QLatin1Char('2'), object("de_DE"));
-            std::rename(other.constData(), file.constData());
+    // What is not a text to be decoded is a record to be encoded.
+    void refuses_data()
+    {
+        const NamedRow<QVariant, QString> row;
+        row("empty", QByteArray(""), "line 1: no newline at the end");
+        row("cut off", QByteArray("@o\na::b\nc::d"), "line 3: no newline at the end");
+        row("no name", QByteArray("a::b\n"), "line 1: expected '@' and the name of the object");
+        row("Windows line end", QByteArray("@o\r\n"), "line 1: control character in the name");
+        row("byte order mark", QByteArray("\xEF\xBB\xBF@o\n"), "line 1: not valid UTF-8");
+        row("blank line", QByteArray("@o\n\na::b\n"), "line 2: expected attribute:encoding:value");
+        row("no attribute name", QByteArray("@o\n::b\n"), "line 2: empty attribute name");
+        row("tab in attribute name", QByteArray("@o\na\t::b\n"), "line 2: control character in the attribute name");
+        row("attribute twice", QByteArray("@o\na::b\nc::d\na:n:1\n"), "line 4: attribute appears twice");
+        row("unknown encoding", QByteArray("@o\na:json:b\n"), "line 2: unknown encoding");
+        row("unknown escape", QByteArray("@o\na::b\\t\n"), "line 2: unknown escape");
+        row("NUL", QByteArray("@o\na::b\0\n", 9), "line 2: NUL character");
+        row("Latin-1", QByteArray("@o\na::\xE4\n"), "line 2: not valid UTF-8");
+        row("overlong", QByteArray("@o\na::\xC0\xAF\n"), "line 2: not valid UTF-8");
+        for (const char* const number : {"", " 1", "1 ", "+1", "0x10", "1,5", "nan", "1e999", "\xD9\xA1"}) {
+            row(qPrintable(QStringLiteral("number '%1'").arg(QString::fromUtf8(number))),
+                QByteArray("@o\na:n:") + number + '\n', "line 2: not a number");
         }
-        done = true;
-    });
-    MessageLog log;
-    while (!done) {
-        QCOMPARE(region().name(), QStringLiteral("de_DE"));
+        row("True", QByteArray("@o\na:b:True\n"), "line 2: neither true nor false");
+        row("too large", "@o\na::" + QByteArray(PpsObject::maximumSize - 6, 'x') + '\n', "larger than 1048576 bytes");
+
+        const char* const cannot = "holds what an object cannot";
+        const auto named = [](const char* name, const QVariant& value) {
+            return QVariantMap{{QString::fromLatin1(name), value}};
+        };
+        row("no object", QVariantMap(), "not exactly one object");
+        row("name without @", named("o", QVariantMap()), "line 1: expected '@' and the name of the object");
+        row("no attributes at all", named("@o", 5), cannot);
+        row("colon in attribute name", named("@o", named("a::b", QString())), cannot);
+        row("list", record(QVariantList{1, 2}), "line 2: expected attribute:encoding:value");
+        row("NaN", record(std::numeric_limits<double>::quiet_NaN()), "line 2: not a number");
+        row("half a surrogate pair", record(QString(QChar(0xD83D))), cannot);
+        row("too large to write", record(QString(PpsObject::maximumSize, QLatin1Char('x'))),
+            "larger than 1048576 bytes");
     }
-    swapper.join();
-}
 
-void PlatformTest::keepsRelativeRoot()
-{
-    const SettingsRoot root;
-    QVERIFY(root.setRegion("de_DE"));
-    const QString before = QDir::currentPath();
-    QDir::setCurrent(QDir(root.path()).filePath(".."));
-    qputenv("ZEL_PPS_ROOT", QFile::encodeName(QFileInfo(root.path()).fileName()));
-    QCOMPARE(region().name(), QStringLiteral("de_DE"));
-    QDir::setCurrent(before);
-    QVERIFY(root.setRegion("fr_FR"));
-    QCOMPARE(region().name(), QStringLiteral("fr_FR"));
-    QCOMPARE(PpsObject::filePath(path), root.file(path));
+    void refuses()
+    {
+        const auto [refused, expected] = cells<QVariant, QString>();
+        bool ok = true;
+        QString error;
+        if (refused.userType() == QMetaType::QByteArray) {
+            QVERIFY(PpsObject::decode(refused.toByteArray(), &ok, &error).isEmpty());
+        } else {
+            QVERIFY(PpsObject::encode(refused.toMap(), &ok, &error).isEmpty());
+        }
+        QVERIFY(!ok);
+        QCOMPARE(error, expected);
+    }
 
-    QTest::qSleep(30); // it is not read again for its own sake
-    region();
-    const SettingsRoot other;
-    QVERIFY(other.write(path, "garbage"));
-    MessageLog log;
-    QCOMPARE(region().name(), QStringLiteral("nl_BE"));
-}
+    void writes()
+    {
+        const SettingsRoot root;
+        PpsObject reader(path);
+        PpsObject writer(path);
+        QVERIFY(reader.open(Subscribe));
+        QVERIFY(!reader.write(object("de_DE")));
+        QCOMPARE(reader.errorString(), root.file(path) + QStringLiteral(": not open for writing"));
+        QVERIFY(writer.open(Publish));
+        bool ok = true;
+        writer.read(&ok);
+        QVERIFY(!ok);
+        QCOMPARE(writer.errorString(), root.file(path) + QStringLiteral(": not open for reading"));
 
-void PlatformTest::doesNotReadAgain()
-{
-    const SettingsRoot root;
-    QVERIFY(root.write(path, object("de_DE") + QByteArray("x::" + QByteArray(100000, 'x') + '\n')));
-    QTest::qSleep(30);
-    region();
-    // The fastest of many rounds, since anything else may keep the machine busy.
-    const auto fastest = [](auto round) {
-        qint64 best = std::numeric_limits<qint64>::max();
-        for (int i = 0; i < 20; ++i) {
-            QElapsedTimer timer;
-            timer.start();
-            for (int turn = 0; turn < 10; ++turn) {
-                round();
+        QVERIFY(writer.write(object("de_DE")));
+        QVERIFY(!writer.write("@locale\nregion"));
+        QCOMPARE(writer.errorString(), root.file(path) + QStringLiteral(": line 2: no newline at the end"));
+        QCOMPARE(reader.read(&ok), object("de_DE"));
+        QVERIFY(ok);
+        QCOMPARE(QFileInfo(root.file(path)).dir().entryList(QDir::Files), {QStringLiteral("locale")});
+
+        // A directory cannot be made below a regular file.
+        QVERIFY(root.remove(path));
+        removeDirectory(root, "/pps/system");
+        QVERIFY(root.write("/pps/system", "a file"));
+        QVERIFY(!writer.write(object("de_DE")));
+        QVERIFY2(writer.errorString().endsWith(QLatin1String("Not a directory")), qPrintable(writer.errorString()));
+    }
+
+    void opens_data()
+    {
+        addColumns<QString, int, Action, QString, QString>();
+        const Action nothing = [](const SettingsRoot&) {};
+        const auto row = [](const char* name, Action prepare, const char* openError, const char* readError) {
+            QTest::newRow(name) << path << int(Subscribe) << prepare << QString::fromLatin1(openError)
+                                << QString::fromLatin1(readError);
+        };
+        row(
+            "there", [](const SettingsRoot& root) { root.write(path, object("de_DE")); }, "", "");
+        row("no directories yet", nothing, "", "No such file or directory");
+        row(
+            "too large",
+            [](const SettingsRoot& root) { root.write(path, QByteArray(PpsObject::maximumSize + 1, 'x')); }, "",
+            "larger than 1048576 bytes");
+        row(
+            "directory", [](const SettingsRoot& root) { QDir().mkpath(root.file(path)); }, "Is a directory", "");
+        row(
+            "below a file", [](const SettingsRoot& root) { root.write("/pps", "x"); }, "Not a directory", "");
+        row(
+            "device",
+            [](const SettingsRoot& root) {
+                QDir().mkpath(QFileInfo(root.file(path)).path());
+                QFile::link(QStringLiteral("/dev/null"), root.file(path));
+            },
+            "Not a regular file", "");
+        QTest::newRow("empty path") << QString() << int(Subscribe) << nothing << QStringLiteral("not an absolute path")
+                                    << QString();
+        QTest::newRow("strange mode") << path << 6 << nothing << QStringLiteral("unknown open mode") << QString();
+    }
+
+    void opens()
+    {
+        const auto [opened, mode, prepare, openError, readError] = cells<QString, int, Action, QString, QString>();
+        const SettingsRoot root;
+        prepare(root);
+        PpsObject tested(opened);
+        QCOMPARE(tested.open(QFlags<zel::PpsOpenMode::Type>(QFlag(mode))), openError.isEmpty());
+        if (!openError.isEmpty()) {
+            QCOMPARE(tested.errorString(), root.file(opened) + QStringLiteral(": ") + openError);
+            return;
+        }
+        bool ok = false;
+        QCOMPARE(tested.read(&ok), readError.isEmpty() ? object("de_DE") : QByteArray());
+        QCOMPARE(ok, readError.isEmpty());
+        if (!ok) {
+            QCOMPARE(tested.errorString(), root.file(opened) + QStringLiteral(": ") + readError);
+        }
+    }
+
+    void notifies_data()
+    {
+        addColumns<Action, Action, int>();
+        const Action nothing = [](const SettingsRoot&) {};
+        const Action create = [](const SettingsRoot& root) { root.write(path, object("de_DE")); };
+        const auto row = [](const char* name, Action prepare, Action change, int notifications = 1) {
+            QTest::newRow(name) << prepare << change << notifications;
+        };
+        row("directories that do not exist yet", nothing, create);
+        row("replaced by rename", create, [](const SettingsRoot& root) { root.write(path, object("fr_FR")); });
+        row("rewritten in place", create, [](const SettingsRoot& root) { root.rewrite(path, object("fr_FR")); });
+        row(
+            "rewritten with the same", create, [](const SettingsRoot& root) { root.rewrite(path, object("de_DE")); },
+            0);
+        row(
+            "neighbour changed", create, [](const SettingsRoot& root) { root.write("/pps/system/settings", "x"); }, 0);
+        row("removed", create, [](const SettingsRoot& root) { root.remove(path); });
+        row("removed and created", create, [](const SettingsRoot& root) {
+            root.remove(path);
+            root.write(path, object("fr_FR"));
+        });
+        row("directories removed and created", create, [](const SettingsRoot& root) {
+            removeDirectory(root, "/pps");
+            root.write(path, object("fr_FR"));
+        });
+        const Action createLinked = [](const SettingsRoot& root) {
+            root.write("/one/locale", object("de_DE"));
+            root.write("/two/locale", object("fr_FR"));
+            QDir().mkpath(root.file("/pps"));
+            QFile::link(QStringLiteral("../one"), root.file("/pps/system"));
+        };
+        row("linked object rewritten", createLinked,
+            [](const SettingsRoot& root) { root.rewrite("/one/locale", object("fr_FR")); });
+        row("linked object replaced", createLinked, [](const SettingsRoot& root) {
+            std::rename(QFile::encodeName(root.file("/two/locale")).constData(),
+                        QFile::encodeName(root.file("/one/locale")).constData());
+        });
+        row("linked directory replaced", createLinked, [](const SettingsRoot& root) {
+            removeDirectory(root, "/one");
+            root.write("/one/locale", object("fr_FR"));
+        });
+        row("link in the middle swapped", createLinked, [](const SettingsRoot& root) {
+            QFile::link(root.file("/two"), root.file("/pps/other"));
+            std::rename(QFile::encodeName(root.file("/pps/other")).constData(),
+                        QFile::encodeName(root.file("/pps/system")).constData());
+        });
+        row("directory above renamed", create,
+            [](const SettingsRoot& root) { QDir().rename(root.file("/pps"), root.file("/old")); });
+    }
+
+    void notifies()
+    {
+        const auto [prepare, change, notifications] = cells<Action, Action, int>();
+        const SettingsRoot root;
+        prepare(root);
+        PpsObject watched(path);
+        QSignalSpy spy(&watched, SIGNAL(readyRead()));
+        QVERIFY(watched.open(Subscribe));
+        QTest::qWait(longerThanQuiet);
+        QCOMPARE(spy.count(), 0);
+        change(root);
+        QVERIFY(notifications == 0 || spy.wait());
+        QTest::qWait(longerThanQuiet);
+        QCOMPARE(spy.count(), notifications);
+
+        // Whatever was done, it goes on.
+        removeDirectory(root, "/pps/system/locale");
+        root.write(path, object("ja_JP"));
+        QVERIFY(spy.wait());
+        root.rewrite(path, object("th_TH"));
+        QVERIFY(spy.wait());
+        QCOMPARE(spy.count(), notifications + 2);
+        bool ok = false;
+        QCOMPARE(watched.read(&ok), object("th_TH"));
+        QVERIFY(ok);
+    }
+
+    void notifiesOfWholeObjects()
+    {
+        Watched watched;
+        QList<QByteArray> heard;
+        connect(&watched.object, &PpsObject::readyRead, this, [&] { heard.append(watched.object.read()); });
+        // Another writer leaves the object empty for half of the time, for longer than a watcher waits for it to end.
+        constexpr int rewrites = 200;
+        std::thread writer([&watched] {
+            for (int i = 1; i <= rewrites; ++i) {
+                watched.root.rewrite(path, "");
+                QTest::qSleep(3);
+                watched.root.rewrite(path, object(QByteArray::number(i).constData()));
+                QTest::qSleep(3);
             }
-            best = std::min(best, timer.nsecsElapsed());
-        }
-        return best;
-    };
-    const qint64 asking = fastest([] { region(); });
-    const qint64 reading = fastest([] {
-        PpsObject fresh(path);
-        fresh.open(Subscribe);
-        PpsObject::decode(fresh.read());
-    });
-    QVERIFY2(asking * 10 < reading, qPrintable(QStringLiteral("%1 against %2 ns").arg(asking).arg(reading)));
-}
+        });
+        QTest::qWait(1000);
+        writer.join();
+        const QByteArray last = object(QByteArray::number(rewrites).constData());
+        QTRY_VERIFY(!heard.isEmpty() && heard.last() == last);
+        QVERIFY2(heard.size() >= 3, qPrintable(QString::number(heard.size())));
+        QVERIFY(!heard.contains(QByteArray()));
+    }
 
-void PlatformTest::tellsChangedRegion()
-{
-    const SettingsRoot root;
-    QVERIFY(root.setRegion("de_DE"));
-    const LocaleHandler handler(Region);
-    QSignalSpy spy(&handler, SIGNAL(changed()));
-    QTest::qWait(longerThanQuiet);
-    QVERIFY(root.setRegion("fr_FR"));
-    QTRY_COMPARE(spy.count(), 1);
-    QCOMPARE(handler.locale().name(), QStringLiteral("fr_FR"));
-    QVERIFY(root.write(path, "@locale\nregion::fr-FR\nlanguage::it\n"));
-    QTest::qWait(longerThanQuiet);
-    QCOMPARE(spy.count(), 1);
-    removeDirectory(root, "/pps");
-    QTRY_COMPARE(spy.count(), 2);
-    QCOMPARE(handler.locale().name(), QStringLiteral("nl_BE"));
-}
+    void notifiesAfterTornRead()
+    {
+        Watched watched;
+        watched.root.rewrite(path, "@loc");
+        QCOMPARE(watched.object.read(), QByteArray("@loc"));
+        watched.root.rewrite(path, object("de_DE"));
+        QTRY_COMPARE(watched.spy.count(), 1);
+    }
+
+    void readsWhatWasAnnounced()
+    {
+        Watched watched;
+        QList<QByteArray> heard;
+        connect(&watched.object, &PpsObject::readyRead, this, [&] {
+            // Another writer is at it again.
+            watched.root.rewrite(path, "@loc");
+            heard.append(watched.object.read());
+            heard.append(watched.object.read());
+        });
+        watched.root.write(path, object("fr_FR"));
+        QTRY_COMPARE(heard, (QList<QByteArray>{object("fr_FR"), "@loc"}));
+    }
+
+    void stopsNotifying()
+    {
+        Watched watched;
+        connect(&watched.object, &PpsObject::readyRead, this, [&] { watched.object.setReadyReadEnabled(false); });
+        QVERIFY(watched.root.write(path, object("it_IT")));
+        QTRY_COMPARE(watched.spy.count(), 1);
+        QVERIFY(watched.root.write(path, object("fr_FR")));
+        QTest::qWait(longerThanQuiet);
+        QCOMPARE(watched.spy.count(), 1);
+        watched.object.setReadyReadEnabled(true);
+        QTRY_COMPARE(watched.spy.count(), 2);
+    }
+
+    void leavesNoWatch()
+    {
+        {
+            const Watched watched;
+            QVERIFY(watches() > 0);
+        }
+        QCOMPARE(watches(), 0);
+    }
+
+    void takesRegion_data()
+    {
+        addColumns<QByteArray, QString, QString>();
+        const auto accepted = [](const char* value, const char* expected) {
+            QTest::newRow(value) << object(value) << QString::fromLatin1(expected) << QString();
+        };
+        const auto rejected = [](const char* name, const QByteArray& contents, const QString& reason) {
+            QTest::newRow(name) << contents << QStringLiteral("nl_BE Latin") << reason;
+        };
+        const auto noLocale = [&](const char* name, const QByteArray& region, const char* shown) {
+            rejected(name, object(region.constData()),
+                     QStringLiteral("region \"%1\" is not a locale").arg(QLatin1String(shown)));
+        };
+        accepted("de", "de_DE Latin");
+        accepted("de-at", "de_AT Latin");
+        accepted("es-419", "es_419 Latin");
+        accepted("zh-Hant-TW", "zh_TW Traditional Han");
+        accepted("sr_Latn_RS", "sr_RS Latin");
+        accepted("sr_RS@latin", "sr_RS Latin");
+        accepted("el_Grek_GR", "el_GR Greek");
+        accepted("iw_IL", "he_IL Hebrew");
+        accepted("de_DE.UTF-8@euro", "de_DE Latin");
+        accepted("ca-ES-valencia", "ca_ES Latin");
+        accepted("en-US-u-hc-h12", "en_US Latin");
+        accepted("C", "C Default");
+        noLocale("empty", "", "");
+        noLocale("unknown language", "qq_DE", "qq_DE");
+        noLocale("unknown territory", "de_QQ", "de_QQ");
+        noLocale("language name", "German", "German");
+        noLocale("three-letter territory", "de_DEU", "de_DEU");
+        noLocale("script of others", "de_Cyrl_DE", "de_Cyrl_DE");
+        noLocale("unknown script", "de_Qqqq", "de_Qqqq");
+        noLocale("undetermined", "und", "und");
+        noLocale("trailing blank", "de_DE ", "de_DE ");
+        noLocale("line break", "de\\nDE", "de?DE");
+        noLocale("10,000 subtags", "de" + QByteArray("-variant").repeated(10000),
+                 "de-variant-variant-variant-variant-varia...");
+        rejected("number", "@locale\nregion:n:49\n", QStringLiteral("region \"49\" is not a locale"));
+        rejected("torn", "@locale\nregion::de", QStringLiteral("line 2: no newline at the end"));
+    }
+
+    void takesRegion()
+    {
+        const auto [contents, expected, reason] = cells<QByteArray, QString, QString>();
+        const SettingsRoot root;
+        MessageLog log;
+        QVERIFY(root.write(path, contents));
+        QCOMPARE(fullName(region()), expected);
+        const QString message = QStringLiteral("warning: zel::system::LocaleHandler: %1: %2; using the locale nl_BE");
+        QCOMPARE(log.take(), reason.isEmpty() ? QStringList() : QStringList(message.arg(root.file(path), reason)));
+    }
+
+    void fallsBackToPosixLocale_data()
+    {
+        const NamedRow<QByteArray, QByteArray, QByteArray, QString> row;
+        row("LC_ALL first", "de_AT.UTF-8", "fr_CA", "ja_JP", "de_AT Latin");
+        row("then LC_TIME", "", "fr_CA.utf8", "ja_JP", "fr_CA Latin");
+        row("then LANG", "", "", "ja_JP.eucJP", "ja_JP Japanese");
+        row("none", "", "", "", "C Default");
+        row("C", "C", "", "de_DE", "C Default");
+        row("POSIX", "POSIX", "", "de_DE", "C Default");
+        row("currency modifier", "", "", "de_DE@euro", "de_DE Latin");
+        row("other script modifier", "", "", "uz_UZ@cyrillic", "uz_UZ Cyrillic");
+        row("closest", "", "", "de_US.UTF-8", "de_DE Latin");
+        row("nonsense", "", "", "nonsense", "C Default");
+    }
+
+    void fallsBackToPosixLocale()
+    {
+        const auto [all, time, language, expected] = cells<QByteArray, QByteArray, QByteArray, QString>();
+        const SettingsRoot root;
+        MessageLog log;
+        setPosixLocale(all, time, language);
+        QCOMPARE(fullName(region()), expected);
+        QVERIFY(root.write(path, "@locale\nlanguage::it_IT\n"));
+        QCOMPARE(fullName(region()), expected);
+        QVERIFY(root.setRegion("pt_BR"));
+        QCOMPARE(region().name(), QStringLiteral("pt_BR"));
+        QVERIFY(root.remove(path));
+        QCOMPARE(fullName(region()), expected);
+        setPosixLocale("is_IS", "", "");
+        QCOMPARE(region().name(), QStringLiteral("is_IS"));
+        QCOMPARE(LocaleHandler(static_cast<zel::system::LocaleType::Type>(1)).locale(), QLocale::c());
+        QCOMPARE(log.take(), QStringList());
+    }
+
+    void reportsEachBadContentOnce()
+    {
+        const SettingsRoot root;
+        MessageLog log;
+        const auto messagesFor = [&](const QByteArray& contents) {
+            if (!root.write(path, contents)) {
+                return -1;
+            }
+            for (int i = 0; i < 100; ++i) {
+                region();
+            }
+            return static_cast<int>(log.take().size());
+        };
+        QCOMPARE(messagesFor(object("bad")), 1);
+        QCOMPARE(messagesFor(object("bad")), 0);
+        QCOMPARE(messagesFor("@locale\nregion::bad\nmore::1\n"), 1);
+        QCOMPARE(messagesFor(""), 1);
+        QCOMPARE(messagesFor(object("de_DE")), 0);
+        QCOMPARE(messagesFor(""), 1);
+        QCOMPARE(region().name(), QStringLiteral("de_DE"));
+        root.remove(path);
+        QCOMPARE(region().name(), QStringLiteral("nl_BE"));
+        QVERIFY(QDir().mkpath(root.file(path)));
+        region();
+        region();
+        QCOMPARE(log.take(),
+                 {QStringLiteral("warning: zel::system::LocaleHandler: %1: Is a directory; using the locale "
+                                 "nl_BE")
+                      .arg(root.file(path))});
+    }
+
+    void seesChangeWithinOneTick()
+    {
+        const SettingsRoot root;
+        QVERIFY(root.setRegion("de_DE"));
+        for (int i = 0; i < 500; ++i) {
+            // The same size and inode, and mostly the same time of change.
+            const char* const next = i % 2 == 0 ? "fr_FR" : "de_DE";
+            QVERIFY(root.rewrite(path, object(next)));
+            QCOMPARE(region().name(), QString::fromLatin1(next));
+        }
+    }
+
+    void neverWaits()
+    {
+        const SettingsRoot root;
+        QVERIFY(root.setRegion("de_DE"));
+        const QByteArray file = QFile::encodeName(root.file(path));
+        const QByteArray other = file + '2';
+        std::atomic<bool> done{false};
+        std::thread swapper([&] {
+            for (int i = 0; i < 500; ++i) {
+                ::mkfifo(other.constData(), 0666);
+                std::rename(other.constData(), file.constData());
+                root.rewrite(path + QLatin1Char('2'), object("de_DE"));
+                std::rename(other.constData(), file.constData());
+            }
+            done = true;
+        });
+        MessageLog log;
+        while (!done) {
+            QCOMPARE(region().name(), QStringLiteral("de_DE"));
+        }
+        swapper.join();
+    }
+
+    void keepsRelativeRoot()
+    {
+        const SettingsRoot root;
+        QVERIFY(root.setRegion("de_DE"));
+        const QString before = QDir::currentPath();
+        QDir::setCurrent(QDir(root.path()).filePath(".."));
+        qputenv("ZEL_PPS_ROOT", QFile::encodeName(QFileInfo(root.path()).fileName()));
+        QCOMPARE(region().name(), QStringLiteral("de_DE"));
+        QDir::setCurrent(before);
+        QVERIFY(root.setRegion("fr_FR"));
+        QCOMPARE(region().name(), QStringLiteral("fr_FR"));
+        QCOMPARE(PpsObject::filePath(path), root.file(path));
+
+        QTest::qSleep(30); // it is not read again for its own sake
+        region();
+        const SettingsRoot other;
+        QVERIFY(other.write(path, "garbage"));
+        MessageLog log;
+        QCOMPARE(region().name(), QStringLiteral("nl_BE"));
+    }
+
+    void doesNotReadAgain()
+    {
+        const SettingsRoot root;
+        QVERIFY(root.write(path, object("de_DE") + QByteArray("x::" + QByteArray(100000, 'x') + '\n')));
+        QTest::qSleep(30);
+        region();
+        // The fastest of many rounds, since anything else may keep the machine busy.
+        const auto fastest = [](auto round) {
+            qint64 best = std::numeric_limits<qint64>::max();
+            for (int i = 0; i < 20; ++i) {
+                QElapsedTimer timer;
+                timer.start();
+                for (int turn = 0; turn < 10; ++turn) {
+                    round();
+                }
+                best = std::min(best, timer.nsecsElapsed());
+            }
+            return best;
+        };
+        const qint64 asking = fastest([] { region(); });
+        const qint64 reading = fastest([] {
+            PpsObject fresh(path);
+            fresh.open(Subscribe);
+            PpsObject::decode(fresh.read());
+        });
+        QVERIFY2(asking * 10 < reading, qPrintable(QStringLiteral("%1 against %2 ns").arg(asking).arg(reading)));
+    }
+
+    void tellsChangedRegion()
+    {
+        const SettingsRoot root;
+        QVERIFY(root.setRegion("de_DE"));
+        const LocaleHandler handler(Region);
+        QSignalSpy spy(&handler, SIGNAL(changed()));
+        QTest::qWait(longerThanQuiet);
+        QVERIFY(root.setRegion("fr_FR"));
+        QTRY_COMPARE(spy.count(), 1);
+        QCOMPARE(handler.locale().name(), QStringLiteral("fr_FR"));
+        QVERIFY(root.write(path, "@locale\nregion::fr-FR\nlanguage::it\n"));
+        QTest::qWait(longerThanQuiet);
+        QCOMPARE(spy.count(), 1);
+        removeDirectory(root, "/pps");
+        QTRY_COMPARE(spy.count(), 2);
+        QCOMPARE(handler.locale().name(), QStringLiteral("nl_BE"));
+    }
+};
 
 QTEST_GUILESS_MAIN(PlatformTest)
 #include "tst_platform.moc"

@@ -13,47 +13,43 @@ class PluginTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void hasPhrases_data();
-    void hasPhrases();
+    void initTestCase()
+    {
+        QVERIFY(m_root.setClock("24"));
+        UErrorCode status = U_ZERO_ERROR;
+        const icu::ResourceBundle used(nullptr, icu::Locale::getGermany(), status);
+        QVERIFY(U_SUCCESS(status));
+        QVERIFY2(m_plugin.load(), qPrintable(m_plugin.errorString()));
+        used.get("units", status);
+        QCOMPARE(status, U_MISSING_RESOURCE_ERROR);
+    }
+
+    void hasPhrases_data()
+    {
+        const NamedRow<QStringList> row;
+        row("de_DE", {QStringLiteral("vor 3 Stunden"), QStringLiteral("gestern, 12:00")});
+        row("de_AT", {QStringLiteral("vor 3 Stunden"), QStringLiteral("gestern, 12:00")});
+        row("fr_FR", {QStringLiteral("il y a 3 heures"), QStringLiteral("hier 12:00")});
+    }
+
+    void hasPhrases()
+    {
+        const auto [expected] = cells<QStringList>();
+        const auto relativeTexts =
+            reinterpret_cast<void (*)(const QLocale&, QStringList&)>(m_plugin.resolve("relativeTexts"));
+        QVERIFY(relativeTexts != nullptr);
+        MessageLog log;
+        QStringList texts;
+        relativeTexts(QLocale(QLatin1String(QTest::currentDataTag())), texts);
+        QCOMPARE(texts, expected);
+        QCOMPARE(log.take(), QStringList());
+    }
 
 private:
     // As long as the plug-in, which follows the settings.
     SettingsRoot m_root;
     QLibrary m_plugin{QStringLiteral(ZEL_PLUGIN)};
 };
-
-void PluginTest::initTestCase()
-{
-    QVERIFY(m_root.setClock("24"));
-    UErrorCode status = U_ZERO_ERROR;
-    const icu::ResourceBundle used(nullptr, icu::Locale::getGermany(), status);
-    QVERIFY(U_SUCCESS(status));
-    QVERIFY2(m_plugin.load(), qPrintable(m_plugin.errorString()));
-    used.get("units", status);
-    QCOMPARE(status, U_MISSING_RESOURCE_ERROR);
-}
-
-void PluginTest::hasPhrases_data()
-{
-    const NamedRow<QStringList> row;
-    row("de_DE", {QStringLiteral("vor 3 Stunden"), QStringLiteral("gestern, 12:00")});
-    row("de_AT", {QStringLiteral("vor 3 Stunden"), QStringLiteral("gestern, 12:00")});
-    row("fr_FR", {QStringLiteral("il y a 3 heures"), QStringLiteral("hier 12:00")});
-}
-
-void PluginTest::hasPhrases()
-{
-    const auto [expected] = cells<QStringList>();
-    const auto relativeTexts =
-        reinterpret_cast<void (*)(const QLocale&, QStringList&)>(m_plugin.resolve("relativeTexts"));
-    QVERIFY(relativeTexts != nullptr);
-    MessageLog log;
-    QStringList texts;
-    relativeTexts(QLocale(QLatin1String(QTest::currentDataTag())), texts);
-    QCOMPARE(texts, expected);
-    QCOMPARE(log.take(), QStringList());
-}
 
 QTEST_GUILESS_MAIN(PluginTest)
 #include "tst_plugin.moc"

@@ -177,45 +177,43 @@ class StressTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void endsWithTheLastValue();
-};
+    void endsWithTheLastValue()
+    {
+        const QTemporaryDir directory;
+        const fs::path root = directory.filePath("root").toStdString();
+        qputenv("ZEL_PPS_ROOT", root.c_str());
+        operate(root, 0);
+        MessageLog log;
 
-void StressTest::endsWithTheLastValue()
-{
-    const QTemporaryDir directory;
-    const fs::path root = directory.filePath("root").toStdString();
-    qputenv("ZEL_PPS_ROOT", root.c_str());
-    operate(root, 0);
-    MessageLog log;
+        const Asker queries(false, makeQueries);
+        const Asker formatter(true, makeFormatter);
+        QByteArray read;
+        zel::PpsObject object(QStringLiteral("/pps/system/settings"));
+        connect(&object, &zel::PpsObject::readyRead, this, [&] { read = object.read(); });
+        QString told;
+        const zel::system::LocaleHandler handler(zel::system::LocaleType::Region);
+        connect(&handler, &zel::system::LocaleHandler::changed, this, [&] { told = handler.locale().name(); });
+        QVERIFY(object.open(zel::PpsOpenMode::Subscribe));
+        QTRY_VERIFY(queries.isRight() && formatter.isRight());
+        QTest::qWait(100);
+        const QStringList before = descriptors();
 
-    const Asker queries(false, makeQueries);
-    const Asker formatter(true, makeFormatter);
-    QByteArray read;
-    zel::PpsObject object(QStringLiteral("/pps/system/settings"));
-    connect(&object, &zel::PpsObject::readyRead, this, [&] { read = object.read(); });
-    QString told;
-    const zel::system::LocaleHandler handler(zel::system::LocaleType::Region);
-    connect(&handler, &zel::system::LocaleHandler::changed, this, [&] { told = handler.locale().name(); });
-    QVERIFY(object.open(zel::PpsOpenMode::Subscribe));
-    QTRY_VERIFY(queries.isRight() && formatter.isRight());
-    QTest::qWait(100);
-    const QStringList before = descriptors();
-
-    std::atomic<bool> done{false};
-    std::thread writer([&] {
-        operate(root, qEnvironmentVariableIsSet("ZEL_STRESS") ? 20000 : 500);
-        done = true;
-    });
-    while (!done) {
-        QTest::qWait(10);
+        std::atomic<bool> done{false};
+        std::thread writer([&] {
+            operate(root, qEnvironmentVariableIsSet("ZEL_STRESS") ? 20000 : 500);
+            done = true;
+        });
+        while (!done) {
+            QTest::qWait(10);
+        }
+        writer.join();
+        QTRY_COMPARE(read, QByteArray(clockTarget(root, 24).contents.c_str()));
+        QTRY_COMPARE(told, QStringLiteral("ja_JP"));
+        QTRY_VERIFY(queries.isRight());
+        QTRY_VERIFY(formatter.isRight());
+        QTRY_COMPARE(descriptors(), before);
     }
-    writer.join();
-    QTRY_COMPARE(read, QByteArray(clockTarget(root, 24).contents.c_str()));
-    QTRY_COMPARE(told, QStringLiteral("ja_JP"));
-    QTRY_VERIFY(queries.isRight());
-    QTRY_VERIFY(formatter.isRight());
-    QTRY_COMPARE(descriptors(), before);
-}
+};
 
 QTEST_GUILESS_MAIN(StressTest)
 #include "tst_stress.moc"

@@ -134,27 +134,284 @@ class SweepTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void asInICU();
+    /** Every name that Qt and ICU take for the same locale has the digits, patterns and names of ICU's own. */
+    void asInICU()
+    {
+        for (const icu::Locale& own : icuLocales()) {
+            const QLocale locale = qtLocale(own);
+            UErrorCode status = U_ZERO_ERROR;
+            icu::Locale likely = own;
+            icu::Locale qtLikely = icu::Locale::forLanguageTag(locale.bcp47Name().toStdString(), status);
+            likely.addLikelySubtags(status);
+            qtLikely.addLikelySubtags(status);
+            icu::Locale gregorian = own;
+            gregorian.setKeywordValue("calendar", "gregorian", status);
+            icu::Locale withoutScript(own.getLanguage(), own.getCountry());
+            withoutScript.setKeywordValue("calendar", "gregorian", status);
+            // Qt leaves likely scripts out. For a few locales, such as ff_Latn_GH, ICU then answers otherwise.
+            const bool needsScript =
+                writtenBy(withoutScript, icu::DateFormat::kFull) != writtenBy(gregorian, icu::DateFormat::kFull);
+            if (own.getCountry()[0] == '\0' || likely != qtLikely || needsScript) {
+                continue;
+            }
+            for (const auto style : {icu::DateFormat::kShort, icu::DateFormat::kMedium, icu::DateFormat::kFull}) {
+                check(writtenBy(Locale::toICU(locale), style) == writtenBy(gregorian, style), locale,
+                      writtenBy(Locale::toICU(locale), style) + QStringLiteral(" instead of ") +
+                          writtenBy(gregorian, style));
+            }
+            const std::unique_ptr<icu::NumberFormat> percent(icu::NumberFormat::createPercentInstance(own, status));
+            percent->setMaximumFractionDigits(1);
+            icu::UnicodeString text;
+            check(toPercentageString(locale, 0.256, 1, 0) == String::toQt(percent->format(0.256, text)), locale,
+                  toPercentageString(locale, 0.256, 1, 0) + QStringLiteral(" instead of ") + String::toQt(text));
+        }
+        failIfAny();
+    }
+
     void patterns_data() { clocks(); }
-    void patterns();
+
+    void patterns()
+    {
+        const auto [clock] = cells<int>();
+        QVERIFY(setClock(clock));
+        MessageLog log;
+        for (const QLocale& locale : m_locales) {
+            for (const DateFormat::Type length : lengths) {
+                const auto qtLength = length == DateFormat::Short || length == DateFormat::Medium ? QLocale::ShortFormat
+                                                                                                  : QLocale::LongFormat;
+                checkPattern(locale, dateFormat(locale, length), locale.dateFormat(qtLength), false);
+                checkPattern(locale, timeFormat(locale, length), locale.timeFormat(qtLength), true);
+                checkPattern(locale, dateTimeFormat(locale, length), locale.dateTimeFormat(qtLength), true);
+                checkRoundTrip(locale, dateFormat(locale, length));
+            }
+        }
+        finish(log.take());
+    }
+
     void customDates_data() { clocks(); }
-    void customDates();
+
+    void customDates()
+    {
+        const auto [clock] = cells<int>();
+        QVERIFY(setClock(clock));
+        MessageLog log;
+        CustomDateFormatter formatter(skeletons.first());
+        for (const QLocale& locale : m_locales) {
+            m_root.setRegion(locale.bcp47Name().toLatin1());
+            for (const QString& skeleton : skeletons) {
+                const bool hasHours = skeleton.contains(QLatin1Char('h'), Qt::CaseInsensitive);
+                if (m_is24Hour && !hasHours) {
+                    continue; // the same as under the other clock
+                }
+                formatter.setSkeleton(skeleton);
+                const QString text = formatter.format(moment);
+                check(!text.isEmpty(), locale, QStringLiteral("no text for ") + skeleton);
+                if (hasHours) {
+                    check(digits(text).contains(QLatin1String("15")) == m_is24Hour, locale,
+                          QStringLiteral("wrong clock in ") + text);
+                }
+            }
+        }
+        finish(log.take());
+    }
+
     void relativeDates_data() { clocks(); }
-    void relativeDates();
-    void cleanupTestCase();
+
+    void relativeDates()
+    {
+        const auto [clock] = cells<int>();
+        QVERIFY(setClock(clock));
+        MessageLog log;
+        constexpr qint64 minute = 60;
+        constexpr qint64 hour = 60 * minute;
+        constexpr qint64 day = 24 * hour;
+        constexpr std::array<qint64, 10> distances{364 * day, 59,      minute,  59 * minute, hour,
+                                                   6 * hour,  1 * day, 3 * day, 30 * day,    400 * day};
+        for (const auto type : {RelativeDateFormat::TimeCritical, RelativeDateFormat::NonTimeCritical}) {
+            RelativeDateFormatter formatter(type);
+            formatter.setAnchorTime(moment);
+            for (const QLocale& locale : m_locales) {
+                formatter.setLocale(locale);
+                if (type == RelativeDateFormat::TimeCritical) {
+                    checkPhrases(locale, formatter);
+                    checkNow(locale, formatter);
+                }
+                checkNamedDays(locale, formatter);
+                for (const qint64 distance : distances) {
+                    for (const qint64 seconds : {-distance, distance}) {
+                        check(!formatter.format(moment.addSecs(seconds)).isEmpty(), locale,
+                              QStringLiteral("no text for %1 s").arg(seconds));
+                    }
+                }
+            }
+        }
+        QCOMPARE(log.take(), QStringList());
+        failIfAny();
+    }
+
+    void cleanupTestCase()
+    {
+        std::printf("%zu locales, %d checks, messages by kind:\n", m_locales.size(), m_checks);
+        for (auto kind = m_messages.cbegin(); kind != m_messages.cend(); ++kind) {
+            std::printf("%6d  %s\n", kind.value(), qPrintable(kind.key()));
+        }
+        if (m_messages.isEmpty()) {
+            std::puts("     0");
+        }
+    }
 
 private:
-    static void clocks();
-    bool setClock(int hours);
-    void check(bool holds, const QLocale& locale, const QString& what);
-    void checkPattern(const QLocale& locale, const QString& pattern, const QString& qtPattern, bool hasTime);
-    void checkAmPm(const QLocale& locale, const QString& pattern);
-    void checkNamedDays(const QLocale& locale, const RelativeDateFormatter& formatter);
-    void checkNow(const QLocale& locale, RelativeDateFormatter& formatter);
-    void checkPhrases(const QLocale& locale, const RelativeDateFormatter& formatter);
-    void checkRoundTrip(const QLocale& locale, const QString& pattern);
-    void finish(const QStringList& messages);
-    void failIfAny();
+    static void clocks()
+    {
+        const NamedRow<int> row;
+        row("12", 12);
+        row("24", 24);
+    }
+
+    bool setClock(int hours)
+    {
+        m_is24Hour = hours == 24;
+        return m_root.setClock(QByteArray::number(hours)) &&
+               QTest::qWaitFor([hours] { return ClockSetting::clockFormat() == hours; }, 2000);
+    }
+
+    void check(bool holds, const QLocale& locale, const QString& what)
+    {
+        ++m_checks;
+        if (!holds) {
+            m_failures.append(locale.name() + QStringLiteral(": ") + what);
+        }
+    }
+
+    void checkPattern(const QLocale& locale, const QString& pattern, const QString& qtPattern, bool hasTime)
+    {
+        check(!locale.toString(moment, pattern).isEmpty(), locale, QStringLiteral("no text"));
+        // Where ICU's pattern has a field that Qt lacks, Qt's own pattern answers, and it knows of no clock.
+        if (pattern == qtPattern) {
+            return;
+        }
+        check(!hasStrayLetter(pattern), locale, QStringLiteral("stray letter in ") + pattern);
+        if (hasTime) {
+            check(showsAmPm(pattern) != m_is24Hour, locale, QStringLiteral("wrong clock in ") + pattern);
+            checkAmPm(locale, pattern);
+        }
+    }
+
+    /** AM/PM is where ICU writes it itself, and comes between nothing that belongs together. */
+    void checkAmPm(const QLocale& locale, const QString& pattern)
+    {
+        if (m_is24Hour) {
+            static const QRegularExpression space(QStringLiteral("[hms] ,"));
+            check(!pattern.contains(space), locale, QStringLiteral("space in ") + pattern);
+            return;
+        }
+        const icu::Locale icuLocale = Locale::toICU(locale);
+        UErrorCode status = U_ZERO_ERROR;
+        const std::unique_ptr<icu::DateTimePatternGenerator> generator(
+            icu::DateTimePatternGenerator::createInstance(icuLocale, status));
+        const std::unique_ptr<icu::DateFormat> own(
+            icu::DateFormat::createDateTimeInstance(icu::DateFormat::kNone, icu::DateFormat::kShort, icuLocale));
+        icu::UnicodeString ownPattern;
+        static_cast<const icu::SimpleDateFormat&>(*own).toPattern(ownPattern);
+        // Of all French only that of Cameroon has it in front; the others changed sides with ICU 76 or 78, or are new
+        // there with the zone in front of the time, where AM/PM goes with it.
+        static const QStringList elsewhere{QStringLiteral("fr_CM"),  QStringLiteral("ii_CN"), QStringLiteral("ko_CN"),
+                                           QStringLiteral("za_CN"),  QStringLiteral("cv_RU"), QStringLiteral("ta_LK"),
+                                           QStringLiteral("tok_001")};
+        if (sideOfAmPm(String::toQt(ownPattern)) == 0 && !elsewhere.contains(locale.name())) {
+            const int expected = sideOfAmPm(String::toQt(generator->getBestPattern(u"hm", status)));
+            const QString asInICU = withoutQuoted(pattern)
+                                        .replace(QLatin1String("AP"), QLatin1String("a"))
+                                        .replace(QLatin1String("ap"), QLatin1String("a"));
+            check(sideOfAmPm(asInICU) == expected, locale, QStringLiteral("other side than ICU in ") + pattern);
+        }
+        static const QRegularExpression torn(QStringLiteral("([(,] ?(AP|ap) ?t)|(ss?|mm?|h) ?(AP|ap) ?'"));
+        check(!pattern.contains(torn), locale, QStringLiteral("torn apart: ") + pattern);
+    }
+
+    /** The names of days are those of ICU's own formatter, without the punctuation of a weekday. */
+    void checkNamedDays(const QLocale& locale, const RelativeDateFormatter& formatter)
+    {
+        UErrorCode status = U_ZERO_ERROR;
+        const icu::RelativeDateTimeFormatter names(Locale::toICU(locale), status);
+        for (const auto& [direction, days] : {std::pair{UDAT_DIRECTION_LAST, -1}, std::pair{UDAT_DIRECTION_NEXT, 1}}) {
+            icu::UnicodeString name;
+            names.format(direction, UDAT_ABSOLUTE_DAY, name, status);
+            const QString text = formatter.format(moment.addDays(days));
+            const auto position = text.indexOf(String::toQt(name));
+            check(position != -1, locale, text + QStringLiteral(" without ") + String::toQt(name));
+            const QString around =
+                position == -1 ? QString() : text.mid(position - 1, 1) + text.mid(position + name.length(), 1);
+            static const QRegularExpression punctuation(QStringLiteral("[\\p{Ps}\\p{Pe}.]"));
+            check(!around.contains(punctuation), locale, QStringLiteral("punctuation of a weekday: ") + text);
+        }
+    }
+
+    /** The word for now is that of ICU's own formatter, unless that is the one of the root. */
+    void checkNow(const QLocale& locale, RelativeDateFormatter& formatter)
+    {
+        UErrorCode status = U_ZERO_ERROR;
+        icu::UnicodeString expected;
+        icu::RelativeDateTimeFormatter(Locale::toICU(locale), status)
+            .format(UDAT_DIRECTION_PLAIN, UDAT_ABSOLUTE_NOW, expected, status);
+        const QString zero = formatter.format(moment);
+        formatter.setWording(RelativeDateWording::Natural);
+        const QString now = formatter.format(moment);
+        formatter.setWording(RelativeDateWording::Exact);
+        const bool isOwn = now == String::toQt(expected) && now != zero;
+        const bool isRoots = now == zero && expected == u"now" && locale.language() != QLocale::English;
+        check(U_SUCCESS(status) && (isOwn || isRoots), locale,
+              now + QStringLiteral(" instead of ") + String::toQt(expected));
+    }
+
+    /** The phrases are those of ICU's own formatter, and stand alone. */
+    void checkPhrases(const QLocale& locale, const RelativeDateFormatter& formatter)
+    {
+        UErrorCode status = U_ZERO_ERROR;
+        const icu::RelativeDateTimeFormatter phrases(Locale::toICU(locale), status);
+        for (const auto& [unit, seconds] : {std::pair{UDAT_REL_UNIT_MINUTE, 60}, std::pair{UDAT_REL_UNIT_HOUR, 3600}}) {
+            for (const int count : {-6, -1, 1, 5}) {
+                icu::UnicodeString expected;
+                phrases.formatNumeric(count, unit, expected, status);
+                const QString text = formatter.format(moment.addSecs(qint64(count) * seconds));
+                check(U_SUCCESS(status) && text == String::toQt(expected), locale,
+                      text + QStringLiteral(" instead of ") + String::toQt(expected));
+            }
+        }
+    }
+
+    /** What is written with a pattern of year, month and day is read again as the same date. */
+    void checkRoundTrip(const QLocale& locale, const QString& pattern)
+    {
+        // Qt 5 reads ASCII digits only, and Qt 6 none beyond the BMP (Chakma, Adlam).
+        const QString plain = QStringLiteral("yyyy-MM-dd");
+        if (locale.toDate(locale.toString(moment.date(), plain), plain) != moment.date()) {
+            return;
+        }
+        check(locale.toDate(locale.toString(moment.date(), pattern), pattern) == moment.date(), locale,
+              QStringLiteral("%1 is not read with %2").arg(locale.toString(moment.date(), pattern), pattern));
+    }
+
+    void finish(const QStringList& messages)
+    {
+        static const QString unsupported =
+            QStringLiteral("warning: zel::utility::i18n::Formatting::replaceWithSystemClockFormat() has encountered an "
+                           "unsupported time format! ");
+        for (const QString& message : messages) {
+            ++m_messages[message];
+            // A 12-hour pattern that has AM/PM where its language is not known to have it.
+            if (!m_is24Hour || message != unsupported) {
+                m_failures.append(message);
+            }
+        }
+        failIfAny();
+    }
+
+    void failIfAny()
+    {
+        const QStringList failures = std::exchange(m_failures, {});
+        QVERIFY2(failures.isEmpty(), qPrintable(failures.mid(0, 10).join(QLatin1Char('\n'))));
+    }
 
     SettingsRoot m_root;
     bool m_is24Hour = false;
@@ -163,278 +420,6 @@ private:
     const std::vector<QLocale> m_locales = qtLocales();
     int m_checks = 0;
 };
-
-void SweepTest::clocks()
-{
-    const NamedRow<int> row;
-    row("12", 12);
-    row("24", 24);
-}
-
-bool SweepTest::setClock(int hours)
-{
-    m_is24Hour = hours == 24;
-    return m_root.setClock(QByteArray::number(hours)) &&
-           QTest::qWaitFor([hours] { return ClockSetting::clockFormat() == hours; }, 2000);
-}
-
-void SweepTest::check(bool holds, const QLocale& locale, const QString& what)
-{
-    ++m_checks;
-    if (!holds) {
-        m_failures.append(locale.name() + QStringLiteral(": ") + what);
-    }
-}
-
-void SweepTest::checkPattern(const QLocale& locale, const QString& pattern, const QString& qtPattern, bool hasTime)
-{
-    check(!locale.toString(moment, pattern).isEmpty(), locale, QStringLiteral("no text"));
-    // Where ICU's pattern has a field that Qt lacks, Qt's own pattern answers, and it knows of no clock.
-    if (pattern == qtPattern) {
-        return;
-    }
-    check(!hasStrayLetter(pattern), locale, QStringLiteral("stray letter in ") + pattern);
-    if (hasTime) {
-        check(showsAmPm(pattern) != m_is24Hour, locale, QStringLiteral("wrong clock in ") + pattern);
-        checkAmPm(locale, pattern);
-    }
-}
-
-/** AM/PM is where ICU writes it itself, and comes between nothing that belongs together. */
-void SweepTest::checkAmPm(const QLocale& locale, const QString& pattern)
-{
-    if (m_is24Hour) {
-        static const QRegularExpression space(QStringLiteral("[hms] ,"));
-        check(!pattern.contains(space), locale, QStringLiteral("space in ") + pattern);
-        return;
-    }
-    const icu::Locale icuLocale = Locale::toICU(locale);
-    UErrorCode status = U_ZERO_ERROR;
-    const std::unique_ptr<icu::DateTimePatternGenerator> generator(
-        icu::DateTimePatternGenerator::createInstance(icuLocale, status));
-    const std::unique_ptr<icu::DateFormat> own(
-        icu::DateFormat::createDateTimeInstance(icu::DateFormat::kNone, icu::DateFormat::kShort, icuLocale));
-    icu::UnicodeString ownPattern;
-    static_cast<const icu::SimpleDateFormat&>(*own).toPattern(ownPattern);
-    // Of all French only that of Cameroon has it in front; the others changed sides with ICU 76 or 78, or are new there
-    // with the zone in front of the time, where AM/PM goes with it.
-    static const QStringList elsewhere{QStringLiteral("fr_CM"),  QStringLiteral("ii_CN"), QStringLiteral("ko_CN"),
-                                       QStringLiteral("za_CN"),  QStringLiteral("cv_RU"), QStringLiteral("ta_LK"),
-                                       QStringLiteral("tok_001")};
-    if (sideOfAmPm(String::toQt(ownPattern)) == 0 && !elsewhere.contains(locale.name())) {
-        const int expected = sideOfAmPm(String::toQt(generator->getBestPattern(u"hm", status)));
-        const QString asInICU = withoutQuoted(pattern)
-                                    .replace(QLatin1String("AP"), QLatin1String("a"))
-                                    .replace(QLatin1String("ap"), QLatin1String("a"));
-        check(sideOfAmPm(asInICU) == expected, locale, QStringLiteral("other side than ICU in ") + pattern);
-    }
-    static const QRegularExpression torn(QStringLiteral("([(,] ?(AP|ap) ?t)|(ss?|mm?|h) ?(AP|ap) ?'"));
-    check(!pattern.contains(torn), locale, QStringLiteral("torn apart: ") + pattern);
-}
-
-/** What is written with a pattern of year, month and day is read again as the same date. */
-void SweepTest::checkRoundTrip(const QLocale& locale, const QString& pattern)
-{
-    // Qt 5 reads ASCII digits only, and Qt 6 none beyond the BMP (Chakma, Adlam).
-    const QString plain = QStringLiteral("yyyy-MM-dd");
-    if (locale.toDate(locale.toString(moment.date(), plain), plain) != moment.date()) {
-        return;
-    }
-    check(locale.toDate(locale.toString(moment.date(), pattern), pattern) == moment.date(), locale,
-          QStringLiteral("%1 is not read with %2").arg(locale.toString(moment.date(), pattern), pattern));
-}
-
-/** Every name that Qt and ICU take for the same locale has the digits, patterns and names of ICU's own. */
-void SweepTest::asInICU()
-{
-    for (const icu::Locale& own : icuLocales()) {
-        const QLocale locale = qtLocale(own);
-        UErrorCode status = U_ZERO_ERROR;
-        icu::Locale likely = own;
-        icu::Locale qtLikely = icu::Locale::forLanguageTag(locale.bcp47Name().toStdString(), status);
-        likely.addLikelySubtags(status);
-        qtLikely.addLikelySubtags(status);
-        icu::Locale gregorian = own;
-        gregorian.setKeywordValue("calendar", "gregorian", status);
-        icu::Locale withoutScript(own.getLanguage(), own.getCountry());
-        withoutScript.setKeywordValue("calendar", "gregorian", status);
-        // Qt leaves likely scripts out. For a few locales, such as ff_Latn_GH, ICU then answers otherwise.
-        const bool needsScript =
-            writtenBy(withoutScript, icu::DateFormat::kFull) != writtenBy(gregorian, icu::DateFormat::kFull);
-        if (own.getCountry()[0] == '\0' || likely != qtLikely || needsScript) {
-            continue;
-        }
-        for (const auto style : {icu::DateFormat::kShort, icu::DateFormat::kMedium, icu::DateFormat::kFull}) {
-            check(writtenBy(Locale::toICU(locale), style) == writtenBy(gregorian, style), locale,
-                  writtenBy(Locale::toICU(locale), style) + QStringLiteral(" instead of ") +
-                      writtenBy(gregorian, style));
-        }
-        const std::unique_ptr<icu::NumberFormat> percent(icu::NumberFormat::createPercentInstance(own, status));
-        percent->setMaximumFractionDigits(1);
-        icu::UnicodeString text;
-        check(toPercentageString(locale, 0.256, 1, 0) == String::toQt(percent->format(0.256, text)), locale,
-              toPercentageString(locale, 0.256, 1, 0) + QStringLiteral(" instead of ") + String::toQt(text));
-    }
-    failIfAny();
-}
-
-void SweepTest::patterns()
-{
-    const auto [clock] = cells<int>();
-    QVERIFY(setClock(clock));
-    MessageLog log;
-    for (const QLocale& locale : m_locales) {
-        for (const DateFormat::Type length : lengths) {
-            const auto qtLength = length == DateFormat::Short || length == DateFormat::Medium ? QLocale::ShortFormat
-                                                                                              : QLocale::LongFormat;
-            checkPattern(locale, dateFormat(locale, length), locale.dateFormat(qtLength), false);
-            checkPattern(locale, timeFormat(locale, length), locale.timeFormat(qtLength), true);
-            checkPattern(locale, dateTimeFormat(locale, length), locale.dateTimeFormat(qtLength), true);
-            checkRoundTrip(locale, dateFormat(locale, length));
-        }
-    }
-    finish(log.take());
-}
-
-void SweepTest::customDates()
-{
-    const auto [clock] = cells<int>();
-    QVERIFY(setClock(clock));
-    MessageLog log;
-    CustomDateFormatter formatter(skeletons.first());
-    for (const QLocale& locale : m_locales) {
-        m_root.setRegion(locale.bcp47Name().toLatin1());
-        for (const QString& skeleton : skeletons) {
-            const bool hasHours = skeleton.contains(QLatin1Char('h'), Qt::CaseInsensitive);
-            if (m_is24Hour && !hasHours) {
-                continue; // the same as under the other clock
-            }
-            formatter.setSkeleton(skeleton);
-            const QString text = formatter.format(moment);
-            check(!text.isEmpty(), locale, QStringLiteral("no text for ") + skeleton);
-            if (hasHours) {
-                check(digits(text).contains(QLatin1String("15")) == m_is24Hour, locale,
-                      QStringLiteral("wrong clock in ") + text);
-            }
-        }
-    }
-    finish(log.take());
-}
-
-/** The names of days are those of ICU's own formatter, without the punctuation of a weekday. */
-void SweepTest::checkNamedDays(const QLocale& locale, const RelativeDateFormatter& formatter)
-{
-    UErrorCode status = U_ZERO_ERROR;
-    const icu::RelativeDateTimeFormatter names(Locale::toICU(locale), status);
-    for (const auto& [direction, days] : {std::pair{UDAT_DIRECTION_LAST, -1}, std::pair{UDAT_DIRECTION_NEXT, 1}}) {
-        icu::UnicodeString name;
-        names.format(direction, UDAT_ABSOLUTE_DAY, name, status);
-        const QString text = formatter.format(moment.addDays(days));
-        const auto position = text.indexOf(String::toQt(name));
-        check(position != -1, locale, text + QStringLiteral(" without ") + String::toQt(name));
-        const QString around =
-            position == -1 ? QString() : text.mid(position - 1, 1) + text.mid(position + name.length(), 1);
-        static const QRegularExpression punctuation(QStringLiteral("[\\p{Ps}\\p{Pe}.]"));
-        check(!around.contains(punctuation), locale, QStringLiteral("punctuation of a weekday: ") + text);
-    }
-}
-
-/** The word for now is that of ICU's own formatter, unless that is the one of the root. */
-void SweepTest::checkNow(const QLocale& locale, RelativeDateFormatter& formatter)
-{
-    UErrorCode status = U_ZERO_ERROR;
-    icu::UnicodeString expected;
-    icu::RelativeDateTimeFormatter(Locale::toICU(locale), status)
-        .format(UDAT_DIRECTION_PLAIN, UDAT_ABSOLUTE_NOW, expected, status);
-    const QString zero = formatter.format(moment);
-    formatter.setWording(RelativeDateWording::Natural);
-    const QString now = formatter.format(moment);
-    formatter.setWording(RelativeDateWording::Exact);
-    const bool isOwn = now == String::toQt(expected) && now != zero;
-    const bool isRoots = now == zero && expected == u"now" && locale.language() != QLocale::English;
-    check(U_SUCCESS(status) && (isOwn || isRoots), locale,
-          now + QStringLiteral(" instead of ") + String::toQt(expected));
-}
-
-/** The phrases are those of ICU's own formatter, and stand alone. */
-void SweepTest::checkPhrases(const QLocale& locale, const RelativeDateFormatter& formatter)
-{
-    UErrorCode status = U_ZERO_ERROR;
-    const icu::RelativeDateTimeFormatter phrases(Locale::toICU(locale), status);
-    for (const auto& [unit, seconds] : {std::pair{UDAT_REL_UNIT_MINUTE, 60}, std::pair{UDAT_REL_UNIT_HOUR, 3600}}) {
-        for (const int count : {-6, -1, 1, 5}) {
-            icu::UnicodeString expected;
-            phrases.formatNumeric(count, unit, expected, status);
-            const QString text = formatter.format(moment.addSecs(qint64(count) * seconds));
-            check(U_SUCCESS(status) && text == String::toQt(expected), locale,
-                  text + QStringLiteral(" instead of ") + String::toQt(expected));
-        }
-    }
-}
-
-void SweepTest::relativeDates()
-{
-    const auto [clock] = cells<int>();
-    QVERIFY(setClock(clock));
-    MessageLog log;
-    constexpr qint64 minute = 60;
-    constexpr qint64 hour = 60 * minute;
-    constexpr qint64 day = 24 * hour;
-    constexpr std::array<qint64, 10> distances{364 * day, 59,      minute,  59 * minute, hour,
-                                               6 * hour,  1 * day, 3 * day, 30 * day,    400 * day};
-    for (const auto type : {RelativeDateFormat::TimeCritical, RelativeDateFormat::NonTimeCritical}) {
-        RelativeDateFormatter formatter(type);
-        formatter.setAnchorTime(moment);
-        for (const QLocale& locale : m_locales) {
-            formatter.setLocale(locale);
-            if (type == RelativeDateFormat::TimeCritical) {
-                checkPhrases(locale, formatter);
-                checkNow(locale, formatter);
-            }
-            checkNamedDays(locale, formatter);
-            for (const qint64 distance : distances) {
-                for (const qint64 seconds : {-distance, distance}) {
-                    check(!formatter.format(moment.addSecs(seconds)).isEmpty(), locale,
-                          QStringLiteral("no text for %1 s").arg(seconds));
-                }
-            }
-        }
-    }
-    QCOMPARE(log.take(), QStringList());
-    failIfAny();
-}
-
-void SweepTest::finish(const QStringList& messages)
-{
-    static const QString unsupported =
-        QStringLiteral("warning: zel::utility::i18n::Formatting::replaceWithSystemClockFormat() has encountered an "
-                       "unsupported time format! ");
-    for (const QString& message : messages) {
-        ++m_messages[message];
-        // A 12-hour pattern that has AM/PM where its language is not known to have it.
-        if (!m_is24Hour || message != unsupported) {
-            m_failures.append(message);
-        }
-    }
-    failIfAny();
-}
-
-void SweepTest::failIfAny()
-{
-    const QStringList failures = std::exchange(m_failures, {});
-    QVERIFY2(failures.isEmpty(), qPrintable(failures.mid(0, 10).join(QLatin1Char('\n'))));
-}
-
-void SweepTest::cleanupTestCase()
-{
-    std::printf("%zu locales, %d checks, messages by kind:\n", m_locales.size(), m_checks);
-    for (auto kind = m_messages.cbegin(); kind != m_messages.cend(); ++kind) {
-        std::printf("%6d  %s\n", kind.value(), qPrintable(kind.key()));
-    }
-    if (m_messages.isEmpty()) {
-        std::puts("     0");
-    }
-}
 
 QTEST_GUILESS_MAIN(SweepTest)
 #include "tst_sweep.moc"

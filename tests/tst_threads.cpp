@@ -207,66 +207,62 @@ class ThreadsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void followTheDevice_data();
-    void followTheDevice();
-    void endsInSilence_data();
-    void endsInSilence();
+    void followTheDevice_data()
+    {
+        const NamedRow<int, bool> row;
+        row("two threads, the clock", 2, true);
+        row("eight threads, clock, zone and region", 8, false);
+    }
+
+    void followTheDevice()
+    {
+        const auto [threads, onlyClock] = cells<int, bool>();
+        static const SettingsRoot root;
+        root.setRegion("de_DE");
+        root.setTimeZone("Asia/Tokyo");
+        root.setClock("24");
+        MessageLog log;
+        QCOMPARE(ClockSetting::clockFormat(), ClockFormat::Use24hourClock);
+        QCOMPARE(TimeZoneSetting::timeZone(), QStringLiteral("Asia/Tokyo"));
+
+        std::atomic<bool> settled{false};
+        std::vector<std::unique_ptr<Worker>> workers;
+        std::generate_n(std::back_inserter(workers), threads, [&settled] { return std::make_unique<Worker>(settled); });
+        std::thread device(flip, std::cref(root), onlyClock, std::ref(settled));
+        const bool done = QTest::qWaitFor(
+            [&workers] {
+                return std::all_of(workers.cbegin(), workers.cend(),
+                                   [](const auto& worker) { return worker->isDone(); });
+            },
+            240000);
+        device.join();
+
+        QVERIFY(done);
+        for (const auto& worker : workers) {
+            QCOMPARE(worker->texts(), finalTexts);
+        }
+        QCOMPARE(log.take(), QStringList());
+    }
+
+    void endsInSilence_data()
+    {
+        QTest::addColumn<QString>("program");
+        for (const Program& program : programs) {
+            QTest::newRow(program.name) << QString::fromLatin1(program.name);
+        }
+    }
+
+    void endsInSilence()
+    {
+        QFETCH(const QString, program);
+        const SettingsRoot root;
+        QVERIFY(root.setClock("24") && root.setTimeZone("Asia/Tokyo") && root.setRegion("de_DE"));
+        const Child::Result result =
+            Child(QCoreApplication::applicationFilePath(), {QStringLiteral("--end"), program}).finish();
+        QCOMPARE(result.errors, QString());
+        QCOMPARE(result.status, 0);
+    }
 };
-
-void ThreadsTest::followTheDevice_data()
-{
-    const NamedRow<int, bool> row;
-    row("two threads, the clock", 2, true);
-    row("eight threads, clock, zone and region", 8, false);
-}
-
-void ThreadsTest::followTheDevice()
-{
-    const auto [threads, onlyClock] = cells<int, bool>();
-    static const SettingsRoot root;
-    root.setRegion("de_DE");
-    root.setTimeZone("Asia/Tokyo");
-    root.setClock("24");
-    MessageLog log;
-    QCOMPARE(ClockSetting::clockFormat(), ClockFormat::Use24hourClock);
-    QCOMPARE(TimeZoneSetting::timeZone(), QStringLiteral("Asia/Tokyo"));
-
-    std::atomic<bool> settled{false};
-    std::vector<std::unique_ptr<Worker>> workers;
-    std::generate_n(std::back_inserter(workers), threads, [&settled] { return std::make_unique<Worker>(settled); });
-    std::thread device(flip, std::cref(root), onlyClock, std::ref(settled));
-    const bool done = QTest::qWaitFor(
-        [&workers] {
-            return std::all_of(workers.cbegin(), workers.cend(), [](const auto& worker) { return worker->isDone(); });
-        },
-        240000);
-    device.join();
-
-    QVERIFY(done);
-    for (const auto& worker : workers) {
-        QCOMPARE(worker->texts(), finalTexts);
-    }
-    QCOMPARE(log.take(), QStringList());
-}
-
-void ThreadsTest::endsInSilence_data()
-{
-    QTest::addColumn<QString>("program");
-    for (const Program& program : programs) {
-        QTest::newRow(program.name) << QString::fromLatin1(program.name);
-    }
-}
-
-void ThreadsTest::endsInSilence()
-{
-    QFETCH(const QString, program);
-    const SettingsRoot root;
-    QVERIFY(root.setClock("24") && root.setTimeZone("Asia/Tokyo") && root.setRegion("de_DE"));
-    const Child::Result result =
-        Child(QCoreApplication::applicationFilePath(), {QStringLiteral("--end"), program}).finish();
-    QCOMPARE(result.errors, QString());
-    QCOMPARE(result.status, 0);
-}
 
 int main(int argc, char** argv)
 {

@@ -58,33 +58,527 @@ class ToolTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void answers_data();
-    void answers();
-    void refusals_data();
-    void refusals();
-    void environments_data();
-    void environments();
-    void help();
-    void json_data();
-    void json();
-    void ladderHasEverySlot();
-    void columnsStandBelowEachOther();
-    void badLinesAreReported();
-    void answersLineByLine();
-    void endsQuietlyWhenNobodyReads();
-    void deviceRoundTrip();
-    void writersWaitForEachOther();
-    void valuesAreNoCommandsToTerminals();
-    void machineThatIsNoDevice();
-    void nothingIsWrittenBeforeAllIsChecked();
-    void tornObject();
-    void rootThatCannotBeRead();
-    void doctorFindsWhatIsWrong();
-    void watchFollowsTheDevice();
-    void watchEndsOnSignal();
-    void throwAwayDeviceLeavesNothing();
-    void galleryShowsBothClocks();
+    void initTestCase()
+    {
+        qputenv("TZ", "UTC");
+        qputenv("LC_ALL", "C"); // output is UTF-8 all the same
+        qunsetenv("ICU_DATA");
+        qputenv("TMPDIR", QFile::encodeName(m_temporary.path()));
+    }
+
+    void answers_data()
+    {
+        addColumns<QByteArray, QString>();
+        const auto row = [](const char* line, const char* output) {
+            QTest::newRow(line) << QByteArray(line) << QString::fromUtf8(output) + QLatin1Char('\n');
+        };
+        row("percent|--locale|en_US|--max|1|0.256|-0.5", "25.6%\n-50%");
+        row("percent|--locale|en_US|--min|2|0.5|-.5", "50.00%\n-50.00%");
+        row("percent|--locale|en_US|--min|3|--max|0|0.5", "50%");
+        row("percent|--locale|en_US|0.256|0.125", "26%\n12%");
+        row("percent|--locale|tr_TR|0.5", "%50");
+        row("percent|--device|region=de_DE|12.5", "1.250\u00a0%");
+        row("percent|--locale|en_US|--json|0.25", R"({"locale":"en_US","text":"25%","value":0.25})");
+
+        row("format|yMMMd|2012-05-16|--device|region=en_US", "May 16, 2012");
+        row("format|hm|2012-05-16T22:30:15.5|--device|region=de_DE,hour-format=24", "22:30");
+        row("format|hm|2012-05-16 22:30|--device|region=de_DE,hour-format=12", "10:30\u202fPM");
+        row("format|hm|2012-05-16T10:30+02:00|2012-05-16T10:30Z|--device|hour-format=24,region=en_GB", "10:30\n10:30");
+        row("format|hmz|2012-05-16T10:30+02:00|2012-05-16T10:30-0530|--device|"
+            "hour-format=24,region=en_GB,time-zone=Europe/London",
+            "09:30 BST\n17:00 BST");
+        row("format|hmz|2012-05-16T10:30|--device|hour-format=24,region=en_GB,time-zone=Asia/Tokyo", "10:30 GMT+9");
+        row("format|Hm|2012-05-16T10:30|--json|--device|hour-format=24,region=en_GB",
+            R"({"moment":"2012-05-16T10:30:00","text":"10:30"})");
+
+        row("format|hmz|2012-05-16T10:30Z|--device|hour-format=24,region=en_GB",
+            qUtf8Printable("10:30 " + zoneName({}, QDateTime(), icu::Locale::getUK()))); // whatever the process's zone
+        row("format|yMMMMd|2012-05-16|--locale|fr_FR|--device|region=de_DE", "16 mai 2012");
+        row("format|hmz|2012-05-16T10:30Z|--locale|de_DE|--device|hour-format=24,region=en_GB,time-zone=Europe/Berlin",
+            "12:30 MESZ");
+
+        row("relative|--anchor|2012-05-16T10:30|--locale|de|2012-05-16T07:30|2012-05-15T09:00|--clock|24",
+            "vor 3 Stunden\ngestern, 09:00");
+        row("relative|--anchor|2012-05-16T10:30|--locale|de|2012-05-15T09:00|--device|hour-format=12",
+            "gestern 9:00\u202fAM");
+        row("relative|--anchor|2013-01-01T00:02|--locale|de|--wording|natural|--until|2013-01-01T00:02|2012-12-31T23:"
+            "59:30|"
+            "--clock|24",
+            "jetzt\t2013-01-01T00:03:00\ngestern, 23:59\t2013-01-02T00:00:00");
+        row("relative|--anchor|2012-05-16T10:30|--locale|en|--until|2011-05-16", "May 2011\tnever");
+        row("relative|--anchor|2012-05-16T10:30|--type|non-time-critical|2012-05-16T07:30|--device|region=zh_TW",
+            "今天");
+        row("relative|--anchor|2012-05-16T10:30|--locale|en|--json|2011-12-31",
+            R"({"moment":"2011-12-31T00:00:00","text":"December 2011"})");
+
+        row("device|--device|hour-format=24,region=de_DE", "hour-format  24\ntime-zone    not set\nregion       de_DE");
+        row("device|get|time-zone|--device|time-zone=Asia/Tokyo", "Asia/Tokyo");
+    }
+
+    void answers()
+    {
+        const auto [line, output] = cells<QByteArray, QString>();
+        const SettingsRoot root;
+        const Result result = run(line.constData());
+        QCOMPARE(result.errors, QString());
+        QCOMPARE(result.output, output);
+        QCOMPARE(result.status, 0);
+    }
+
+    void refusals_data()
+    {
+        addColumns<QByteArray, int, QString>();
+        const auto row = [](const char* line, int status, const char* error) {
+            QTest::newRow(line) << QByteArray(line) << status << QLatin1String("zel-i18n: ") + QString::fromUtf8(error);
+        };
+        row("", 2, "no command given; see 'zel-i18n --help'");
+        row("frobnicate", 2, "unknown command 'frobnicate'; see 'zel-i18n --help'");
+        row("formats|--frobnicate", 2, "unknown option 'frobnicate'; see 'zel-i18n formats --help'");
+        row("formats|--locale", 2, "missing value after '--locale'; see 'zel-i18n formats --help'");
+        row("formats|de_DE", 2, "'de_DE' is no option; name a locale with --locale; see 'zel-i18n formats --help'");
+        row("percent", 2, "no value given; see 'zel-i18n percent --help'");
+        row("percent|--min|-1|1", 2, "--min takes a number from 0 to 340, not '-1'; see 'zel-i18n percent --help'");
+        row("percent|--locale|de|--locale|fr|1", 2, "--locale was given more than once; see 'zel-i18n percent --help'");
+        row("format|y|2012-05-16|-", 2,
+            "'-' for standard input does not go with other moments; "
+            "see 'zel-i18n format --help'");
+        row("watch|y|2012-05-16|2012-05-17", 2,
+            "one moment at most, not also '2012-05-17'; see 'zel-i18n watch --help'");
+        row("relative|--clock|13|2012-05-16", 2,
+            "--clock takes 12, 24, locale, user, not '13'; see 'zel-i18n relative --help'");
+        row("device|put", 2, "'put' is neither get, set nor unset; see 'zel-i18n device --help'");
+        row("device|set|hour-format", 2, "'hour-format' is not of the form KEY=VALUE; see 'zel-i18n device --help'");
+        row("device|unset|clock", 2,
+            "no setting 'clock'; there are hour-format, time-zone, region; see 'zel-i18n device --help'");
+        row("format|y|--device|region=de_DE,region=fr_FR", 2,
+            "region was given more than once; see 'zel-i18n format --help'");
+
+        row("gallery", 2, "no file given with --html or --tsv; see 'zel-i18n gallery --help'");
+        row("gallery|--tsv|x|--device|region=de_DE", 2,
+            "--device makes no difference here; see 'zel-i18n gallery --help'");
+
+        row("gallery|--html|/nowhere/x|--locale|de_DE", 1, "cannot write '/nowhere/x': No such file or directory");
+        row("formats|--locale|xx_YY", 1, "unknown locale 'xx_YY'");
+        row("formats|--locale|de_XX", 1, "unknown locale 'de_XX'"); // Qt alone would answer with Germany
+        row("formats|--locale|zh_Latn_TW", 1, "unknown locale 'zh_Latn_TW'");
+        row("percent|nan", 1, "'nan' is not a number such as 0.256");
+        row("format|foo!", 1, "'foo!' is not a skeleton such as yMMMd or hm");
+        row("format|y|--device|hour-format=13", 1, "hour-format is 12 or 24, not '13'");
+        row("format|y|--device|time-zone=Mars/Base", 1, "unknown time zone 'Mars/Base'");
+        row("gallery|--tsv|-", 2, "--tsv takes the name of a file, not '-'; see 'zel-i18n gallery --help'");
+        row("device|get|region", 1, "region is not set");
+        for (const char* const moment :
+             {"2012-02-30", "2012-5-16", "2012-05-16T24:00", "2012-05-16T10:30+15:00", "2012-05-16T10:30Zx",
+              "2012-05-16T", "2012-05-16Z", "0000-01-01", "2012-05-16T10:30:00."}) {
+            row(QByteArray("format|y|2012-05-16|").append(moment).constData(), 1,
+                QByteArray("'")
+                    .append(moment)
+                    .append("' is not a moment such as 2012-05-16 or 2012-05-16T10:30:00+02:00")
+                    .constData());
+        }
+    }
+
+    void refusals()
+    {
+        const auto [line, status, error] = cells<QByteArray, int, QString>();
+        const SettingsRoot root;
+        const Result result = run(line.constData());
+        QCOMPARE(result.status, status);
+        QCOMPARE(result.errors.trimmed(), error);
+        QCOMPARE(result.output, QString());
+    }
+
+    void environments_data()
+    {
+        const NamedRow<QString> row;
+        row("", "C, as neither LC_ALL, LC_TIME nor LANG is set");
+        row("LC_ALL=C", "C, from LC_ALL");
+        row("LC_ALL=de_DE.ISO-8859-1", "de_DE, from LC_ALL");
+        row("LC_TIME=fr_CA LC_ALL= LANG=C.UTF-8", "fr_CA, from LC_TIME");
+    }
+
+    /** Nothing is said about a character set, and the region stays that of the environment. */
+    void environments()
+    {
+        const auto [region] = cells<QString>();
+        const Result result = Child(QStringLiteral("env"), QStringLiteral("-i %1 " ZEL_TOOL " doctor")
+                                                               .arg(QLatin1String(QTest::currentDataTag()))
+                                                               .split(' ', Qt::SkipEmptyParts))
+                                  .finish();
+        QCOMPARE(result.errors, QString());
+        QVERIFY2(result.output.contains(QLatin1String(" region           ") + region), qPrintable(result.output));
+    }
+
+    void help()
+    {
+        const Result all = run("--help");
+        QCOMPARE(all.status, 0);
+        for (const char* const name : {"formats", "format", "relative", "percent", "watch", "device", "doctor"}) {
+            QVERIFY(all.output.contains(QLatin1String("\n  ") + QLatin1String(name) + QLatin1Char(' ')));
+            const Result one = run(QByteArray(name).append("|--help").constData());
+            QCOMPARE(one.status, 0);
+            QVERIFY(one.output.startsWith(QLatin1String("Usage: zel-i18n ") + QLatin1String(name)));
+            QVERIFY(one.output.contains(QLatin1String("\nExamples:\n  zel-i18n ")));
+        }
+        QCOMPARE(run("--version").output, QStringLiteral("zel-i18n " ZEL_VERSION "\n"));
+    }
+
+    void json_data()
+    {
+        addColumns<QByteArray, QStringList, int>();
+        const auto row = [](const char* line, const char* keys, int lines) {
+            QTest::newRow(line) << QByteArray(line) << wordsOf(keys) << lines;
+        };
+        row("formats|--json|--locale|ja_JP|--locale|he_IL", "formats|locale|moment", 2);
+        row("doctor|--json", "advice|status|subject|text", 12);
+        row("relative|--table|--json|--locale|pl|--locale|hi", "anchor|distance|locale|moment|text|type", 42);
+    }
+
+    void json()
+    {
+        const auto [line, keys, count] = cells<QByteArray, QStringList, int>();
+        const SettingsRoot root;
+        const Result result = run(line.constData());
+        QCOMPARE(result.status, 0);
+        const QStringList lines = result.output.split(QLatin1Char('\n'));
+        QCOMPARE(lines.last(), QString());
+        QCOMPARE(static_cast<int>(lines.size()) - 1, count);
+        for (const QString& text : lines.mid(0, lines.size() - 1)) {
+            QCOMPARE(QJsonDocument::fromJson(text.toUtf8()).object().keys(), keys);
+        }
+    }
+
+    void ladderHasEverySlot()
+    {
+        const SettingsRoot root;
+        const Result result = run("relative|--table|--locale|en_US|--clock|24|--json");
+        QCOMPARE(result.status, 0);
+        QStringList texts;
+        for (const QString& line : result.output.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
+            texts.append(QJsonDocument::fromJson(line.toUtf8()).object().value(QStringLiteral("text")).toString());
+        }
+        const QStringList timeCritical = wordsOf("May 2011|May 12|Mon 10:30|yesterday 10:30|3 hours ago|5 minutes ago|"
+                                                 "in 5 minutes|in 3 hours|tomorrow 10:30|Fri 10:30|May 20|May 2013");
+        QCOMPARE(texts,
+                 timeCritical + wordsOf("May 2011|May 12|Monday|yesterday|today|tomorrow|Friday|May 20|May 2013"));
+    }
+
+    void columnsStandBelowEachOther()
+    {
+        const SettingsRoot root;
+        qputenv("TZ", "Asia/Tokyo"); // of the process: a device without a time zone has GMT
+        QVERIFY(run("formats|--json|--device|region=de_DE").output.contains(QLatin1String("+00:00")));
+        qputenv("TZ", "UTC");
+        const QStringList formats =
+            run("formats|--locale|ja_JP|--at|2012-05-16T15:30|--device|hour-format=24").output.split(QLatin1Char('\n'));
+        QCOMPARE(formats.at(0), QStringLiteral("ja_JP  Japanese (Japan)"));
+        // 年, 月, 日, 時, 分 and 秒 are two columns wide each.
+        QCOMPARE(formats.at(3), QString::fromUtf8("date       long    yyyy年M月d日                    2012年5月16日"));
+        QCOMPARE(formats.at(5), QString::fromUtf8("time       short   h:mm                            15:30"));
+        const QStringList ladder = run("relative|--table|--type|time-critical|--clock|12|--locale|ja|--locale|en")
+                                       .output.split(QLatin1Char('\n'));
+        QCOMPARE(ladder.at(5), QString::fromUtf8("3 hours before    2012-05-16 07:30  3 時間前        3 hours ago"));
+        QCOMPARE(ladder.at(2), QString::fromUtf8("4 days before     2012-05-12 10:30  5月12日         May 12"));
+    }
+
+    void badLinesAreReported()
+    {
+        const SettingsRoot root;
+        const Result percentages = run("percent|-|--locale|en_US", "0.5\nhalf\n-1\r\n");
+        QCOMPARE(percentages.output, QStringLiteral("50%\n-100%\n"));
+        QCOMPARE(percentages.errors, QStringLiteral("zel-i18n: line 2: 'half' is not a number such as 0.256\n"));
+        QCOMPARE(percentages.status, 1);
+
+        const QByteArray longLine(300000, '1');
+        const QByteArray input = "2012-05-16\r\nyesterday\n\n" + longLine + "\n2012-02-29T10:30\n2011-02-29";
+        const Result result = run("format|yMMMd|-|--device|region=en_US", input);
+        QCOMPARE(result.output, QStringLiteral("May 16, 2012\nFeb 29, 2012\n"));
+        const QStringList errors = result.errors.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        QCOMPARE(errors.size(), 4);
+        const QString reason = QStringLiteral(" is not a moment such as 2012-05-16 or 2012-05-16T10:30:00+02:00");
+        QCOMPARE(errors.at(0), QStringLiteral("zel-i18n: line 2: 'yesterday'") + reason);
+        QCOMPARE(errors.at(1), QStringLiteral("zel-i18n: line 3: ''") + reason);
+        QVERIFY(errors.at(2).startsWith(QLatin1String("zel-i18n: line 4: '1111")));
+        QVERIFY(errors.at(2).size() < 200);
+        QCOMPARE(errors.at(3), QStringLiteral("zel-i18n: line 6: '2011-02-29'") + reason);
+        QCOMPARE(result.status, 1);
+    }
+
+    void answersLineByLine()
+    {
+        const SettingsRoot root;
+        Running relative("relative|-|--anchor|2012-05-16T10:30|--locale|en");
+        relative.feed("2012-05-16T10:25\n");
+        QCOMPARE(relative.line(), QStringLiteral("5 minutes ago"));
+        relative.feed("2012-05-16T13:30\n");
+        QCOMPARE(relative.line(), QStringLiteral("in 3 hours"));
+        QCOMPARE(relative.finish().status, 0);
+    }
+
+    void endsQuietlyWhenNobodyReads()
+    {
+        const SettingsRoot root;
+        const QString line =
+            QStringLiteral("yes 2012-05-16 | \"$0\" relative - --locale en --anchor 2012-05-16 | head -n 1; "
+                           "echo ${PIPESTATUS[1]}");
+        Child shell(QStringLiteral("bash"), {QStringLiteral("-c"), line, QStringLiteral(ZEL_TOOL)});
+        const Result result = shell.finish();
+        QCOMPARE(result.output, QStringLiteral("in 0 minutes\n0\n"));
+        QCOMPARE(result.errors, QString());
+    }
+
+    void deviceRoundTrip()
+    {
+        const SettingsRoot root;
+        QVERIFY(root.write(settings,
+                           "@settings\nringer::loud\\nand clear\nhourFormat:n:12\nvolume:n:0.5\nmuted:b:false\n"));
+        const mode_t umask = ::umask(077);
+        const Result set = run("device|set|hour-format=24|time-zone=Europe/Berlin|region=sr_Latn_RS");
+        ::umask(umask);
+        QCOMPARE(set.errors, QString());
+        QCOMPARE(set.status, 0);
+        QCOMPARE(run("device").output,
+                 QStringLiteral("hour-format  24\ntime-zone    Europe/Berlin\nregion       sr_Latn_RS\n"));
+        QCOMPARE(textOf(root.file(settings)),
+                 QByteArray("@settings\nhourFormat:n:24\nmuted:b:false\nringer::loud\\nand clear\nvolume:n:0.5\n"));
+        QCOMPARE(textOf(root.file("/pps/services/confstr/_CS_TIMEZONE")),
+                 QByteArray("@_CS_TIMEZONE\n_CS_TIMEZONE::Europe/Berlin\n"));
+
+        for (const char* const object :
+             {"/pps/services/confstr/_CS_TIMEZONE", "/pps/services/confstr", "/pps/services"}) {
+            QVERIFY(QFileInfo(root.file(QLatin1String(object))).permission(QFile::ReadOther)); // the umask is 077
+        }
+
+        QCOMPARE(run("device|unset|hour-format|time-zone").status, 0);
+        QCOMPARE(textOf(root.file(settings)),
+                 QByteArray("@settings\nmuted:b:false\nringer::loud\\nand clear\nvolume:n:0.5\n"));
+        QCOMPARE(run("device|--json").output,
+                 QStringLiteral("{\"hour-format\":null,\"region\":\"sr_Latn_RS\",\"time-zone\":null}\n"));
+        QCOMPARE(QDir(root.file("/pps/system")).entryList(QDir::Files | QDir::Hidden),
+                 QStringList({QStringLiteral("locale"), QStringLiteral("settings")}));
+    }
+
+    void writersWaitForEachOther()
+    {
+        const SettingsRoot root;
+        QVERIFY(root.setClock("12"));
+        const QByteArray directory = QFile::encodeName(root.file("/pps/system"));
+        const int lock = ::open(directory.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+        QCOMPARE(::flock(lock, LOCK_SH), 0);
+        Running set("device|set|hour-format=24");
+        QVERIFY(!set.process().waitForFinished(300));
+        QVERIFY(root.write(settings, "@settings\nringer::loud\n"));
+        ::close(lock);
+        QCOMPARE(set.finish().status, 0);
+        QCOMPARE(textOf(root.file(settings)), QByteArray("@settings\nhourFormat:n:24\nringer::loud\n"));
+    }
+
+    void valuesAreNoCommandsToTerminals()
+    {
+        const SettingsRoot root;
+        QVERIFY(root.setRegion("de\x1b[2J\\nDE\u202e"));
+        QCOMPARE(run("device|get|region").output, QStringLiteral("de?[2J?DE?\n"));
+        const QString value = QStringLiteral("de?[2J?DE?");
+        QVERIFY(run("device").output.endsWith(value + QLatin1Char('\n')));
+        QVERIFY(run("doctor").output.contains(QLatin1String("region           ") + value + QLatin1String(", from ")));
+        QVERIFY(root.write("/\x1b", "no directory"));
+        qputenv("ZEL_PPS_ROOT", QFile::encodeName(root.file("/\x1b")));
+        expectRefusal("device|get|region", root.file("/?/pps/system/locale: Not a directory"));
+    }
+
+    void machineThatIsNoDevice()
+    {
+        if (QFileInfo::exists(QStringLiteral("/pps"))) {
+            return; // it is one
+        }
+        qunsetenv("ZEL_PPS_ROOT");
+        const auto error = QStringLiteral("this machine has no /pps; --create makes it, with %1");
+        expectRefusal("device|set|hour-format=24|region=de_DE",
+                      error.arg(QLatin1String("/pps/system/settings, /pps/system/locale")));
+        QCOMPARE(run("device|unset|region").status, 0);
+        QVERIFY(!QFileInfo::exists(QStringLiteral("/pps")));
+    }
+
+    void nothingIsWrittenBeforeAllIsChecked()
+    {
+        const SettingsRoot root;
+        QVERIFY(root.setClock("12"));
+        QCOMPARE(run("device|set|hour-format=24|region=xx").status, 1);
+        QVERIFY(root.write("/pps/system/locale", "garbage\n"));
+        QCOMPARE(run("device|set|hour-format=24|region=de_DE").status, 1);
+        QCOMPARE(run("device|get|hour-format").output, QStringLiteral("12\n"));
+    }
+
+    void tornObject()
+    {
+        const SettingsRoot root;
+        QVERIFY(root.write(settings, "@settings\nringer::loud\nhourFormat:n:twelve\n"));
+        const QString reason = root.file(settings) + QStringLiteral(": line 3: not a number");
+        for (const char* const line :
+             {"device", "format|hm", "formats|--locale|de", "relative|2012-05-16", "watch|hm"}) {
+            expectRefusal(line, reason);
+        }
+        QCOMPARE(run("percent|1").status, 0); // asks for the region only
+        expectRefusal("device|set|hour-format=24", reason + QStringLiteral("; --replace writes it anew"));
+        QCOMPARE(run("device|set|--replace|hour-format=24").status, 0);
+        QCOMPARE(textOf(root.file(settings)), QByteArray("@settings\nhourFormat:n:24\n"));
+    }
+
+    void rootThatCannotBeRead()
+    {
+        const SettingsRoot root;
+        QVERIFY(root.write("/file", "no directory"));
+        const QString file = root.file("/file");
+        qputenv("ZEL_PPS_ROOT", QFile::encodeName(file));
+        for (const char* const line : {"format|hm", "device|get|hour-format", "device|set|--replace|hour-format=24"}) {
+            expectRefusal(line, file + settings + QStringLiteral(": Not a directory"));
+        }
+        QCOMPARE(run("doctor").status, 1);
+        QCOMPARE(run("percent|--locale|en|1").output, QStringLiteral("100%\n")); // needs no settings
+    }
+
+    void doctorFindsWhatIsWrong()
+    {
+        const SettingsRoot root;
+        const Result bare = run("doctor");
+        QCOMPARE(bare.status, 0);
+        const QString library =
+            QFileInfo(QStringLiteral(ZEL_TOOL)).path() + QLatin1String("/../lib/libzelutilityi18n.so");
+        QVERIFY2(bare.output.startsWith(QStringLiteral("ok    library          " ZEL_VERSION ", %1, built by ")
+                                            .arg(QFileInfo(library).canonicalFilePath())),
+                 qPrintable(bare.output));
+        QVERIFY(bare.output.contains(QStringLiteral("\nok    Qt               %1, built with " QT_VERSION_STR "\n")
+                                         .arg(QLatin1String(qVersion()))));
+        QVERIFY(bare.output.contains(QLatin1String("ok    relative dates   phrases in place: 5 minutes ago\n")));
+        QVERIFY(bare.output.contains(root.file(settings) + QLatin1String(": missing\n")));
+        QVERIFY(bare.output.contains(QLatin1String("note  region           C, from LC_ALL")));
+
+        QVERIFY(root.setClock("25"));
+        QVERIFY(root.setTimeZone("Asia/Tokyo"));
+        QVERIFY(root.write("/pps/system/locale", "@locale\nregion::de_DE"));
+        const Result wrong = run("doctor");
+        QCOMPARE(wrong.status, 1);
+        QVERIFY(wrong.output.contains(QStringLiteral("hour-format      25, from %1: hour-format is 12 or 24, not '25'")
+                                          .arg(root.file(settings))));
+        QVERIFY(wrong.output.contains(QLatin1String("/pps/system/locale: line 2: no newline at the end")));
+        QVERIFY(wrong.output.contains(QLatin1String("ok     time-zone        Asia/Tokyo, from ") + root.path()));
+
+        qputenv("ICU_DATA", "/nowhere");
+        const Result noPhrases = run("doctor|--device|region=de_DE");
+        qunsetenv("ICU_DATA");
+        QCOMPARE(noPhrases.status, 1);
+        QVERIFY(noPhrases.output.contains(QLatin1String("wrong  relative dates   no phrases in ICU's data")));
+        QVERIFY(noPhrases.output.contains(QLatin1String("/nowhere, from ICU_DATA")));
+    }
+
+    void watchFollowsTheDevice()
+    {
+        const SettingsRoot root;
+        QVERIFY(root.setClock("12") && root.setTimeZone("Europe/London") && root.setRegion("en_GB"));
+        Running german("watch|hmz|2012-05-16T14:30Z|--locale|de_DE");
+        QCOMPARE(german.line(), QString::fromUtf8("3:30\u202fPM GMT+1"));
+        Running watch("watch|hmz|2012-05-16T14:30Z");
+        QCOMPARE(watch.line(), QString::fromUtf8("3:30\u202fpm BST"));
+        constexpr int second = 1000;
+        QCOMPARE(run("device|set|hour-format=24").status, 0);
+        QCOMPARE(watch.line(second), QStringLiteral("15:30 BST"));
+        QCOMPARE(german.line(second), QStringLiteral("15:30 GMT+1")); // the other settings are still the device's
+        german.signal(SIGTERM);
+        QCOMPARE(german.finish().status, 0);
+        QCOMPARE(run("device|set|time-zone=Europe/Berlin").status, 0);
+        QCOMPARE(watch.line(second), QStringLiteral("16:30 CEST"));
+        QCOMPARE(run("device|set|region=de_DE").status, 0);
+        QCOMPARE(watch.line(second), QStringLiteral("16:30 MESZ"));
+
+        // Another attribute is not the clock, and what cannot be decoded changes nothing.
+        QVERIFY(root.write(settings, "@settings\nhourFormat:n:24\nvolume:n:1\n"));
+        QVERIFY(root.rewrite(settings, "@settings\nhourFor"));
+        QCOMPARE(watch.line(second), QString());
+        QVERIFY(root.setClock("12"));
+        QCOMPARE(watch.line(second), QString::fromUtf8("4:30\u202fPM MESZ"));
+
+        QVERIFY(root.remove(settings));
+        QVERIFY(root.setClock("24"));
+        QString line = watch.line(second);
+        if (line.startsWith(QLatin1String("4:30"))) { // a slow machine shows the object that is not there, too
+            line = watch.line(second);
+        }
+        QCOMPARE(line, QStringLiteral("16:30 MESZ"));
+
+        watch.signal(SIGTERM);
+        const Result result = watch.finish();
+        QCOMPARE(result.errors, QStringLiteral("zel-i18n: void zel::utility::i18n::PpsManager::onPpsUpdate() failed to "
+                                               "decode PPS payload from /pps/system/settings\n"));
+        QCOMPARE(result.status, 0);
+        QCOMPARE(result.output, QString());
+    }
+
+    void watchEndsOnSignal()
+    {
+        for (const int number : {SIGINT, SIGTERM}) {
+            Running watch("watch|yMd|--device|region=en_US");
+            QVERIFY(!watch.line().isEmpty());
+            QCOMPARE(devices().size(), 1);
+            watch.signal(number);
+            const Result result = watch.finish();
+            QCOMPARE(result.errors, QString());
+            QCOMPARE(result.status, 0);
+            QCOMPARE(devices(), QStringList());
+        }
+    }
+
+    void throwAwayDeviceLeavesNothing()
+    {
+        const SettingsRoot root;
+        // The device of the user is not touched, and not asked.
+        QVERIFY(root.setClock("12"));
+        QCOMPARE(run("device|set|region=fr_FR|--device|hour-format=24").status, 0);
+        QCOMPARE(run("device").output, QStringLiteral("hour-format  12\ntime-zone    not set\nregion       not set\n"));
+
+        Running format("format|y|-|--device|region=en_US");
+        format.feed("2012-05-16\n");
+        QCOMPARE(format.line(), QStringLiteral("2012"));
+        format.signal(SIGINT);
+        QVERIFY(format.process().waitForFinished(Child::patience));
+        QCOMPARE(format.process().exitStatus(), QProcess::CrashExit);
+        QCOMPARE(format.process().exitCode(), SIGINT);
+        QCOMPARE(devices(), QStringList());
+    }
+
+    void galleryShowsBothClocks()
+    {
+        const SettingsRoot root;
+        QVERIFY(root.setClock("12"));
+        const QString file = m_temporary.filePath("gallery");
+        const QByteArray line = "gallery|--locale|de_DE|--locale|th_TH|--locale|sq_AL|--locale|ar_EG|--html|" +
+                                file.toUtf8() + ".html|--tsv|" + file.toUtf8() + ".tsv";
+        const Result result = run(line.constData());
+        QCOMPARE(result.errors, QString());
+        QCOMPARE(result.output, QStringLiteral("4 locales, 2 of them with a mark\n"));
+        QCOMPARE(devices(), QStringList());
+
+        const QByteArray table = textOf(file + QStringLiteral(".tsv"));
+        for (const char* const row :
+             {"de_DE\t12-hour clock\ttime\tshort\th:mm AP\t10:30 PM\t\n",
+              "de_DE\t24-hour clock\ttime\tshort\thh:mm\t22:30\t\n",
+              "de_DE\t24-hour clock\tcustom\tyMMMMEEEEdhm\tyMMMMEEEEdhm\tMittwoch, 16. Mai 2012 um 22:30\t\n",
+              "de_DE\t24-hour clock\trelative, time-critical\t1 day before\t\tgestern, 10:30\t\n"}) {
+            QVERIFY2(table.contains(row), row);
+        }
+        QVERIFY(table.contains("\tQt's own pattern: ICU's has a field that Qt lacks\n"));
+        QVERIFY(table.contains("has encountered an unsupported time format!\n"));
+        QCOMPARE(table.count('\n'), 1 + 4 * 2 * (12 + 1 + 12 + 9));
+
+        const QString piped = run("gallery|--locale|de_DE|--tsv|/dev/stdout").output;
+        QVERIFY2(piped.startsWith(QLatin1String("locale\tclock\t")), qPrintable(piped));
+
+        const QByteArray page = textOf(file + QStringLiteral(".html"));
+        QVERIFY(page.contains("<section id=\"ar_EG\" lang=\"ar-EG\" dir=rtl>"));
+        QVERIFY(page.contains("<section id=\"de_DE\" lang=\"de-DE\" dir=ltr>"));
+        QVERIFY(page.contains("<tr class=mark>"));
+        QVERIFY(page.contains("<bdi>1 year before</bdi>")); // otherwise "year before 1" from right to left
+        QVERIFY(page.contains("Qt's own pattern: ICU's has"));
+    }
 
 private:
     /** The throw-away devices that exist. */
@@ -92,520 +586,6 @@ private:
 
     QTemporaryDir m_temporary;
 };
-
-void ToolTest::initTestCase()
-{
-    qputenv("TZ", "UTC");
-    qputenv("LC_ALL", "C"); // output is UTF-8 all the same
-    qunsetenv("ICU_DATA");
-    qputenv("TMPDIR", QFile::encodeName(m_temporary.path()));
-}
-
-void ToolTest::answers_data()
-{
-    addColumns<QByteArray, QString>();
-    const auto row = [](const char* line, const char* output) {
-        QTest::newRow(line) << QByteArray(line) << QString::fromUtf8(output) + QLatin1Char('\n');
-    };
-    row("percent|--locale|en_US|--max|1|0.256|-0.5", "25.6%\n-50%");
-    row("percent|--locale|en_US|--min|2|0.5|-.5", "50.00%\n-50.00%");
-    row("percent|--locale|en_US|--min|3|--max|0|0.5", "50%");
-    row("percent|--locale|en_US|0.256|0.125", "26%\n12%");
-    row("percent|--locale|tr_TR|0.5", "%50");
-    row("percent|--device|region=de_DE|12.5", "1.250\u00a0%");
-    row("percent|--locale|en_US|--json|0.25", R"({"locale":"en_US","text":"25%","value":0.25})");
-
-    row("format|yMMMd|2012-05-16|--device|region=en_US", "May 16, 2012");
-    row("format|hm|2012-05-16T22:30:15.5|--device|region=de_DE,hour-format=24", "22:30");
-    row("format|hm|2012-05-16 22:30|--device|region=de_DE,hour-format=12", "10:30\u202fPM");
-    row("format|hm|2012-05-16T10:30+02:00|2012-05-16T10:30Z|--device|hour-format=24,region=en_GB", "10:30\n10:30");
-    row("format|hmz|2012-05-16T10:30+02:00|2012-05-16T10:30-0530|--device|"
-        "hour-format=24,region=en_GB,time-zone=Europe/London",
-        "09:30 BST\n17:00 BST");
-    row("format|hmz|2012-05-16T10:30|--device|hour-format=24,region=en_GB,time-zone=Asia/Tokyo", "10:30 GMT+9");
-    row("format|Hm|2012-05-16T10:30|--json|--device|hour-format=24,region=en_GB",
-        R"({"moment":"2012-05-16T10:30:00","text":"10:30"})");
-
-    row("format|hmz|2012-05-16T10:30Z|--device|hour-format=24,region=en_GB",
-        qUtf8Printable("10:30 " + zoneName({}, QDateTime(), icu::Locale::getUK()))); // whatever the process's zone
-    row("format|yMMMMd|2012-05-16|--locale|fr_FR|--device|region=de_DE", "16 mai 2012");
-    row("format|hmz|2012-05-16T10:30Z|--locale|de_DE|--device|hour-format=24,region=en_GB,time-zone=Europe/Berlin",
-        "12:30 MESZ");
-
-    row("relative|--anchor|2012-05-16T10:30|--locale|de|2012-05-16T07:30|2012-05-15T09:00|--clock|24",
-        "vor 3 Stunden\ngestern, 09:00");
-    row("relative|--anchor|2012-05-16T10:30|--locale|de|2012-05-15T09:00|--device|hour-format=12",
-        "gestern 9:00\u202fAM");
-    row("relative|--anchor|2013-01-01T00:02|--locale|de|--wording|natural|--until|2013-01-01T00:02|2012-12-31T23:59:30|"
-        "--clock|24",
-        "jetzt\t2013-01-01T00:03:00\ngestern, 23:59\t2013-01-02T00:00:00");
-    row("relative|--anchor|2012-05-16T10:30|--locale|en|--until|2011-05-16", "May 2011\tnever");
-    row("relative|--anchor|2012-05-16T10:30|--type|non-time-critical|2012-05-16T07:30|--device|region=zh_TW", "今天");
-    row("relative|--anchor|2012-05-16T10:30|--locale|en|--json|2011-12-31",
-        R"({"moment":"2011-12-31T00:00:00","text":"December 2011"})");
-
-    row("device|--device|hour-format=24,region=de_DE", "hour-format  24\ntime-zone    not set\nregion       de_DE");
-    row("device|get|time-zone|--device|time-zone=Asia/Tokyo", "Asia/Tokyo");
-}
-
-void ToolTest::answers()
-{
-    const auto [line, output] = cells<QByteArray, QString>();
-    const SettingsRoot root;
-    const Result result = run(line.constData());
-    QCOMPARE(result.errors, QString());
-    QCOMPARE(result.output, output);
-    QCOMPARE(result.status, 0);
-}
-
-void ToolTest::refusals_data()
-{
-    addColumns<QByteArray, int, QString>();
-    const auto row = [](const char* line, int status, const char* error) {
-        QTest::newRow(line) << QByteArray(line) << status << QLatin1String("zel-i18n: ") + QString::fromUtf8(error);
-    };
-    row("", 2, "no command given; see 'zel-i18n --help'");
-    row("frobnicate", 2, "unknown command 'frobnicate'; see 'zel-i18n --help'");
-    row("formats|--frobnicate", 2, "unknown option 'frobnicate'; see 'zel-i18n formats --help'");
-    row("formats|--locale", 2, "missing value after '--locale'; see 'zel-i18n formats --help'");
-    row("formats|de_DE", 2, "'de_DE' is no option; name a locale with --locale; see 'zel-i18n formats --help'");
-    row("percent", 2, "no value given; see 'zel-i18n percent --help'");
-    row("percent|--min|-1|1", 2, "--min takes a number from 0 to 340, not '-1'; see 'zel-i18n percent --help'");
-    row("percent|--locale|de|--locale|fr|1", 2, "--locale was given more than once; see 'zel-i18n percent --help'");
-    row("format|y|2012-05-16|-", 2,
-        "'-' for standard input does not go with other moments; "
-        "see 'zel-i18n format --help'");
-    row("watch|y|2012-05-16|2012-05-17", 2, "one moment at most, not also '2012-05-17'; see 'zel-i18n watch --help'");
-    row("relative|--clock|13|2012-05-16", 2,
-        "--clock takes 12, 24, locale, user, not '13'; see 'zel-i18n relative --help'");
-    row("device|put", 2, "'put' is neither get, set nor unset; see 'zel-i18n device --help'");
-    row("device|set|hour-format", 2, "'hour-format' is not of the form KEY=VALUE; see 'zel-i18n device --help'");
-    row("device|unset|clock", 2,
-        "no setting 'clock'; there are hour-format, time-zone, region; see 'zel-i18n device --help'");
-    row("format|y|--device|region=de_DE,region=fr_FR", 2,
-        "region was given more than once; see 'zel-i18n format --help'");
-
-    row("gallery", 2, "no file given with --html or --tsv; see 'zel-i18n gallery --help'");
-    row("gallery|--tsv|x|--device|region=de_DE", 2, "--device makes no difference here; see 'zel-i18n gallery --help'");
-
-    row("gallery|--html|/nowhere/x|--locale|de_DE", 1, "cannot write '/nowhere/x': No such file or directory");
-    row("formats|--locale|xx_YY", 1, "unknown locale 'xx_YY'");
-    row("formats|--locale|de_XX", 1, "unknown locale 'de_XX'"); // Qt alone would answer with Germany
-    row("formats|--locale|zh_Latn_TW", 1, "unknown locale 'zh_Latn_TW'");
-    row("percent|nan", 1, "'nan' is not a number such as 0.256");
-    row("format|foo!", 1, "'foo!' is not a skeleton such as yMMMd or hm");
-    row("format|y|--device|hour-format=13", 1, "hour-format is 12 or 24, not '13'");
-    row("format|y|--device|time-zone=Mars/Base", 1, "unknown time zone 'Mars/Base'");
-    row("gallery|--tsv|-", 2, "--tsv takes the name of a file, not '-'; see 'zel-i18n gallery --help'");
-    row("device|get|region", 1, "region is not set");
-    for (const char* const moment :
-         {"2012-02-30", "2012-5-16", "2012-05-16T24:00", "2012-05-16T10:30+15:00", "2012-05-16T10:30Zx", "2012-05-16T",
-          "2012-05-16Z", "0000-01-01", "2012-05-16T10:30:00."}) {
-        row(QByteArray("format|y|2012-05-16|").append(moment).constData(), 1,
-            QByteArray("'")
-                .append(moment)
-                .append("' is not a moment such as 2012-05-16 or 2012-05-16T10:30:00+02:00")
-                .constData());
-    }
-}
-
-void ToolTest::refusals()
-{
-    const auto [line, status, error] = cells<QByteArray, int, QString>();
-    const SettingsRoot root;
-    const Result result = run(line.constData());
-    QCOMPARE(result.status, status);
-    QCOMPARE(result.errors.trimmed(), error);
-    QCOMPARE(result.output, QString());
-}
-
-void ToolTest::environments_data()
-{
-    const NamedRow<QString> row;
-    row("", "C, as neither LC_ALL, LC_TIME nor LANG is set");
-    row("LC_ALL=C", "C, from LC_ALL");
-    row("LC_ALL=de_DE.ISO-8859-1", "de_DE, from LC_ALL");
-    row("LC_TIME=fr_CA LC_ALL= LANG=C.UTF-8", "fr_CA, from LC_TIME");
-}
-
-/** Nothing is said about a character set, and the region stays that of the environment. */
-void ToolTest::environments()
-{
-    const auto [region] = cells<QString>();
-    const Result result = Child(QStringLiteral("env"), QStringLiteral("-i %1 " ZEL_TOOL " doctor")
-                                                           .arg(QLatin1String(QTest::currentDataTag()))
-                                                           .split(' ', Qt::SkipEmptyParts))
-                              .finish();
-    QCOMPARE(result.errors, QString());
-    QVERIFY2(result.output.contains(QLatin1String(" region           ") + region), qPrintable(result.output));
-}
-
-void ToolTest::help()
-{
-    const Result all = run("--help");
-    QCOMPARE(all.status, 0);
-    for (const char* const name : {"formats", "format", "relative", "percent", "watch", "device", "doctor"}) {
-        QVERIFY(all.output.contains(QLatin1String("\n  ") + QLatin1String(name) + QLatin1Char(' ')));
-        const Result one = run(QByteArray(name).append("|--help").constData());
-        QCOMPARE(one.status, 0);
-        QVERIFY(one.output.startsWith(QLatin1String("Usage: zel-i18n ") + QLatin1String(name)));
-        QVERIFY(one.output.contains(QLatin1String("\nExamples:\n  zel-i18n ")));
-    }
-    QCOMPARE(run("--version").output, QStringLiteral("zel-i18n " ZEL_VERSION "\n"));
-}
-
-void ToolTest::json_data()
-{
-    addColumns<QByteArray, QStringList, int>();
-    const auto row = [](const char* line, const char* keys, int lines) {
-        QTest::newRow(line) << QByteArray(line) << wordsOf(keys) << lines;
-    };
-    row("formats|--json|--locale|ja_JP|--locale|he_IL", "formats|locale|moment", 2);
-    row("doctor|--json", "advice|status|subject|text", 12);
-    row("relative|--table|--json|--locale|pl|--locale|hi", "anchor|distance|locale|moment|text|type", 42);
-}
-
-void ToolTest::json()
-{
-    const auto [line, keys, count] = cells<QByteArray, QStringList, int>();
-    const SettingsRoot root;
-    const Result result = run(line.constData());
-    QCOMPARE(result.status, 0);
-    const QStringList lines = result.output.split(QLatin1Char('\n'));
-    QCOMPARE(lines.last(), QString());
-    QCOMPARE(static_cast<int>(lines.size()) - 1, count);
-    for (const QString& text : lines.mid(0, lines.size() - 1)) {
-        QCOMPARE(QJsonDocument::fromJson(text.toUtf8()).object().keys(), keys);
-    }
-}
-
-void ToolTest::ladderHasEverySlot()
-{
-    const SettingsRoot root;
-    const Result result = run("relative|--table|--locale|en_US|--clock|24|--json");
-    QCOMPARE(result.status, 0);
-    QStringList texts;
-    for (const QString& line : result.output.split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
-        texts.append(QJsonDocument::fromJson(line.toUtf8()).object().value(QStringLiteral("text")).toString());
-    }
-    const QStringList timeCritical = wordsOf("May 2011|May 12|Mon 10:30|yesterday 10:30|3 hours ago|5 minutes ago|"
-                                             "in 5 minutes|in 3 hours|tomorrow 10:30|Fri 10:30|May 20|May 2013");
-    QCOMPARE(texts, timeCritical + wordsOf("May 2011|May 12|Monday|yesterday|today|tomorrow|Friday|May 20|May 2013"));
-}
-
-void ToolTest::columnsStandBelowEachOther()
-{
-    const SettingsRoot root;
-    qputenv("TZ", "Asia/Tokyo"); // of the process: a device without a time zone has GMT
-    QVERIFY(run("formats|--json|--device|region=de_DE").output.contains(QLatin1String("+00:00")));
-    qputenv("TZ", "UTC");
-    const QStringList formats =
-        run("formats|--locale|ja_JP|--at|2012-05-16T15:30|--device|hour-format=24").output.split(QLatin1Char('\n'));
-    QCOMPARE(formats.at(0), QStringLiteral("ja_JP  Japanese (Japan)"));
-    // 年, 月, 日, 時, 分 and 秒 are two columns wide each.
-    QCOMPARE(formats.at(3), QString::fromUtf8("date       long    yyyy年M月d日                    2012年5月16日"));
-    QCOMPARE(formats.at(5), QString::fromUtf8("time       short   h:mm                            15:30"));
-    const QStringList ladder =
-        run("relative|--table|--type|time-critical|--clock|12|--locale|ja|--locale|en").output.split(QLatin1Char('\n'));
-    QCOMPARE(ladder.at(5), QString::fromUtf8("3 hours before    2012-05-16 07:30  3 時間前        3 hours ago"));
-    QCOMPARE(ladder.at(2), QString::fromUtf8("4 days before     2012-05-12 10:30  5月12日         May 12"));
-}
-
-void ToolTest::badLinesAreReported()
-{
-    const SettingsRoot root;
-    const Result percentages = run("percent|-|--locale|en_US", "0.5\nhalf\n-1\r\n");
-    QCOMPARE(percentages.output, QStringLiteral("50%\n-100%\n"));
-    QCOMPARE(percentages.errors, QStringLiteral("zel-i18n: line 2: 'half' is not a number such as 0.256\n"));
-    QCOMPARE(percentages.status, 1);
-
-    const QByteArray longLine(300000, '1');
-    const QByteArray input = "2012-05-16\r\nyesterday\n\n" + longLine + "\n2012-02-29T10:30\n2011-02-29";
-    const Result result = run("format|yMMMd|-|--device|region=en_US", input);
-    QCOMPARE(result.output, QStringLiteral("May 16, 2012\nFeb 29, 2012\n"));
-    const QStringList errors = result.errors.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    QCOMPARE(errors.size(), 4);
-    const QString reason = QStringLiteral(" is not a moment such as 2012-05-16 or 2012-05-16T10:30:00+02:00");
-    QCOMPARE(errors.at(0), QStringLiteral("zel-i18n: line 2: 'yesterday'") + reason);
-    QCOMPARE(errors.at(1), QStringLiteral("zel-i18n: line 3: ''") + reason);
-    QVERIFY(errors.at(2).startsWith(QLatin1String("zel-i18n: line 4: '1111")));
-    QVERIFY(errors.at(2).size() < 200);
-    QCOMPARE(errors.at(3), QStringLiteral("zel-i18n: line 6: '2011-02-29'") + reason);
-    QCOMPARE(result.status, 1);
-}
-
-void ToolTest::answersLineByLine()
-{
-    const SettingsRoot root;
-    Running relative("relative|-|--anchor|2012-05-16T10:30|--locale|en");
-    relative.feed("2012-05-16T10:25\n");
-    QCOMPARE(relative.line(), QStringLiteral("5 minutes ago"));
-    relative.feed("2012-05-16T13:30\n");
-    QCOMPARE(relative.line(), QStringLiteral("in 3 hours"));
-    QCOMPARE(relative.finish().status, 0);
-}
-
-void ToolTest::endsQuietlyWhenNobodyReads()
-{
-    const SettingsRoot root;
-    const QString line =
-        QStringLiteral("yes 2012-05-16 | \"$0\" relative - --locale en --anchor 2012-05-16 | head -n 1; "
-                       "echo ${PIPESTATUS[1]}");
-    Child shell(QStringLiteral("bash"), {QStringLiteral("-c"), line, QStringLiteral(ZEL_TOOL)});
-    const Result result = shell.finish();
-    QCOMPARE(result.output, QStringLiteral("in 0 minutes\n0\n"));
-    QCOMPARE(result.errors, QString());
-}
-
-void ToolTest::deviceRoundTrip()
-{
-    const SettingsRoot root;
-    QVERIFY(
-        root.write(settings, "@settings\nringer::loud\\nand clear\nhourFormat:n:12\nvolume:n:0.5\nmuted:b:false\n"));
-    const mode_t umask = ::umask(077);
-    const Result set = run("device|set|hour-format=24|time-zone=Europe/Berlin|region=sr_Latn_RS");
-    ::umask(umask);
-    QCOMPARE(set.errors, QString());
-    QCOMPARE(set.status, 0);
-    QCOMPARE(run("device").output,
-             QStringLiteral("hour-format  24\ntime-zone    Europe/Berlin\nregion       sr_Latn_RS\n"));
-    QCOMPARE(textOf(root.file(settings)),
-             QByteArray("@settings\nhourFormat:n:24\nmuted:b:false\nringer::loud\\nand clear\nvolume:n:0.5\n"));
-    QCOMPARE(textOf(root.file("/pps/services/confstr/_CS_TIMEZONE")),
-             QByteArray("@_CS_TIMEZONE\n_CS_TIMEZONE::Europe/Berlin\n"));
-
-    for (const char* const object : {"/pps/services/confstr/_CS_TIMEZONE", "/pps/services/confstr", "/pps/services"}) {
-        QVERIFY(QFileInfo(root.file(QLatin1String(object))).permission(QFile::ReadOther)); // the umask is 077
-    }
-
-    QCOMPARE(run("device|unset|hour-format|time-zone").status, 0);
-    QCOMPARE(textOf(root.file(settings)),
-             QByteArray("@settings\nmuted:b:false\nringer::loud\\nand clear\nvolume:n:0.5\n"));
-    QCOMPARE(run("device|--json").output,
-             QStringLiteral("{\"hour-format\":null,\"region\":\"sr_Latn_RS\",\"time-zone\":null}\n"));
-    QCOMPARE(QDir(root.file("/pps/system")).entryList(QDir::Files | QDir::Hidden),
-             QStringList({QStringLiteral("locale"), QStringLiteral("settings")}));
-}
-
-void ToolTest::writersWaitForEachOther()
-{
-    const SettingsRoot root;
-    QVERIFY(root.setClock("12"));
-    const QByteArray directory = QFile::encodeName(root.file("/pps/system"));
-    const int lock = ::open(directory.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    QCOMPARE(::flock(lock, LOCK_SH), 0);
-    Running set("device|set|hour-format=24");
-    QVERIFY(!set.process().waitForFinished(300));
-    QVERIFY(root.write(settings, "@settings\nringer::loud\n"));
-    ::close(lock);
-    QCOMPARE(set.finish().status, 0);
-    QCOMPARE(textOf(root.file(settings)), QByteArray("@settings\nhourFormat:n:24\nringer::loud\n"));
-}
-
-void ToolTest::valuesAreNoCommandsToTerminals()
-{
-    const SettingsRoot root;
-    QVERIFY(root.setRegion("de\x1b[2J\\nDE\u202e"));
-    QCOMPARE(run("device|get|region").output, QStringLiteral("de?[2J?DE?\n"));
-    const QString value = QStringLiteral("de?[2J?DE?");
-    QVERIFY(run("device").output.endsWith(value + QLatin1Char('\n')));
-    QVERIFY(run("doctor").output.contains(QLatin1String("region           ") + value + QLatin1String(", from ")));
-    QVERIFY(root.write("/\x1b", "no directory"));
-    qputenv("ZEL_PPS_ROOT", QFile::encodeName(root.file("/\x1b")));
-    expectRefusal("device|get|region", root.file("/?/pps/system/locale: Not a directory"));
-}
-
-void ToolTest::machineThatIsNoDevice()
-{
-    if (QFileInfo::exists(QStringLiteral("/pps"))) {
-        return; // it is one
-    }
-    qunsetenv("ZEL_PPS_ROOT");
-    const auto error = QStringLiteral("this machine has no /pps; --create makes it, with %1");
-    expectRefusal("device|set|hour-format=24|region=de_DE",
-                  error.arg(QLatin1String("/pps/system/settings, /pps/system/locale")));
-    QCOMPARE(run("device|unset|region").status, 0);
-    QVERIFY(!QFileInfo::exists(QStringLiteral("/pps")));
-}
-
-void ToolTest::nothingIsWrittenBeforeAllIsChecked()
-{
-    const SettingsRoot root;
-    QVERIFY(root.setClock("12"));
-    QCOMPARE(run("device|set|hour-format=24|region=xx").status, 1);
-    QVERIFY(root.write("/pps/system/locale", "garbage\n"));
-    QCOMPARE(run("device|set|hour-format=24|region=de_DE").status, 1);
-    QCOMPARE(run("device|get|hour-format").output, QStringLiteral("12\n"));
-}
-
-void ToolTest::tornObject()
-{
-    const SettingsRoot root;
-    QVERIFY(root.write(settings, "@settings\nringer::loud\nhourFormat:n:twelve\n"));
-    const QString reason = root.file(settings) + QStringLiteral(": line 3: not a number");
-    for (const char* const line : {"device", "format|hm", "formats|--locale|de", "relative|2012-05-16", "watch|hm"}) {
-        expectRefusal(line, reason);
-    }
-    QCOMPARE(run("percent|1").status, 0); // asks for the region only
-    expectRefusal("device|set|hour-format=24", reason + QStringLiteral("; --replace writes it anew"));
-    QCOMPARE(run("device|set|--replace|hour-format=24").status, 0);
-    QCOMPARE(textOf(root.file(settings)), QByteArray("@settings\nhourFormat:n:24\n"));
-}
-
-void ToolTest::rootThatCannotBeRead()
-{
-    const SettingsRoot root;
-    QVERIFY(root.write("/file", "no directory"));
-    const QString file = root.file("/file");
-    qputenv("ZEL_PPS_ROOT", QFile::encodeName(file));
-    for (const char* const line : {"format|hm", "device|get|hour-format", "device|set|--replace|hour-format=24"}) {
-        expectRefusal(line, file + settings + QStringLiteral(": Not a directory"));
-    }
-    QCOMPARE(run("doctor").status, 1);
-    QCOMPARE(run("percent|--locale|en|1").output, QStringLiteral("100%\n")); // needs no settings
-}
-
-void ToolTest::doctorFindsWhatIsWrong()
-{
-    const SettingsRoot root;
-    const Result bare = run("doctor");
-    QCOMPARE(bare.status, 0);
-    const QString library = QFileInfo(QStringLiteral(ZEL_TOOL)).path() + QLatin1String("/../lib/libzelutilityi18n.so");
-    QVERIFY2(bare.output.startsWith(QStringLiteral("ok    library          " ZEL_VERSION ", %1, built by ")
-                                        .arg(QFileInfo(library).canonicalFilePath())),
-             qPrintable(bare.output));
-    QVERIFY(bare.output.contains(
-        QStringLiteral("\nok    Qt               %1, built with " QT_VERSION_STR "\n").arg(QLatin1String(qVersion()))));
-    QVERIFY(bare.output.contains(QLatin1String("ok    relative dates   phrases in place: 5 minutes ago\n")));
-    QVERIFY(bare.output.contains(root.file(settings) + QLatin1String(": missing\n")));
-    QVERIFY(bare.output.contains(QLatin1String("note  region           C, from LC_ALL")));
-
-    QVERIFY(root.setClock("25"));
-    QVERIFY(root.setTimeZone("Asia/Tokyo"));
-    QVERIFY(root.write("/pps/system/locale", "@locale\nregion::de_DE"));
-    const Result wrong = run("doctor");
-    QCOMPARE(wrong.status, 1);
-    QVERIFY(wrong.output.contains(
-        QStringLiteral("hour-format      25, from %1: hour-format is 12 or 24, not '25'").arg(root.file(settings))));
-    QVERIFY(wrong.output.contains(QLatin1String("/pps/system/locale: line 2: no newline at the end")));
-    QVERIFY(wrong.output.contains(QLatin1String("ok     time-zone        Asia/Tokyo, from ") + root.path()));
-
-    qputenv("ICU_DATA", "/nowhere");
-    const Result noPhrases = run("doctor|--device|region=de_DE");
-    qunsetenv("ICU_DATA");
-    QCOMPARE(noPhrases.status, 1);
-    QVERIFY(noPhrases.output.contains(QLatin1String("wrong  relative dates   no phrases in ICU's data")));
-    QVERIFY(noPhrases.output.contains(QLatin1String("/nowhere, from ICU_DATA")));
-}
-
-void ToolTest::watchFollowsTheDevice()
-{
-    const SettingsRoot root;
-    QVERIFY(root.setClock("12") && root.setTimeZone("Europe/London") && root.setRegion("en_GB"));
-    Running german("watch|hmz|2012-05-16T14:30Z|--locale|de_DE");
-    QCOMPARE(german.line(), QString::fromUtf8("3:30\u202fPM GMT+1"));
-    Running watch("watch|hmz|2012-05-16T14:30Z");
-    QCOMPARE(watch.line(), QString::fromUtf8("3:30\u202fpm BST"));
-    constexpr int second = 1000;
-    QCOMPARE(run("device|set|hour-format=24").status, 0);
-    QCOMPARE(watch.line(second), QStringLiteral("15:30 BST"));
-    QCOMPARE(german.line(second), QStringLiteral("15:30 GMT+1")); // the other settings are still the device's
-    german.signal(SIGTERM);
-    QCOMPARE(german.finish().status, 0);
-    QCOMPARE(run("device|set|time-zone=Europe/Berlin").status, 0);
-    QCOMPARE(watch.line(second), QStringLiteral("16:30 CEST"));
-    QCOMPARE(run("device|set|region=de_DE").status, 0);
-    QCOMPARE(watch.line(second), QStringLiteral("16:30 MESZ"));
-
-    // Another attribute is not the clock, and what cannot be decoded changes nothing.
-    QVERIFY(root.write(settings, "@settings\nhourFormat:n:24\nvolume:n:1\n"));
-    QVERIFY(root.rewrite(settings, "@settings\nhourFor"));
-    QCOMPARE(watch.line(second), QString());
-    QVERIFY(root.setClock("12"));
-    QCOMPARE(watch.line(second), QString::fromUtf8("4:30\u202fPM MESZ"));
-
-    QVERIFY(root.remove(settings));
-    QVERIFY(root.setClock("24"));
-    QString line = watch.line(second);
-    if (line.startsWith(QLatin1String("4:30"))) { // a slow machine shows the object that is not there, too
-        line = watch.line(second);
-    }
-    QCOMPARE(line, QStringLiteral("16:30 MESZ"));
-
-    watch.signal(SIGTERM);
-    const Result result = watch.finish();
-    QCOMPARE(result.errors, QStringLiteral("zel-i18n: void zel::utility::i18n::PpsManager::onPpsUpdate() failed to "
-                                           "decode PPS payload from /pps/system/settings\n"));
-    QCOMPARE(result.status, 0);
-    QCOMPARE(result.output, QString());
-}
-
-void ToolTest::watchEndsOnSignal()
-{
-    for (const int number : {SIGINT, SIGTERM}) {
-        Running watch("watch|yMd|--device|region=en_US");
-        QVERIFY(!watch.line().isEmpty());
-        QCOMPARE(devices().size(), 1);
-        watch.signal(number);
-        const Result result = watch.finish();
-        QCOMPARE(result.errors, QString());
-        QCOMPARE(result.status, 0);
-        QCOMPARE(devices(), QStringList());
-    }
-}
-
-void ToolTest::throwAwayDeviceLeavesNothing()
-{
-    const SettingsRoot root;
-    // The device of the user is not touched, and not asked.
-    QVERIFY(root.setClock("12"));
-    QCOMPARE(run("device|set|region=fr_FR|--device|hour-format=24").status, 0);
-    QCOMPARE(run("device").output, QStringLiteral("hour-format  12\ntime-zone    not set\nregion       not set\n"));
-
-    Running format("format|y|-|--device|region=en_US");
-    format.feed("2012-05-16\n");
-    QCOMPARE(format.line(), QStringLiteral("2012"));
-    format.signal(SIGINT);
-    QVERIFY(format.process().waitForFinished(Child::patience));
-    QCOMPARE(format.process().exitStatus(), QProcess::CrashExit);
-    QCOMPARE(format.process().exitCode(), SIGINT);
-    QCOMPARE(devices(), QStringList());
-}
-
-void ToolTest::galleryShowsBothClocks()
-{
-    const SettingsRoot root;
-    QVERIFY(root.setClock("12"));
-    const QString file = m_temporary.filePath("gallery");
-    const QByteArray line = "gallery|--locale|de_DE|--locale|th_TH|--locale|sq_AL|--locale|ar_EG|--html|" +
-                            file.toUtf8() + ".html|--tsv|" + file.toUtf8() + ".tsv";
-    const Result result = run(line.constData());
-    QCOMPARE(result.errors, QString());
-    QCOMPARE(result.output, QStringLiteral("4 locales, 2 of them with a mark\n"));
-    QCOMPARE(devices(), QStringList());
-
-    const QByteArray table = textOf(file + QStringLiteral(".tsv"));
-    for (const char* const row :
-         {"de_DE\t12-hour clock\ttime\tshort\th:mm AP\t10:30 PM\t\n",
-          "de_DE\t24-hour clock\ttime\tshort\thh:mm\t22:30\t\n",
-          "de_DE\t24-hour clock\tcustom\tyMMMMEEEEdhm\tyMMMMEEEEdhm\tMittwoch, 16. Mai 2012 um 22:30\t\n",
-          "de_DE\t24-hour clock\trelative, time-critical\t1 day before\t\tgestern, 10:30\t\n"}) {
-        QVERIFY2(table.contains(row), row);
-    }
-    QVERIFY(table.contains("\tQt's own pattern: ICU's has a field that Qt lacks\n"));
-    QVERIFY(table.contains("has encountered an unsupported time format!\n"));
-    QCOMPARE(table.count('\n'), 1 + 4 * 2 * (12 + 1 + 12 + 9));
-
-    const QString piped = run("gallery|--locale|de_DE|--tsv|/dev/stdout").output;
-    QVERIFY2(piped.startsWith(QLatin1String("locale\tclock\t")), qPrintable(piped));
-
-    const QByteArray page = textOf(file + QStringLiteral(".html"));
-    QVERIFY(page.contains("<section id=\"ar_EG\" lang=\"ar-EG\" dir=rtl>"));
-    QVERIFY(page.contains("<section id=\"de_DE\" lang=\"de-DE\" dir=ltr>"));
-    QVERIFY(page.contains("<tr class=mark>"));
-    QVERIFY(page.contains("<bdi>1 year before</bdi>")); // otherwise "year before 1" from right to left
-    QVERIFY(page.contains("Qt's own pattern: ICU's has"));
-}
 
 QTEST_GUILESS_MAIN(ToolTest)
 #include "tst_tool.moc"
