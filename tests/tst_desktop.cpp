@@ -147,18 +147,13 @@ private Q_SLOTS:
 
     void asksThePortal_data()
     {
-        addColumns<QString, QString, QByteArray, int, QStringList>();
-        const auto row = [](const char* name, const char* kind, const char* value, const char* region, int clock,
-                            const QStringList& messages = {}) {
-            QTest::newRow(name) << QString::fromLatin1(kind) << QString::fromLatin1(value) << QByteArray(region)
-                                << clock << messages;
-        };
+        const NamedRow<QString, QString, QByteArray, int, QStringList> row;
         const QStringList unknown = fallback(QStringLiteral("the settings portal has an unknown clock format"));
         const QStringList silent = fallback(QStringLiteral("the settings portal does not answer"));
-        row("12 hours", "new", "12h", "de_DE", 12);
-        row("24 hours", "new", "24h", "en_US", 24);
-        row("12 hours, asked the old way", "old", "12h", "de_DE", 12);
-        row("24 hours, asked the old way", "old", "24h", "en_US", 24);
+        row("12 hours", "new", "12h", "de_DE", 12, {});
+        row("24 hours", "new", "24h", "en_US", 24, {});
+        row("12 hours, asked the old way", "old", "12h", "de_DE", 12, {});
+        row("24 hours, asked the old way", "old", "24h", "en_US", 24, {});
         row("another text", "new", "13h", "de_DE", 24, unknown);
         row("a number", "new", "a number", "en_US", 12, unknown);
         row("silence", "new", "silence", "en_US", 12, silent);

@@ -419,10 +419,7 @@ private Q_SLOTS:
 
     void followsThroughFault_data()
     {
-        addColumns<Fault, QString>();
-        const auto row = [](const char* name, const char* reason, Fault fault) {
-            QTest::newRow(name) << fault << QString::fromLatin1(reason);
-        };
+        const NamedRow<QString, Fault> row;
         row("root vanishes", "No such file or directory",
             [](const SettingsRoot& root) { QDir(root.path()).removeRecursively(); });
         row("root becomes a file", "Not a directory", [](const SettingsRoot& root) { replaceByFile(root.path()); });
@@ -439,7 +436,7 @@ private Q_SLOTS:
 
     void followsThroughFault()
     {
-        const auto [fault, reason] = cells<Fault, QString>();
+        const auto [reason, fault] = cells<QString, Fault>();
         const SettingsRoot root;
         QVERIFY(root.setClock("12"));
         const PpsManager manager("/pps/system/settings", "@settings", "hourFormat", nullptr);

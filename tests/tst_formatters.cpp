@@ -218,8 +218,6 @@ private Q_SLOTS:
     {
         const Row<QString, QStringList> row;
         // 5 minutes ago, in 3 hours, yesterday, tomorrow, two days ago, a week ago, last year
-        row("en",
-            {"5 minutes ago", "in 3 hours", "yesterday 08:30", "tomorrow 19:00", "Mon 12:00", "May 9", "May 2011"});
         row("de",
             {"vor 5 Minuten", "in 3 Stunden", "gestern, 08:30", "morgen, 19:00", "Mo., 12:00", "9. Mai", "Mai 2011"});
         row("fr",
@@ -228,10 +226,7 @@ private Q_SLOTS:
         row("ar", {"قبل ٥ دقائق", "خلال ٣ ساعات", "أمس ٠٨:٣٠", "غدًا ١٩:٠٠", "الاثنين ١٢:٠٠", "٩ مايو", "مايو ٢٠١١"});
         row("ko", {"5분 전", "3시간 후", "어제 08:30", "내일 19:00", "(월) 12:00", "5월 9일", "2011년 5월"});
         row("zh_TW", {"5 分鐘前", "3 小時後", "昨天 08:30", "明天 19:00", "週一 12:00", "5月9日", "2011年5月"});
-        row("pl",
-            {"5 minut temu", "za 3 godziny", "wczoraj, 08:30", "jutro, 19:00", "pon., 12:00", "9 maj", "maj 2011"});
         row("he", {"לפני 5 דקות", "בעוד 3 שעות", "אתמול 8:30", "מחר 19:00", "יום ב׳ 12:00", "9 במאי", "מאי 2011"});
-        row("hi", {"5 मिनट पहले", "3 घंटे में", "कल 08:30", "कल 19:00", "सोम 12:00", "9 मई", "मई 2011"});
     }
 
     void ladderSpeaksTheLocale()

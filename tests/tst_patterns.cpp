@@ -92,33 +92,27 @@ private Q_SLOTS:
 
     void timesFollowTheClock_data()
     {
-        addColumns<QString, int, bool, QString, QString, bool>();
-        const auto row = [](const char* locale, DateFormat::Type type, bool withDate, const char* twelve,
-                            const char* twentyFour, bool unsupported = false) {
-            QTest::addRow("%s %d%s", locale, type, withDate ? " with date" : "")
-                << QString::fromLatin1(locale) << static_cast<int>(type) << withDate << QString::fromUtf8(twelve)
-                << QString::fromUtf8(twentyFour) << unsupported;
-        };
-        row("en_US", DateFormat::Medium, false, "h:mm:ss AP", "hh:mm:ss");
-        row("en_US", DateFormat::Full, false, "h:mm:ss AP t", "hh:mm:ss t");
-        row("en_US", DateFormat::Short, true, "M/d/yy, h:mm AP", "M/d/yy, hh:mm");
-        row("en_GB", DateFormat::Short, false, "h:mm ap", "hh:mm");
-        row("de_DE", DateFormat::Medium, false, "h:mm:ss AP", "hh:mm:ss");
-        row("de_DE", DateFormat::Full, false, "h:mm:ss AP t", "hh:mm:ss t");
-        row("de_DE", DateFormat::Short, false, "h:mm AP", "hh:mm");
-        row("ja_JP", DateFormat::Medium, false, "APh:mm:ss", "h:mm:ss");
-        row("zh_CN", DateFormat::Medium, false, "APh:mm:ss", "hh:mm:ss");
-        row("zh_CN", DateFormat::Full, false, "t APh:mm:ss", "t hh:mm:ss");
-        row("tr_TR", DateFormat::Short, true, "d.MM.yyyy AP h:mm", "d.MM.yyyy hh:mm");
-        row("es_ES", DateFormat::Full, false, "h:mm:ss ap (t)", "h:mm:ss (t)");
-        row("zh_TW", DateFormat::Medium, false, "APh:mm:ss", "hh:mm:ss");
-        row("ko_KR", DateFormat::Medium, false, "AP h:mm:ss", "hh:mm:ss");
+        const Row<QString, int, bool, QString, QString, bool> row;
+        row("en_US", DateFormat::Medium, false, "h:mm:ss AP", "hh:mm:ss", false);
+        row("en_US", DateFormat::Full, false, "h:mm:ss AP t", "hh:mm:ss t", false);
+        row("en_US", DateFormat::Short, true, "M/d/yy, h:mm AP", "M/d/yy, hh:mm", false);
+        row("en_GB", DateFormat::Short, false, "h:mm ap", "hh:mm", false);
+        row("de_DE", DateFormat::Medium, false, "h:mm:ss AP", "hh:mm:ss", false);
+        row("de_DE", DateFormat::Full, false, "h:mm:ss AP t", "hh:mm:ss t", false);
+        row("de_DE", DateFormat::Short, false, "h:mm AP", "hh:mm", false);
+        row("ja_JP", DateFormat::Medium, false, "APh:mm:ss", "h:mm:ss", false);
+        row("zh_CN", DateFormat::Medium, false, "APh:mm:ss", "hh:mm:ss", false);
+        row("zh_CN", DateFormat::Full, false, "t APh:mm:ss", "t hh:mm:ss", false);
+        row("tr_TR", DateFormat::Short, true, "d.MM.yyyy AP h:mm", "d.MM.yyyy hh:mm", false);
+        row("es_ES", DateFormat::Full, false, "h:mm:ss ap (t)", "h:mm:ss (t)", false);
+        row("zh_TW", DateFormat::Medium, false, "APh:mm:ss", "hh:mm:ss", false);
+        row("ko_KR", DateFormat::Medium, false, "AP h:mm:ss", "hh:mm:ss", false);
         row("sq_AL", DateFormat::Medium, false, "h:mm:ss ap", "hh:mm:ss", true);
         // With an era in its date the text is Qt's own, which knows no clock.
         const QByteArray thai = QLocale("th_TH").dateTimeFormat(QLocale::LongFormat).toUtf8();
-        row("th_TH", DateFormat::Long, true, thai.constData(), thai.constData());
-        row("fr_CA", DateFormat::Medium, false, "h 'h' mm 'min' ss 's' ap", "hh 'h' mm 'min' ss 's'");
-        row("fr_CA", DateFormat::Full, false, "h 'h' mm 'min' ss 's' ap t", "hh 'h' mm 'min' ss 's' t");
+        row("th_TH", DateFormat::Long, true, thai.constData(), thai.constData(), false);
+        row("fr_CA", DateFormat::Medium, false, "h 'h' mm 'min' ss 's' ap", "hh 'h' mm 'min' ss 's'", false);
+        row("fr_CA", DateFormat::Full, false, "h 'h' mm 'min' ss 's' ap t", "hh 'h' mm 'min' ss 's' t", false);
     }
 
     void timesFollowTheClock()

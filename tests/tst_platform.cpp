@@ -222,38 +222,28 @@ private Q_SLOTS:
 
     void opens_data()
     {
-        addColumns<QString, int, Action, QString, QString>();
-        const Action nothing = [](const SettingsRoot&) {};
-        const auto row = [](const char* name, Action prepare, const char* openError, const char* readError) {
-            QTest::newRow(name) << path << int(Subscribe) << prepare << QString::fromLatin1(openError)
-                                << QString::fromLatin1(readError);
+        const NamedRow<QString, int, QString, QString, Action> all;
+        const auto row = [&](const char* name, const char* openError, const char* readError, Action prepare) {
+            all(name, path, Subscribe, openError, readError, prepare);
         };
-        row(
-            "there", [](const SettingsRoot& root) { root.write(path, object("de_DE")); }, "", "");
-        row("no directories yet", nothing, "", "No such file or directory");
-        row(
-            "too large",
-            [](const SettingsRoot& root) { root.write(path, QByteArray(PpsObject::maximumSize + 1, 'x')); }, "",
-            "larger than 1048576 bytes");
-        row(
-            "directory", [](const SettingsRoot& root) { QDir().mkpath(root.file(path)); }, "Is a directory", "");
-        row(
-            "below a file", [](const SettingsRoot& root) { root.write("/pps", "x"); }, "Not a directory", "");
-        row(
-            "device",
-            [](const SettingsRoot& root) {
-                QDir().mkpath(QFileInfo(root.file(path)).path());
-                QFile::link(QStringLiteral("/dev/null"), root.file(path));
-            },
-            "Not a regular file", "");
-        QTest::newRow("empty path") << QString() << int(Subscribe) << nothing << QStringLiteral("not an absolute path")
-                                    << QString();
-        QTest::newRow("strange mode") << path << 6 << nothing << QStringLiteral("unknown open mode") << QString();
+        const Action nothing = [](const SettingsRoot&) {};
+        row("there", "", "", [](const SettingsRoot& root) { root.write(path, object("de_DE")); });
+        row("no directories yet", "", "No such file or directory", nothing);
+        row("too large", "", "larger than 1048576 bytes",
+            [](const SettingsRoot& root) { root.write(path, QByteArray(PpsObject::maximumSize + 1, 'x')); });
+        row("directory", "Is a directory", "", [](const SettingsRoot& root) { QDir().mkpath(root.file(path)); });
+        row("below a file", "Not a directory", "", [](const SettingsRoot& root) { root.write("/pps", "x"); });
+        row("device", "Not a regular file", "", [](const SettingsRoot& root) {
+            QDir().mkpath(QFileInfo(root.file(path)).path());
+            QFile::link(QStringLiteral("/dev/null"), root.file(path));
+        });
+        all("empty path", "", Subscribe, "not an absolute path", "", nothing);
+        all("strange mode", path, 6, "unknown open mode", "", nothing);
     }
 
     void opens()
     {
-        const auto [opened, mode, prepare, openError, readError] = cells<QString, int, Action, QString, QString>();
+        const auto [opened, mode, openError, readError, prepare] = cells<QString, int, QString, QString, Action>();
         const SettingsRoot root;
         prepare(root);
         PpsObject tested(opened);
@@ -272,26 +262,21 @@ private Q_SLOTS:
 
     void notifies_data()
     {
-        addColumns<Action, Action, int>();
+        const NamedRow<Action, int, Action> row;
         const Action nothing = [](const SettingsRoot&) {};
         const Action create = [](const SettingsRoot& root) { root.write(path, object("de_DE")); };
-        const auto row = [](const char* name, Action prepare, Action change, int notifications = 1) {
-            QTest::newRow(name) << prepare << change << notifications;
-        };
-        row("directories that do not exist yet", nothing, create);
-        row("replaced by rename", create, [](const SettingsRoot& root) { root.write(path, object("fr_FR")); });
-        row("rewritten in place", create, [](const SettingsRoot& root) { root.rewrite(path, object("fr_FR")); });
-        row(
-            "rewritten with the same", create, [](const SettingsRoot& root) { root.rewrite(path, object("de_DE")); },
-            0);
-        row(
-            "neighbour changed", create, [](const SettingsRoot& root) { root.write("/pps/system/settings", "x"); }, 0);
-        row("removed", create, [](const SettingsRoot& root) { root.remove(path); });
-        row("removed and created", create, [](const SettingsRoot& root) {
+        row("directories that do not exist yet", nothing, 1, create);
+        row("replaced by rename", create, 1, [](const SettingsRoot& root) { root.write(path, object("fr_FR")); });
+        row("rewritten in place", create, 1, [](const SettingsRoot& root) { root.rewrite(path, object("fr_FR")); });
+        row("rewritten with the same", create, 0,
+            [](const SettingsRoot& root) { root.rewrite(path, object("de_DE")); });
+        row("neighbour changed", create, 0, [](const SettingsRoot& root) { root.write("/pps/system/settings", "x"); });
+        row("removed", create, 1, [](const SettingsRoot& root) { root.remove(path); });
+        row("removed and created", create, 1, [](const SettingsRoot& root) {
             root.remove(path);
             root.write(path, object("fr_FR"));
         });
-        row("directories removed and created", create, [](const SettingsRoot& root) {
+        row("directories removed and created", create, 1, [](const SettingsRoot& root) {
             removeDirectory(root, "/pps");
             root.write(path, object("fr_FR"));
         });
@@ -301,28 +286,28 @@ private Q_SLOTS:
             QDir().mkpath(root.file("/pps"));
             QFile::link(QStringLiteral("../one"), root.file("/pps/system"));
         };
-        row("linked object rewritten", createLinked,
+        row("linked object rewritten", createLinked, 1,
             [](const SettingsRoot& root) { root.rewrite("/one/locale", object("fr_FR")); });
-        row("linked object replaced", createLinked, [](const SettingsRoot& root) {
+        row("linked object replaced", createLinked, 1, [](const SettingsRoot& root) {
             std::rename(QFile::encodeName(root.file("/two/locale")).constData(),
                         QFile::encodeName(root.file("/one/locale")).constData());
         });
-        row("linked directory replaced", createLinked, [](const SettingsRoot& root) {
+        row("linked directory replaced", createLinked, 1, [](const SettingsRoot& root) {
             removeDirectory(root, "/one");
             root.write("/one/locale", object("fr_FR"));
         });
-        row("link in the middle swapped", createLinked, [](const SettingsRoot& root) {
+        row("link in the middle swapped", createLinked, 1, [](const SettingsRoot& root) {
             QFile::link(root.file("/two"), root.file("/pps/other"));
             std::rename(QFile::encodeName(root.file("/pps/other")).constData(),
                         QFile::encodeName(root.file("/pps/system")).constData());
         });
-        row("directory above renamed", create,
+        row("directory above renamed", create, 1,
             [](const SettingsRoot& root) { QDir().rename(root.file("/pps"), root.file("/old")); });
     }
 
     void notifies()
     {
-        const auto [prepare, change, notifications] = cells<Action, Action, int>();
+        const auto [prepare, notifications, change] = cells<Action, int, Action>();
         const SettingsRoot root;
         prepare(root);
         PpsObject watched(path);

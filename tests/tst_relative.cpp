@@ -22,11 +22,6 @@ QDateTime at(const char* iso)
     return QDateTime::fromString(QString::fromLatin1(iso), Qt::ISODate);
 }
 
-QString signature(const char* function)
-{
-    return QStringLiteral("critical: static %1 ").arg(QString::fromLatin1(function));
-}
-
 /** ICU's default locale while it lives. */
 class DefaultLocale
 {
@@ -51,7 +46,6 @@ private Q_SLOTS:
 
     void invalidElementsAreReported()
     {
-        const QString end = QStringLiteral("called with invalid element type: 64 ");
         const QDateTime now = QDateTime::currentDateTime();
         MessageLog log;
         QVERIFY(RelativeDate::elementName(noElement).isNull());
@@ -60,29 +54,17 @@ private Q_SLOTS:
         QCOMPARE(RelativeDate::apply("EEEE", noElement, "x"), QStringLiteral("EEEE"));
         QCOMPARE(RelativeDate::offset(now, now.addDays(1), noElement), 0);
         QCOMPARE(RelativeDate::difference(now, now.addDays(1), noElement, false), 0);
-        const QString characters = signature("QString zel::utility::i18n::RelativeDate::characters("
-                                             "zel::utility::i18n::RelativeDateElement::Type)") +
-                                   QStringLiteral("called with invalid element type:  64 ");
-        const QStringList expected{
-            signature("QString "
-                      "zel::utility::i18n::RelativeDate::elementName(zel::utility::i18n::RelativeDateElement::Type)") +
-                end,
-            signature("bool zel::utility::i18n::RelativeDate::offsetIsAbsolute("
-                      "zel::utility::i18n::RelativeDateElement::Type)") +
-                end,
-            characters,
-            characters,
-            signature("QString zel::utility::i18n::RelativeDate::apply(const QString&, "
-                      "zel::utility::i18n::RelativeDateElement::Type, const QString&)") +
-                end,
-            signature("int zel::utility::i18n::RelativeDate::offset(const QDateTime&, const QDateTime&, "
-                      "zel::utility::i18n::RelativeDateElement::Type)") +
-                end,
-            signature("int zel::utility::i18n::RelativeDate::difference(const QDateTime&, const QDateTime&, "
-                      "zel::utility::i18n::RelativeDateElement::Type, bool)") +
-                end,
+        const auto message = [](const char* function, const char* parameters, const QString& value = "64") {
+            return QStringLiteral("critical: static %1(%2) called with invalid element type: %3 ")
+                .arg(QString(function).insert(QString(function).indexOf(' ') + 1, "zel::utility::i18n::RelativeDate::"),
+                     QString(parameters).replace('E', "zel::utility::i18n::RelativeDateElement::Type"), value);
         };
-        QCOMPARE(log.take(), expected);
+        const QString characters = message("QString characters", "E", " 64");
+        QCOMPARE(log.take(),
+                 QStringList({message("QString elementName", "E"), message("bool offsetIsAbsolute", "E"), characters,
+                              characters, message("QString apply", "const QString&, E, const QString&"),
+                              message("int offset", "const QDateTime&, const QDateTime&, E"),
+                              message("int difference", "const QDateTime&, const QDateTime&, E, bool")}));
     }
 
     void phrasesReplaceLetters_data()

@@ -42,19 +42,8 @@ private:
 
     static QString name(QtMsgType type)
     {
-        switch (type) {
-        case QtDebugMsg:
-            return QStringLiteral("debug");
-        case QtInfoMsg:
-            return QStringLiteral("info");
-        case QtWarningMsg:
-            return QStringLiteral("warning");
-        case QtCriticalMsg:
-            return QStringLiteral("critical");
-        case QtFatalMsg:
-            return QStringLiteral("fatal");
-        }
-        return QStringLiteral("unknown");
+        static const char* const names[] = {"debug", "warning", "critical", "fatal", "info"};
+        return QString::fromLatin1(names[type]);
     }
 
     inline static MessageLog* s_current = nullptr;
