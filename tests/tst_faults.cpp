@@ -639,14 +639,10 @@ private Q_SLOTS:
 int main(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
-    if (argc > 1 && QByteArray(argv[1]) == "--show-dates") {
-        return showDates();
-    }
-    if (argc > 1 && QByteArray(argv[1]) == "--follow-mount") {
-        return followMount();
-    }
-    if (argc > 1 && QByteArray(argv[1]) == "--load") {
-        return 0;
+    const QMap<QByteArray, int (*)()> modes{
+        {"--show-dates", showDates}, {"--follow-mount", followMount}, {"--load", [] { return 0; }}};
+    if (auto* const run = modes.value(argv[1])) {
+        return run();
     }
     if (argc > 1 && QByteArray(argv[1]) == "--percent") {
         return toPercentageString(QLocale("de_DE"), 0.5, 0, 0).isEmpty() ? 1 : 0;

@@ -96,6 +96,7 @@ private Q_SLOTS:
         row("th_TH", 24, "yMMMM", "พฤษภาคม 2012");
         row("fa_IR", 24, "yMMMM", "مهٔ ۲۰۱۲");
         row("sr_Latn_RS", 24, "yMMMMd", "16. maj 2012.");
+        row("C", 12, "yMMMd", "May 16, 2012");
         row("en_US", 12, "", "");
         row("en_US", 12, "???", "");
     }
@@ -354,12 +355,16 @@ private Q_SLOTS:
                 "const cannot use malconstructed RelativeDateFormatterPrivate "),
         };
         QCOMPARE(log.take(), expected);
+        QCOMPARE(formatter.formatAll({QDateTime(), QDateTime::currentDateTime()}), (QStringList{QString(), QString()}));
+        QCOMPARE(log.take().size(), 2);
+        QVERIFY(!formatter.validUntil(QDateTime::currentDateTime()).isValid());
         formatter.setType(RelativeDateFormat::NonTimeCritical);
         QCOMPARE(formatter.format(QDateTime::currentDateTime()), QStringLiteral("today"));
         const QPointer<RelativeDateFormatter> shortLived(new RelativeDateFormatter(RelativeDateFormat::TimeCritical));
         connect(shortLived, &RelativeDateFormatter::changed, this, [&shortLived] { delete shortLived; });
         shortLived->setType(RelativeDateFormat::NonTimeCritical);
         QVERIFY(shortLived.isNull());
+        QCOMPARE(formatter.formatAll({}), QStringList());
     }
 
 private:

@@ -169,18 +169,6 @@ private Q_SLOTS:
         }
     }
 
-    void invalidFormatters()
-    {
-        MessageLog log;
-        const RelativeDateFormatter formatter(static_cast<RelativeDateFormat::Type>(3));
-        const QList<QDateTime> list{QDateTime(), QDateTime::currentDateTime()};
-        log.take();
-        QCOMPARE(formatter.formatAll(list), (QStringList{QString(), QString()}));
-        QCOMPARE(log.take().size(), 2);
-        QVERIFY(!formatter.validUntil(list.last()).isValid());
-        QCOMPARE(RelativeDateFormatter(RelativeDateFormat::TimeCritical).formatAll({}), QStringList());
-    }
-
     void textsHoldUntil_data()
     {
         addColumns<RelativeDateFormat::Type, RelativeDateWording::Type>();

@@ -33,11 +33,7 @@ private Q_SLOTS:
         row("d dd ddd", "d dd dd");
         row("E EE EEE EEEE EEEEEE", "ddd ddd ddd dddd dddd");
         row("ccc cccc ccccc", "ddd dddd dddd");
-        row("c", nullptr);
-        row("cc", nullptr);
         row("eee", "ddd");
-        row("e", nullptr);
-        row("eeee", nullptr);
         row("H HH h hh HHH", "h hh h hh hh");
         row("m mm s ss", "m mm s ss");
         row("s.S ss.SS ss.SSS", "s.z ss.zzz ss.zzz");
@@ -48,10 +44,9 @@ private Q_SLOTS:
         row("h 'o''clock' a", "h 'o''clock' AP");
         row("'abc", "'abc'");
         row("y年M月d日[x]_9", "yyyy年M月d日[x]_9");
-        row("G y", nullptr);
-        row("h:mm K", nullptr);
-        for (const char letter : {'Y', 'u', 'Q', 'q', 'w', 'W', 'D', 'F', 'g', 'A', 'k', 'K'}) {
-            QTest::addRow("no Qt form for %c", letter) << QString(QLatin1Char(letter)) << QString();
+        for (const char* const none :
+             {"c", "cc", "e", "eeee", "G y", "h:mm K", "Y", "u", "Q", "q", "w", "W", "D", "F", "g", "A", "k", "K"}) {
+            row(none, nullptr);
         }
     }
 

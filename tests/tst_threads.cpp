@@ -113,77 +113,14 @@ void formatSomething(const CustomDateFormatter& formatter)
     timeFormat(DateFormat::Short);
 }
 
-void endBeforeApplication(int argc, char** argv)
-{
-    const QCoreApplication application(argc, argv);
-    formatSomething(CustomDateFormatter("hmz"));
-}
-
-void endAfterApplication(int argc, char** argv)
-{
-    const QCoreApplication application(argc, argv);
-    outlivingFormatter.emplace(QStringLiteral("hmz"));
-    formatSomething(*outlivingFormatter);
-}
-
-void formatBeforeApplication(int argc, char** argv)
-{
-    formatSomething(outlivingFormatter.emplace(QStringLiteral("hmz")));
-    const QCoreApplication application(argc, argv);
-    QCoreApplication::processEvents();
-}
-
-void endAfterThread(int argc, char** argv)
-{
-    const QCoreApplication application(argc, argv);
-    std::thread([] { formatSomething(CustomDateFormatter("hmz")); }).join();
-    formatSomething(CustomDateFormatter("hmz"));
-}
-
 struct LastWords
 {
     ~LastWords() { formatSomething(CustomDateFormatter("hmz")); }
 };
 
-void formatAfterMain(int /*argc*/, char** /*argv*/)
-{
-    static const LastWords lastWords;
-    formatSomething(CustomDateFormatter("hmz"));
-}
-
 QString clockText()
 {
     return CustomDateFormatter("hm").format(anchor);
-}
-
-// The thread that asked first is gone, and so is its event loop.
-void followAfterThread(int argc, char** argv)
-{
-    const QCoreApplication application(argc, argv);
-    const SettingsRoot root;
-    root.setClock("24");
-    std::thread([] { clockText(); }).join();
-    const CustomDateFormatter formatter(QStringLiteral("hm"));
-    QTest::qWait(100);
-    root.setClock("12");
-    QString withoutLoop;
-    std::thread([&withoutLoop] { withoutLoop = clockText(); }).join();
-    const bool followed = QTest::qWaitFor([&formatter] { return formatter.format(anchor) == clockText(); });
-    if (!followed || withoutLoop == QLatin1String("15:05")) {
-        qWarning("deaf");
-    }
-}
-
-// The object is missing, of which the first to ask is told while another thread asks, too.
-void waitInMessageHandler(int argc, char** argv)
-{
-    const QCoreApplication application(argc, argv);
-    const SettingsRoot root;
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) { std::thread(clockText).join(); });
-    clockText();
-    root.write("/pps/system/settings", "garbage");
-    QTest::qSleep(100);
-    clockText();
 }
 
 struct Program
@@ -192,13 +129,62 @@ struct Program
     void (*run)(int argc, char** argv);
 };
 
-constexpr Program programs[] = {{"last formatter before the application object", endBeforeApplication},
-                                {"last formatter after the application object", endAfterApplication},
-                                {"first formatter before the application object", formatBeforeApplication},
-                                {"first formatter on a thread that ends", endAfterThread},
-                                {"formats when static objects are destroyed", formatAfterMain},
-                                {"follows when the thread that asked first has ended", followAfterThread},
-                                {"message handler waits for a thread that asks", waitInMessageHandler}};
+constexpr Program programs[] = {
+    {"last formatter before the application object",
+     [](int argc, char** argv) {
+         const QCoreApplication application(argc, argv);
+         formatSomething(CustomDateFormatter("hmz"));
+     }},
+    {"last formatter after the application object",
+     [](int argc, char** argv) {
+         const QCoreApplication application(argc, argv);
+         formatSomething(outlivingFormatter.emplace("hmz"));
+     }},
+    {"first formatter before the application object",
+     [](int argc, char** argv) {
+         formatSomething(outlivingFormatter.emplace("hmz"));
+         const QCoreApplication application(argc, argv);
+         QCoreApplication::processEvents();
+     }},
+    {"first formatter on a thread that ends",
+     [](int argc, char** argv) {
+         const QCoreApplication application(argc, argv);
+         std::thread([] { formatSomething(CustomDateFormatter("hmz")); }).join();
+         formatSomething(CustomDateFormatter("hmz"));
+     }},
+    {"formats when static objects are destroyed",
+     [](int /*argc*/, char** /*argv*/) {
+         static const LastWords lastWords;
+         formatSomething(CustomDateFormatter("hmz"));
+     }},
+    // The thread that asked first is gone, and so is its event loop.
+    {"follows when the thread that asked first has ended",
+     [](int argc, char** argv) {
+         const QCoreApplication application(argc, argv);
+         const SettingsRoot root;
+         root.setClock("24");
+         std::thread([] { clockText(); }).join();
+         const CustomDateFormatter formatter("hm");
+         QTest::qWait(100);
+         root.setClock("12");
+         QString withoutLoop;
+         std::thread([&withoutLoop] { withoutLoop = clockText(); }).join();
+         const bool followed = QTest::qWaitFor([&formatter] { return formatter.format(anchor) == clockText(); });
+         if (!followed || withoutLoop == QLatin1String("15:05")) {
+             qWarning("deaf");
+         }
+     }},
+    // The object is missing, of which the first to ask is told while another thread asks, too.
+    {"message handler waits for a thread that asks", [](int argc, char** argv) {
+         const QCoreApplication application(argc, argv);
+         const SettingsRoot root;
+         qInstallMessageHandler(
+             [](QtMsgType, const QMessageLogContext&, const QString&) { std::thread(clockText).join(); });
+         clockText();
+         root.write("/pps/system/settings", "garbage");
+         QTest::qSleep(100);
+         clockText();
+     }}};
 
 } // namespace
 
