@@ -214,10 +214,7 @@ private Q_SLOTS:
     void watchFollows_data()
     {
         // What happens, and the clock that a program without D-Bus types of its own shows then.
-        QTest::addColumn<QStringList>("steps");
-        const auto row = [](const char* name, const char* steps) {
-            QTest::newRow(name) << QString::fromLatin1(steps).split(QLatin1Char('|'));
-        };
+        const NamedRow<QString> row;
         row("changes", "portal new 24h|watch=24|set 12h=12|set 24h=24|set 12h=12");
         row("the portal starts again", "portal new 12h|watch=12|stop portal=24|portal new 12h=12|set 24h=24");
         row("the bus starts the portal", "portal new 12h|watch=12|portal activated 12h|stop portal=24|wait=12");
@@ -229,11 +226,11 @@ private Q_SLOTS:
 
     void watchFollows()
     {
-        QFETCH(const QStringList, steps);
+        const auto [steps] = cells<QString>();
         Bus bus;
         QVERIFY(bus.isReady());
         std::unique_ptr<Child> watch;
-        for (const QString& step : steps) {
+        for (const QString& step : steps.split('|')) {
             const QString action = step.section(QLatin1Char('='), 0, 0);
             if (action.startsWith(QLatin1String("portal "))) {
                 QVERIFY(bus.startPortal(action.section(QLatin1Char(' '), 1, 1), action.section(QLatin1Char(' '), 2)));

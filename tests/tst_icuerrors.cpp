@@ -177,17 +177,14 @@ private Q_SLOTS:
             QTest::newRow(name) << function << fates << call << result
                                 << (messages == nullptr ? QStringList() : lines(messages));
         };
-        const QString none;
-        const auto text = [](const char* ascii) { return QString::fromLatin1(ascii); };
-
         // Without the keyword the locale serves all the same.
-        row("keyword", IcuFaults::SetKeywordValue, {atOnce}, localeName, text("de_AT"),
+        row("keyword", IcuFaults::SetKeywordValue, {atOnce}, localeName, "de_AT",
             "warning: Error in calling icu::Locale::setKeywordValue( const char *, const char *, UErrorCode & ) : "
             "U_MEMORY_ALLOCATION_ERROR\n"
             "warning: static icu::Locale zel::utility::i18n::Locale::toICU(const QLocale&) could not set gregorian "
             "calendar "
             "on de_AT locale");
-        row("keyword of a format", IcuFaults::SetKeywordValue, {atOnce}, mediumDate, text("dd.MM.yyyy"),
+        row("keyword of a format", IcuFaults::SetKeywordValue, {atOnce}, mediumDate, "dd.MM.yyyy",
             "warning: Error in calling icu::Locale::setKeywordValue( const char *, const char *, UErrorCode & ): "
             "U_MEMORY_ALLOCATION_ERROR\n"
             "warning: zel::utility::i18n::getICULocale could not set gregorian calendar on de_AT locale");
@@ -197,9 +194,9 @@ private Q_SLOTS:
         row("time", IcuFaults::CreateDateTimeInstance, {null}, shortTime, austrian.timeFormat(QLocale::ShortFormat));
         row("date and time", IcuFaults::CreateDateTimeInstance, {null}, mediumDateTime,
             austrian.dateTimeFormat(QLocale::ShortFormat));
-        row("percentage", IcuFaults::CreatePercentInstance, {atOnce}, percentage, none);
-        row("percentage, late", IcuFaults::CreatePercentInstance, {late}, percentage, none);
-        row("percentage, null", IcuFaults::CreatePercentInstance, {null}, percentage, none);
+        row("percentage", IcuFaults::CreatePercentInstance, {atOnce}, percentage, {});
+        row("percentage, late", IcuFaults::CreatePercentInstance, {late}, percentage, {});
+        row("percentage, null", IcuFaults::CreatePercentInstance, {null}, percentage, {});
 
 #define GENERATOR "icu::DateTimePatternGenerator::createInstance( const icu::Locale &, UErrorCode & )"
 #define BEST_PATTERN "icu::DateTimePatternGenerator::getBestPattern( const icu::UnicodeString &, UErrorCode & )"
@@ -211,22 +208,22 @@ private Q_SLOTS:
 #define PATTERN                                                                                                        \
     "\nwarning: static QString zel::utility::i18n::DatePattern::formatFromPattern(const QString&, const QDateTime&, "  \
     "const QLocale&) "
-        row("generator", IcuFaults::CreateGenerator, {atOnce}, bestPattern, none,
+        row("generator", IcuFaults::CreateGenerator, {atOnce}, bestPattern, {},
             "warning: Error in calling " GENERATOR ": U_MEMORY_ALLOCATION_ERROR" SKELETON
             "could not instantiate icu::DateTimePatternGenerator");
-        row("generator, late", IcuFaults::CreateGenerator, {late}, bestPattern, none,
+        row("generator, late", IcuFaults::CreateGenerator, {late}, bestPattern, {},
             "warning: Error in calling " GENERATOR ": U_INTERNAL_PROGRAM_ERROR" SKELETON
             "could not instantiate icu::DateTimePatternGenerator");
-        row("generator, null", IcuFaults::CreateGenerator, {null}, bestPattern, none,
+        row("generator, null", IcuFaults::CreateGenerator, {null}, bestPattern, {},
             "warning: " GENERATOR " returned a NULL pointer without setting an error code!" SKELETON
             "could not instantiate icu::DateTimePatternGenerator");
-        row("best pattern", IcuFaults::GetBestPattern, {late}, bestPattern, none,
+        row("best pattern", IcuFaults::GetBestPattern, {late}, bestPattern, {},
             "warning: Error in calling " BEST_PATTERN ": U_INTERNAL_PROGRAM_ERROR" SKELETON
             "could not parse the skeleton");
-        row("date format", IcuFaults::CreateDateFormat, {late}, formatted, none,
+        row("date format", IcuFaults::CreateDateFormat, {late}, formatted, {},
             "warning: Error in calling " DATE_FORMAT ": U_INTERNAL_PROGRAM_ERROR" PATTERN
             "could not instantiate date formatter");
-        row("formatting", IcuFaults::FormatDate, {late}, formatted, none,
+        row("formatting", IcuFaults::FormatDate, {late}, formatted, {},
             "warning: Error in calling " FORMAT_DATE ": U_INTERNAL_PROGRAM_ERROR" PATTERN "failed to format date/time");
 
 #define INIT                                                                                                           \
@@ -235,15 +232,15 @@ private Q_SLOTS:
 #define GET_FAILED                                                                                                     \
     "warning: Error in calling icu::ResourceBundle::get( const char *, UErrorCode & ) : U_INTERNAL_PROGRAM_ERROR\n"    \
     "warning: " INIT "failed to access resource key "
-        row("bundle", IcuFaults::OpenBundle, {atOnce}, bundle, none,
+        row("bundle", IcuFaults::OpenBundle, {atOnce}, bundle, {},
             "critical: " INIT "icu::ResourceBundle::ResourceBundle( const char *, const icu::Locale &, UErrorCode & )\n"
             "critical: " INIT "failed to open resource bundle for locale de_AT");
-        row("first key", IcuFaults::GetResource, {late}, bundle, none, GET_FAILED "\"units\" in locale de_AT");
-        row("second key", IcuFaults::GetResource, {works, late}, bundle, none,
+        row("first key", IcuFaults::GetResource, {late}, bundle, {}, GET_FAILED "\"units\" in locale de_AT");
+        row("second key", IcuFaults::GetResource, {works, late}, bundle, {},
             GET_FAILED "\"minute-past\" in locale de_AT");
 
         // The next locale of the chain has the phrases, too.
-        row("named days", IcuFaults::GetString, {works, late}, today, text("heute"),
+        row("named days", IcuFaults::GetString, {works, late}, today, "heute",
             "warning: Error in calling icu::ResourceBundle::getStringEx( const char *, UErrorCode & ) : "
             "U_INTERNAL_PROGRAM_ERROR");
 
@@ -258,19 +255,19 @@ private Q_SLOTS:
     "critical: Error in calling " factory " : " error "\ncritical: " PLURAL consequence INVALID
 #define NOTHING(factory, consequence)                                                                                  \
     "warning: " factory " returned a NULL pointer without setting an error code!\nwarning: " PLURAL consequence INVALID
-        row("plural rules", IcuFaults::ForLocale, {late}, fiveMinutesAgo, none,
+        row("plural rules", IcuFaults::ForLocale, {late}, fiveMinutesAgo, {},
             FAILED(RULES, "U_INTERNAL_PROGRAM_ERROR", "failed to instantiate plural rules"));
-        row("plural rules, null", IcuFaults::ForLocale, {null}, fiveMinutesAgo, none,
+        row("plural rules, null", IcuFaults::ForLocale, {null}, fiveMinutesAgo, {},
             NOTHING(RULES, "failed to instantiate plural rules"));
-        row("root numbers", IcuFaults::CreateNumberFormat, {atOnce}, fiveMinutesAgo, none,
+        row("root numbers", IcuFaults::CreateNumberFormat, {atOnce}, fiveMinutesAgo, {},
             FAILED(NUMBERS, "U_MEMORY_ALLOCATION_ERROR", "failed to instantiate root number formatting"));
-        row("root numbers, null", IcuFaults::CreateNumberFormat, {null}, fiveMinutesAgo, none,
+        row("root numbers, null", IcuFaults::CreateNumberFormat, {null}, fiveMinutesAgo, {},
             NOTHING(NUMBERS, "failed to instantiate root number formatting"));
-        row("numbers", IcuFaults::CreateNumberFormat, {works, late}, fiveMinutesAgo, none,
+        row("numbers", IcuFaults::CreateNumberFormat, {works, late}, fiveMinutesAgo, {},
             FAILED(NUMBERS, "U_INTERNAL_PROGRAM_ERROR", "failed to instantiate number formatting"));
-        row("numbers, null", IcuFaults::CreateNumberFormat, {works, null}, fiveMinutesAgo, none,
+        row("numbers, null", IcuFaults::CreateNumberFormat, {works, null}, fiveMinutesAgo, {},
             NOTHING(NUMBERS, "failed to instantiate number formatting"));
-        row("last entry is there", IcuFaults::GetString, {missing, missing}, fiveMinutesAgo, text("vor 5 Minuten"));
+        row("last entry is there", IcuFaults::GetString, {missing, missing}, fiveMinutesAgo, "vor 5 Minuten");
 
 #define OFFSET                                                                                                         \
     "static int zel::utility::i18n::RelativeDate::offset(const QDateTime&, const QDateTime&, "                         \
@@ -280,21 +277,21 @@ private Q_SLOTS:
     "zel::utility::i18n::RelativeDateElement::Type, bool) "
 #define CALENDAR "icu::Calendar::createInstance( icu::TimeZone *, UErrorCode & )"
 #define CALENDAR_ROWS(name, call, signature, ...)                                                                      \
-    row(name ", zone", IcuFaults::GetGMT, {null}, call, text("0"),                                                     \
+    row(name ", zone", IcuFaults::GetGMT, {null}, call, "0",                                                           \
         "warning: icu::TimeZone::getGMT() returned a NULL pointer!\ndebug: " signature                                 \
         "failed to set up a time zone");                                                                               \
-    row(name ", zone's clone", IcuFaults::GetGMT, {atOnce}, call, text("0"),                                           \
+    row(name ", zone's clone", IcuFaults::GetGMT, {atOnce}, call, "0",                                                 \
         "warning: icu::TimeZone::clone() returned a NULL pointer!\ndebug: " signature "failed to set up a time zone"); \
-    row(name ", calendar", IcuFaults::CreateCalendar, {__VA_ARGS__ atOnce}, call, text("0"),                           \
+    row(name ", calendar", IcuFaults::CreateCalendar, {__VA_ARGS__ atOnce}, call, "0",                                 \
         "warning: Error in calling " CALENDAR ": U_MEMORY_ALLOCATION_ERROR\nwarning: " signature                       \
         "failed to instantiate a calendar");                                                                           \
-    row(name ", calendar, late", IcuFaults::CreateCalendar, {__VA_ARGS__ late}, call, text("0"),                       \
+    row(name ", calendar, late", IcuFaults::CreateCalendar, {__VA_ARGS__ late}, call, "0",                             \
         "warning: Error in calling " CALENDAR ": U_INTERNAL_PROGRAM_ERROR\nwarning: " signature                        \
         "failed to instantiate a calendar");                                                                           \
-    row(name ", calendar, null", IcuFaults::CreateCalendar, {__VA_ARGS__ null}, call, text("0"),                       \
+    row(name ", calendar, null", IcuFaults::CreateCalendar, {__VA_ARGS__ null}, call, "0",                             \
         "warning: " CALENDAR " returned a NULL pointer without setting an error code!\ndebug: " signature              \
         "failed to instantiate a calendar");                                                                           \
-    row(name ", time", IcuFaults::SetTime, {__VA_ARGS__ late}, call, text("0"),                                        \
+    row(name ", time", IcuFaults::SetTime, {__VA_ARGS__ late}, call, "0",                                              \
         "warning: Error in calling icu::Calendar::setTime( UDate, UErrorCode & ): "                                    \
         "U_INTERNAL_PROGRAM_ERROR\nwarning: " signature "failed to set up a calendar")
         CALENDAR_ROWS("offset", hourOffset, OFFSET, );
@@ -304,18 +301,18 @@ private Q_SLOTS:
 #define UPDATE "\nwarning: void zel::utility::i18n::CustomDateFormatterPrivate::updateFormatter() const "
 #define CUSTOM_FORMAT "QString zel::utility::i18n::CustomDateFormatter::format(const QDateTime&) const "
 #define CUSTOM_ROWS(name, function, icu, consequence)                                                                  \
-    row(name, IcuFaults::function, {late}, custom, none,                                                               \
+    row(name, IcuFaults::function, {late}, custom, {},                                                                 \
         "warning: Error in calling " icu " : U_INTERNAL_PROGRAM_ERROR" UPDATE consequence "\ncritical: " CUSTOM_FORMAT \
         "called on invalid formatter");                                                                                \
-    row(name ", second build", IcuFaults::function, {works, atOnce}, customAgain, text("5/1/2012"),                    \
+    row(name ", second build", IcuFaults::function, {works, atOnce}, customAgain, "5/1/2012",                          \
         "warning: Error in calling " icu " : U_MEMORY_ALLOCATION_ERROR" UPDATE consequence)
         CUSTOM_ROWS("custom, generator", CreateGenerator, GENERATOR, "could not instantiate  the pattern generator");
-        row("custom, generator, null", IcuFaults::CreateGenerator, {works, null}, customAgain, text("5/1/2012"),
+        row("custom, generator, null", IcuFaults::CreateGenerator, {works, null}, customAgain, "5/1/2012",
             "warning: " GENERATOR " returned a NULL pointer without setting an error code!" UPDATE
             "could not instantiate  the pattern generator");
         CUSTOM_ROWS("custom, best pattern", GetBestPattern, BEST_PATTERN, "could not parse the skeleton");
         CUSTOM_ROWS("custom, date format", CreateDateFormat, DATE_FORMAT, "could not instantiate the date format");
-        row("custom, formatting", IcuFaults::FormatDate, {late}, custom, none,
+        row("custom, formatting", IcuFaults::FormatDate, {late}, custom, {},
             "warning: Error in calling " FORMAT_DATE " : U_INTERNAL_PROGRAM_ERROR\nwarning: " CUSTOM_FORMAT
             "failed to format date/time");
     }
