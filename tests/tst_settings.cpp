@@ -12,6 +12,8 @@
 #include <QtCore/QMetaMethod>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
+#include <sys/resource.h>
+#include <unistd.h>
 #include <vector>
 #include <zel/utility/i18n/ClockFormat.h>
 
@@ -95,6 +97,37 @@ private Q_SLOTS:
                                                 "called without a PpsObject ")});
         }
         QVERIFY(QDir().rmdir(m_root.file(object)));
+    }
+
+    void failureToOpenPasses_data()
+    {
+        const NamedRow<bool> row;
+        row("asked", true);
+        row("announced", false);
+    }
+
+    void failureToOpenPasses()
+    {
+        const auto [asked] = cells<bool>();
+        QVERIFY(m_root.write(object, "@test\na:n:7\n"));
+        Reader reader;
+        QTest::qWait(100);
+        QVERIFY(m_root.write(object, "@test\na:n:8\n"));
+        QTest::qSleep(50);
+        MessageLog log;
+        const int next = ::dup(STDIN_FILENO);
+        ::close(next);
+        rlimit before = {};
+        QCOMPARE(::getrlimit(RLIMIT_NOFILE, &before), 0);
+        const rlimit none = {static_cast<rlim_t>(next), before.rlim_max};
+        QCOMPARE(::setrlimit(RLIMIT_NOFILE, &none), 0);
+        asked ? static_cast<void>(reader.manager.refresh()) : QTest::qWait(100);
+        const QStringList messages = log.take();
+        QCOMPARE(::setrlimit(RLIMIT_NOFILE, &before), 0);
+        QCOMPARE(messages.size(), 1);
+        QVERIFY2(messages.first().contains(QLatin1String("Too many open files")), qPrintable(messages.first()));
+        QVERIFY(asked ? reader.manager.refresh() : reader.changes.wait());
+        QCOMPARE(reader.manager.value(), QVariant(8));
     }
 
     void clockAnswersTwelveOrTwentyFour_data()

@@ -22,6 +22,13 @@ bool isPermanent(int error)
     return error == ENOTDIR || error == ENAMETOOLONG || error == ENXIO;
 }
 
+// Whether only a change of the file, of its permissions or of the way there can mend it. Anything else, such as too
+// many open files, may pass without a trace.
+bool isLasting(int error)
+{
+    return error == ENOENT || error == EACCES || error == ELOOP || isPermanent(error);
+}
+
 // The file itself, not its name, is asked what it is: the name may stand for another file by now.
 void readRegular(QFile& file, PpsContents& contents)
 {
@@ -33,6 +40,7 @@ void readRegular(QFile& file, PpsContents& contents)
     const QByteArray bytes = file.read(PpsObject::maximumSize + 1);
     if (file.error() != QFileDevice::NoError) {
         contents.error = file.errorString();
+        contents.settled = false;
     } else if (bytes.size() > PpsObject::maximumSize) {
         contents.error = QStringLiteral("larger than %1 bytes").arg(PpsObject::maximumSize);
     } else {
@@ -50,9 +58,10 @@ PpsContents PpsContents::read(const QByteArray& file)
     // A FIFO would otherwise wait for a writer.
     const int descriptor = ::open(file.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     if (descriptor < 0) {
-        contents.permanent = isPermanent(errno);
-        contents.error = errorText(errno);
-        contents.settled = !contents.stamp.isFresh();
+        const int error = errno;
+        contents.permanent = isPermanent(error);
+        contents.error = errorText(error);
+        contents.settled = isLasting(error) && !contents.stamp.isFresh();
         return contents;
     }
     QFile opened;

@@ -14,7 +14,7 @@ struct PpsContents
     QString error;          ///< empty if the file could be read
     bool permanent = false; ///< rewriting the object, or its permissions, cannot fix the error
     FileStamp stamp = {};   ///< of the file before it was read
-    bool settled = false;   ///< a later change shows in the stamp
+    bool settled = false;   ///< the next read finds the same unless the stamp is another one
 
     /** Never waits, whatever the file is. */
     static PpsContents read(const QByteArray& file);

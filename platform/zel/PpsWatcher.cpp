@@ -68,7 +68,8 @@ void PpsWatcher::poll()
         return;
     }
     m_settling.invalidate();
-    if (!isWatched && !std::exchange(m_retrying, true)) {
+    const bool mayPass = !m_contents.error.isEmpty() && !m_contents.settled;
+    if ((!isWatched || mayPass) && !std::exchange(m_retrying, true)) {
         QTimer::singleShot(retryInterval, this, SLOT(retry()));
     }
     Q_EMIT settled();

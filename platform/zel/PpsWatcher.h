@@ -15,7 +15,8 @@ namespace zel {
  *
  * A file that is rewritten in place is empty for a moment. So the first sign of a change starts a series of polls; it
  * ends when nothing was done to the file between two polls, or with a whole object after a while if changes never
- * cease. What cannot be watched is polled once a second, and watched again as soon as that is possible.
+ * cease. What cannot be watched, or not be opened for a reason that may pass, is polled once a second until that is
+ * possible.
  *
  * Everything starts with the first turn of the thread's event loop. Until then nothing is watched, so that neither
  * a thread without an event loop nor an application object that is created later is a reason for a warning.

@@ -86,7 +86,7 @@ bool PpsManager::update(bool announced)
     const QVariantMap record = zel::PpsObject::decode(payload, &ok);
     if (!ok) {
         const bool unsettled = !announced && !m_source->isCurrent();
-        if (!unsettled) {
+        if (!unsettled || !error.isEmpty()) {
             report(error, payload, announced);
         }
         return !unsettled;
