@@ -13,6 +13,7 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QEventLoop>
+#include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 #include <thread>
 #include <vector>
@@ -172,6 +173,24 @@ constexpr Program programs[] = {
          const bool followed = QTest::qWaitFor([&formatter] { return formatter.format(anchor) == clockText(); });
          if (!followed || withoutLoop == QLatin1String("15:05")) {
              qWarning("deaf");
+         }
+     }},
+    // What the first event loop was to do is lost, and the second is gone, too.
+    {"follows in the next application object",
+     [](int argc, char** argv) {
+         const SettingsRoot root;
+         root.setClock("24");
+         for (const char* const clock : {"", "12", "24"}) {
+             const QCoreApplication application(argc, argv);
+             const ClockSetting setting(nullptr);
+             QSignalSpy changes(&setting, SIGNAL(changed()));
+             if (*clock != '\0') {
+                 QTest::qWait(100);
+                 root.setClock(clock);
+                 if (!changes.wait()) {
+                     qWarning("deaf");
+                 }
+             }
          }
      }},
     // The object is missing, of which the first to ask is told while another thread asks, too.

@@ -5,6 +5,8 @@
 #include <array>
 #include <cerrno>
 #include <fcntl.h>
+#include <QtCore/QAbstractEventDispatcher>
+#include <QtCore/QPointer>
 #include <sys/inotify.h>
 #include <unistd.h>
 
@@ -67,6 +69,13 @@ void Inotify::attach()
 {
     static thread_local std::unique_ptr<QSocketNotifier> events;
     static thread_local std::unique_ptr<QSocketNotifier> mounts;
+    // The notifiers are deaf once it is gone, as when the process makes another application object.
+    static thread_local QPointer<QAbstractEventDispatcher> dispatcher;
+    if (!dispatcher) {
+        events.reset();
+        mounts.reset();
+        dispatcher = QAbstractEventDispatcher::instance();
+    }
     if (!events) {
         events = listenTo(m_events, QSocketNotifier::Read, SLOT(onEvents()));
     }

@@ -21,6 +21,9 @@ public:
     explicit SettingListener(PpsManager* manager);
     ~SettingListener() override;
 
+    /** Begins to notice changes anew, as in an event loop that has taken the place of another. */
+    void listen();
+
     /** Always through the event loop: a query that notices a change does not call anybody in the middle of it. */
     Q_SIGNAL void changed();
 

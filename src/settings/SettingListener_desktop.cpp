@@ -21,12 +21,18 @@ SettingListener::SettingListener(PpsManager* manager) : m_manager(manager)
     Diagnostic::checkConnection(connect(manager, SIGNAL(changed()), this, SIGNAL(changed()), Qt::QueuedConnection),
                                 "zel::utility::i18n::SettingListener::SettingListener(PpsManager*)",
                                 "PpsManager::changed()");
+    listen();
+}
+
+SettingListener::~SettingListener() = default;
+
+void SettingListener::listen()
+{
+    m_source.reset();
     if (HostSetting* const setting = m_manager->m_source->setting.get()) {
         m_source = std::make_unique<Source>(setting->listen());
     }
 }
-
-SettingListener::~SettingListener() = default;
 
 // The host's setting announces its changes to the manager itself.
 void SettingListener::onChange() {}

@@ -26,14 +26,23 @@ SettingListener::SettingListener(PpsManager* manager)
       m_source(std::make_unique<Source>(QString::fromLatin1(manager->path())))
 {
     constexpr const char* signature = "zel::utility::i18n::SettingListener::SettingListener(PpsManager*)";
-    Diagnostic::checkConnection(connect(manager, SIGNAL(changed()), this, SIGNAL(changed()), Qt::QueuedConnection),
-                                signature, "PpsManager::changed()");
     Diagnostic::checkConnection(connect(m_source.get(), SIGNAL(readyRead()), this, SLOT(onChange())), signature,
                                 "zel::PpsObject::readyRead()");
-    m_source->open(zel::PpsOpenMode::Subscribe);
+    listen();
+    // Connected last: what changed before anybody listened is no news.
+    Diagnostic::checkConnection(connect(manager, SIGNAL(changed()), this, SIGNAL(changed()), Qt::QueuedConnection),
+                                signature, "PpsManager::changed()");
 }
 
 SettingListener::~SettingListener() = default;
+
+void SettingListener::listen()
+{
+    m_source->open(zel::PpsOpenMode::Subscribe);
+    // After the source has read the object, so that no change falls between. Half an object is noticed when it is
+    // whole.
+    m_manager->refresh();
+}
 
 void SettingListener::onChange()
 {

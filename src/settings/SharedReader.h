@@ -4,7 +4,9 @@
 #include "bridge/DeferredMessages.h"
 #include "settings/PpsManager.h"
 #include "settings/SettingListener.h"
+#include <QtCore/QAbstractEventDispatcher>
 #include <QtCore/QMutexLocker>
+#include <QtCore/QPointer>
 #include <QtCore/QRecursiveMutex>
 #include <QtCore/QScopeGuard>
 
@@ -50,8 +52,16 @@ public:
         if (manager == nullptr || destroyed) {
             return nullptr;
         }
-        static thread_local const SettingListener threadListener(manager);
+        // A message handler may ask for the listener, too, but not while it is made.
+        const DeferredMessages messages;
+        static thread_local QPointer<QAbstractEventDispatcher> dispatcher(QAbstractEventDispatcher::instance());
+        static thread_local SettingListener threadListener(manager);
         static thread_local const auto atExit = qScopeGuard([] { destroyed = true; });
+        // What was queued or timed for the event loop of an application object is lost with it.
+        if (dispatcher != QAbstractEventDispatcher::instance()) {
+            dispatcher = QAbstractEventDispatcher::instance();
+            threadListener.listen();
+        }
         return &threadListener;
     }
 
