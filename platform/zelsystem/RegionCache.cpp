@@ -43,6 +43,7 @@ struct Reading
     QByteArray contents;
     QVariant value; // invalid if the region is not set
     QString error;
+    bool isRead = false; // or the error says why not
 };
 
 QString errorOfObject(const QString& reason)
@@ -58,6 +59,7 @@ Reading readRegion()
     object.setReadyReadEnabled(false);
     bool ok = object.open(PpsOpenMode::Subscribe);
     reading.contents = ok ? object.read(&ok) : QByteArray();
+    reading.isRead = ok;
     if (!ok) {
         reading.error = object.exists() ? object.errorString() : QString();
         return reading;
@@ -136,7 +138,10 @@ RegionCache::Region RegionCache::Region::next() const
     region.object = reading.object;
     region.isTorn = !reading.error.isEmpty() && !reading.object->isCurrent();
     if (wasSet && !reading.error.isEmpty()) {
-        region.report(reading.error, reading.contents);
+        // Half an object that is fresh is most likely being rewritten.
+        if (!region.isTorn || !reading.isRead) {
+            region.report(reading.error, reading.contents);
+        }
         return region;
     }
     region.isSet = false;
