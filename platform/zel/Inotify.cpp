@@ -65,6 +65,12 @@ void Inotify::remove(const Watch& watch, PpsWatcher* watcher)
     }
 }
 
+bool Inotify::followsMounts()
+{
+    const std::lock_guard lock(m_mutex);
+    return m_mounts >= 0;
+}
+
 void Inotify::attach()
 {
     static thread_local std::unique_ptr<QSocketNotifier> events;

@@ -37,8 +37,10 @@ public:
 
     static Inotify& instance();
 
+    /** Tells of the changes of an inode, or of an entry of a directory, but of mounts only if followsMounts(). */
     Watch add(const QByteArray& path, const QByteArray& name, PpsWatcher* watcher);
     void remove(const Watch& watch, PpsWatcher* watcher);
+    bool followsMounts();
 
 private Q_SLOTS:
     void onEvents();

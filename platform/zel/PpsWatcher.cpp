@@ -119,7 +119,7 @@ bool PpsWatcher::watchTrail()
             directory = "/";
         }
     }
-    return add(directory, {}) && isComplete;
+    return add(directory, {}) && isComplete && Inotify::instance().followsMounts();
 }
 
 // What is not there will be noticed in the directory above.
