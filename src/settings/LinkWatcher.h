@@ -5,10 +5,14 @@
 #include <QtCore/QFileSystemWatcher>
 #include <QtCore/QObject>
 #include <QtCore/QString>
+#include <QtCore/QTimer>
 
 namespace zel::utility::i18n {
 
-/** Hears, through the event loop of the thread that created it, when a symbolic link may have been replaced. */
+/**
+ * Hears, through the event loop of the thread that created it, when a symbolic link may have been replaced. Where its
+ * directory cannot be watched, there is a message, and the link may have been replaced every second.
+ */
 class LinkWatcher : public QObject
 {
     Q_OBJECT
@@ -27,6 +31,7 @@ private Q_SLOTS:
 private:
     const QString m_link;
     std::unique_ptr<QFileSystemWatcher> m_watcher;
+    QTimer m_poll; // where the directory cannot be watched
 };
 
 } // namespace zel::utility::i18n
