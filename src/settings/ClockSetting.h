@@ -12,6 +12,7 @@ class PpsManager;
 /**
  * The clock setting of the device. An object of this class relays the changes of the one reader that the process keeps.
  * They arrive through the event loop of the thread that created the object; a thread without one can ask at any time.
+ * On a desktop the answer is what was last heard, through the event loop of any thread.
  */
 class ClockSetting : public QObject
 {
