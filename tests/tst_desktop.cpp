@@ -61,7 +61,19 @@ public:
                                                 QStringLiteral("--config-file=") + m_directory.filePath("conf")});
         m_isReady = m_isReady && m_daemon->line().startsWith(QLatin1String("unix:path="));
     }
-    void stop() { m_daemon->stop(); }
+    void stop()
+    {
+        m_daemon->stop();
+        QFile::remove(m_directory.filePath("bus"));
+    }
+    /** Has programs find it through the "runtime" directory, or behind an address of "another" kind. */
+    void hide(const QString& place) const
+    {
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(m_directory.path()));
+        qputenv("DBUS_SESSION_BUS_ADDRESS", place == QLatin1String("runtime")
+                                                ? QByteArray()
+                                                : QFile::encodeName("tcp:host=localhost,port=1;" + address()));
+    }
 
     /** A program of the "new" or "old" kind answers as the portal, or the bus can start one: "starting", "activated".
      */
@@ -222,6 +234,9 @@ private Q_SLOTS:
         row("a late answer", "portal new late 12h|watch=24|wait=12");
         row("the older question", "portal old 12h|watch=12|set 24h=24|stop portal|portal old 12h=12");
         row("the bus starts again", "portal new 12h|watch=12|stop bus=24|start bus|portal new 12h=12|set 24h=24");
+        row("the bus starts late", "hide runtime|stop bus|watch=24|start bus|portal new 12h=12");
+        row("a bus elsewhere starts again",
+            "hide another|portal new 12h|watch=12|stop bus=24|start bus|portal new 12h=12");
     }
 
     void watchFollows()
@@ -240,6 +255,8 @@ private Q_SLOTS:
                                                                                   QStringLiteral("2012-05-16T15:05")});
             } else if (action.startsWith(QLatin1String("set "))) {
                 bus.portal().feed(action.mid(4).toLatin1() + '\n');
+            } else if (action.startsWith(QLatin1String("hide "))) {
+                bus.hide(action.mid(5));
             } else if (action == QLatin1String("stop portal")) {
                 bus.portal().stop();
             } else if (action == QLatin1String("stop bus")) {
@@ -279,6 +296,13 @@ private Q_SLOTS:
         bus.portal().feed("12h\n");
         QVERIFY(thread->wait()); // without an event loop here
         QCOMPARE(text, afternoon);
+        // A thread that cannot reach the bus takes nothing away.
+        qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere/bus");
+        std::thread([] {
+            const CustomDateFormatter formatter(QStringLiteral("hm"));
+            QCoreApplication::sendPostedEvents();
+        }).join();
+        QCOMPARE(ClockSetting::clockFormat(), ClockFormat::Use12hourClock);
         bus.portal().feed("24h\n");
         QTRY_COMPARE(ClockSetting::clockFormat(), ClockFormat::Use24hourClock); // with one, and without a formatter
     }
@@ -369,6 +393,13 @@ private Q_SLOTS:
             QCOMPARE(zone.value(), QVariant(QString::fromLatin1(id))); // also without an event loop
             QTRY_VERIFY(!changes.isEmpty());
         }
+        // Without a directory to watch
+        MessageLog log;
+        HostTimeZone nowhere(QStringLiteral("/nowhere/localtime"));
+        const std::unique_ptr<QObject> poll = nowhere.listen();
+        QSignalSpy looks(&nowhere, SIGNAL(changed()));
+        QTRY_VERIFY(looks.size() >= 2);
+        QCOMPARE(log.take().filter(QStringLiteral("cannot watch the directory")).size(), 1);
         // Through another link, which is replaced
         QVERIFY(replaceLink("zone"));
         for (const QString& id : {QStringLiteral("Asia/Kolkata"), QStringLiteral("Africa/Cairo")}) {

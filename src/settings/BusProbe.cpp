@@ -52,7 +52,9 @@ QString BusProbe::sessionAddress()
 BusProbe::BusProbe(const QString& address, QObject* parent) : QObject(parent)
 {
     const QByteArray name = socketOf(address);
-    if (!name.isEmpty()) {
+    if (address.isEmpty()) {
+        m_reason = QStringLiteral("no session bus");
+    } else if (!name.isEmpty()) {
         open(name);
     }
 }
@@ -82,6 +84,10 @@ void BusProbe::listen()
 
 void BusProbe::startListening()
 {
+    if (m_socket < 0) {
+        Q_EMIT answered(); // nothing is known of the address, so that somebody has to try it
+        return;
+    }
     m_notifier = std::make_unique<QSocketNotifier>(m_socket, QSocketNotifier::Read);
     Diagnostic::checkConnection(connect(m_notifier.get(), SIGNAL(activated(int)), this, SLOT(onReadable())),
                                 "void zel::utility::i18n::BusProbe::startListening()", "QSocketNotifier::activated()");

@@ -31,7 +31,7 @@ public:
      */
     bool waitForAnswer(int milliseconds) const;
 
-    /** From now on answered() is emitted, once, when an answer has come. */
+    /** From now on answered() is emitted, once, when an answer has come, or soon where none can be waited for. */
     void listen();
 
 Q_SIGNALS:

@@ -7,6 +7,7 @@
 #include <QtDBus/QDBusError>
 #include <QtDBus/QDBusPendingReply>
 #include <QtDBus/QDBusReply>
+#include <utility>
 
 namespace zel::utility::i18n {
 
@@ -101,7 +102,7 @@ bool isSilence(const QDBusError& error)
 SettingsPortal::SettingsPortal(const QString& group, const QString& key, int timeoutMs)
     : m_group(group),
       m_key(key),
-      m_address(BusProbe::sessionAddress()),
+      m_tellsSilence(timeoutMs != later),
       m_bus(QString()),
       m_retry(this)
 {
@@ -110,10 +111,6 @@ SettingsPortal::SettingsPortal(const QString& group, const QString& key, int tim
     m_retry.setSingleShot(true);
     Diagnostic::checkConnection(connect(&m_retry, SIGNAL(timeout()), this, SLOT(retry())), constructor,
                                 "QTimer::timeout()");
-    if (m_address.isEmpty()) {
-        m_reason = QStringLiteral("no session bus");
-        return;
-    }
     if (timeoutMs == later) {
         QMetaObject::invokeMethod(this, "retry", Qt::QueuedConnection);
         return;
@@ -137,6 +134,7 @@ SettingsPortal::~SettingsPortal()
 
 bool SettingsPortal::findBus()
 {
+    m_address = BusProbe::sessionAddress(); // a bus may have been started since
     m_probe = std::make_unique<BusProbe>(m_address, this);
     const QString reason = m_probe->reason();
     if (!reason.isEmpty()) {
@@ -313,9 +311,11 @@ void SettingsPortal::refuse(const QDBusError& error)
 void SettingsPortal::lose(const QString& reason)
 {
     m_call.reset();
-    m_value = QVariant();
+    const bool hadValue = std::exchange(m_value, QVariant()).isValid();
     m_reason = reason;
-    Q_EMIT changed(m_value, m_reason);
+    if (hadValue || m_tellsSilence) {
+        Q_EMIT changed(m_value, m_reason);
+    }
 }
 
 void SettingsPortal::retryLater()

@@ -29,7 +29,8 @@ class SettingsPortal : public QObject
 public:
     /**
      * Asks for the setting and waits for the answer, but not longer than the timeout. A later answer is taken when it
-     * comes. With `later`, asks as soon as the event loop of the thread runs.
+     * comes. With `later`, asks as soon as the event loop of the thread runs, and tells of nothing before the first
+     * answer: somebody else may have one, and does not lose it to this one's failure.
      *
      * @param group the namespace of the setting
      */
@@ -72,7 +73,8 @@ private:
 
     const QString m_group;
     const QString m_key;
-    const QString m_address;
+    const bool m_tellsSilence;
+    QString m_address;
     QVariant m_value;
     QString m_reason;
     std::unique_ptr<BusProbe> m_probe;
