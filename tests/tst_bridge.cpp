@@ -76,6 +76,22 @@ private Q_SLOTS:
         QCOMPARE(String::indexOfInFormat(format, letter, from, cs), position);
     }
 
+    void territoryStays_data()
+    {
+        const NamedRow<QString> row;
+        row("ar_EG", "ar_EG@calendar=gregorian");
+        row("sr_Latn_RS", "sr_Latn_RS@calendar=gregorian");
+        row("es_419", "es_419@calendar=gregorian");
+        row("C", "en@calendar=gregorian");
+    }
+
+    void territoryStays()
+    {
+        const auto [icuName] = cells<QString>();
+        const QLocale locale(QString::fromLatin1(QTest::currentDataTag()));
+        QCOMPARE(QString::fromLatin1(Locale::toICU(locale).getName()), icuName);
+    }
+
     void fallbackWalksToTheBogusEnd_data()
     {
         const NamedRow<QByteArray, QByteArray> row;

@@ -96,7 +96,6 @@ private Q_SLOTS:
         row("th_TH", 24, "yMMMM", "พฤษภาคม 2012");
         row("fa_IR", 24, "yMMMM", "مهٔ ۲۰۱۲");
         row("sr_Latn_RS", 24, "yMMMMd", "16. maj 2012.");
-        row("C", 12, "yMMMd", "May 16, 2012");
         row("en_US", 12, "", "");
         row("en_US", 12, "???", "");
     }
