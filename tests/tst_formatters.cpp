@@ -231,8 +231,8 @@ private Q_SLOTS:
     {
         const auto [locale, texts] = cells<QString, QStringList>();
         RelativeDateFormatter formatter(RelativeDateFormat::TimeCritical);
-        formatter.setLocale(QLocale(locale));
         formatter.setClockFormat(ClockFormat::Use24hourClock);
+        formatter.setLocale(QLocale(locale));
         formatter.setAnchorTime(at("2012-05-16T12:00:00"));
         QStringList written;
         for (const char* const moment :
