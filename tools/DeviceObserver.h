@@ -26,6 +26,7 @@ private Q_SLOTS:
 
 private:
     QMap<QString, QString> m_values;
+    int m_attempts = 0; // to read an object that is being written
 };
 
 } // namespace zel::tool

@@ -4,6 +4,7 @@
 #include "Device.h"
 #include "DeviceObserver.h"
 #include "Failure.h"
+#include <QtCore/QTimer>
 #include <zel/PpsObject.h>
 #include <zel/system/LocaleHandler.h>
 
@@ -11,23 +12,28 @@ namespace zel::tool {
 
 namespace {
 
-// The values as they are now; what cannot be read stays as it was, as it does for the library.
-QMap<QString, QString> valuesNow(QMap<QString, QString> values)
+constexpr int writeInterval = 20; // milliseconds that an object may be half written
+constexpr int mostAttempts = 10;
+
+// Takes the values as they are now; what cannot be read stays as it was, as it does for the library. Returns whether
+// all could be read.
+bool update(QMap<QString, QString>& values)
 {
+    bool isComplete = true;
     for (const QString& key : {Assignments::hourFormat(), Assignments::timeZone()}) {
         try {
             values[key] = Device::get(key).value_or(QString());
         } catch (const Failure&) {
-            continue;
+            isComplete = false;
         }
     }
     values[Assignments::region()] = Device::region().bcp47Name();
-    return values;
+    return isComplete;
 }
 
 } // namespace
 
-DeviceObserver::DeviceObserver(QObject* parent) : QObject(parent), m_values(valuesNow({}))
+DeviceObserver::DeviceObserver(QObject* parent) : QObject(parent)
 {
     for (const char* const path : {"/pps/system/settings", "/pps/services/confstr/_CS_TIMEZONE"}) {
         auto* const object = new PpsObject(QString::fromLatin1(path), this);
@@ -39,13 +45,22 @@ DeviceObserver::DeviceObserver(QObject* parent) : QObject(parent), m_values(valu
     auto* const region = new system::LocaleHandler(system::LocaleType::Region);
     region->setParent(this);
     requireConnection(connect(region, SIGNAL(changed()), this, SLOT(look())));
+    // Last, so that what changes meanwhile is announced.
+    look();
 }
 
 DeviceObserver::~DeviceObserver() = default;
 
 void DeviceObserver::look()
 {
-    const QMap<QString, QString> values = valuesNow(m_values);
+    QMap<QString, QString> values = m_values;
+    // What was announced may be torn by now, and is not announced again if it becomes whole with the same contents.
+    if (!update(values) && m_attempts < mostAttempts) {
+        ++m_attempts;
+        QTimer::singleShot(writeInterval, this, SLOT(look()));
+    } else {
+        m_attempts = 0;
+    }
     if (values != m_values) {
         m_values = values;
         Q_EMIT changed();
