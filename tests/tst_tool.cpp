@@ -362,6 +362,10 @@ private Q_SLOTS:
         ::close(lock);
         QCOMPARE(set.finish().status, 0);
         QCOMPARE(textOf(root.file(settings)), QByteArray("@settings\nhourFormat:n:24\nringer::loud\n"));
+
+        QVERIFY(QDir(root.file("/pps")).removeRecursively() && QDir().mkdir(root.file("/pps")));
+        QVERIFY(QFile::link(QStringLiteral("system"), root.file("/pps/system")));
+        expectRefusal("device|set|hour-format=24", root.file("/pps/system: Too many levels of symbolic links"));
     }
 
     void valuesAreNoCommandsToTerminals()
@@ -388,6 +392,7 @@ private Q_SLOTS:
                       error.arg(QLatin1String("/pps/system/settings, /pps/system/locale")));
         QCOMPARE(run("device|unset|region").status, 0);
         QVERIFY(!QFileInfo::exists(QStringLiteral("/pps")));
+        QVERIFY(run("doctor").output.contains(QLatin1String("'device set --create hour-format=24' sets it")));
     }
 
     void nothingIsWrittenBeforeAllIsChecked()

@@ -51,11 +51,17 @@ SettingsObject toBeChanged(const QString& key, bool replace)
     return object;
 }
 
+constexpr const char* settingsDirectory = "/pps";
+
 // A directory that ZEL_PPS_ROOT names is there to be filled; on the machine itself only a device has settings.
+bool isDevice()
+{
+    return *PpsObject::root() != '\0' || QFileInfo::exists(QLatin1String(settingsDirectory));
+}
+
 void requireDevice(const QStringList& keys)
 {
-    const QString directory = QStringLiteral("/pps");
-    if (*PpsObject::root() != '\0' || QFileInfo::exists(directory)) {
+    if (isDevice()) {
         return;
     }
     QStringList objects;
@@ -63,7 +69,7 @@ void requireDevice(const QStringList& keys)
         objects.append(placeOf(key).object);
     }
     throw Failure(QStringLiteral("this machine has no %1; --create makes it, with %2")
-                      .arg(directory, objects.join(QLatin1String(", "))));
+                      .arg(QLatin1String(settingsDirectory), objects.join(QLatin1String(", "))));
 }
 
 QString rootOrSlash()
@@ -129,7 +135,8 @@ QString example(const QString& key)
     static const QMap<QString, QString> values = {{Assignments::hourFormat(), QStringLiteral("24")},
                                                   {Assignments::timeZone(), QStringLiteral("Europe/Berlin")},
                                                   {Assignments::region(), QStringLiteral("de_DE")}};
-    return QStringLiteral("'device set %1=%2' sets it").arg(key, values.value(key));
+    const QString option = isDevice() ? QString() : QStringLiteral("--create ");
+    return QStringLiteral("'device set %1%2=%3' sets it").arg(option, key, values.value(key));
 }
 
 Finding examineSetting(const QString& key)
