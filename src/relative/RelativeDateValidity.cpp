@@ -50,7 +50,7 @@ QDateTime RelativeDateValidity::until(const QDateTime& anchor, const QDateTime& 
         if (!change) {
             return {};
         }
-        const QDateTime changed = inZoneOf(from, from.toMSecsSinceEpoch() + *change - reading);
+        QDateTime changed = inZoneOf(from, from.toMSecsSinceEpoch() + *change - reading);
         const std::optional<QDateTime> transition = nextTransition(from);
         if (!transition || changed < *transition) {
             return changed;
