@@ -339,11 +339,15 @@ private Q_SLOTS:
         connect(&watched.object, &PpsObject::readyRead, this, [&] { heard.append(watched.object.read()); });
         // Another writer leaves the object empty for half of the time, for longer than a watcher waits for it to end.
         constexpr int rewrites = 200;
-        std::thread writer([&watched] {
+        qint64 longestEmpty = 0; // longer than meant on a busy machine
+        std::thread writer([&] {
             for (int i = 1; i <= rewrites; ++i) {
+                QElapsedTimer empty;
+                empty.start();
                 watched.root.rewrite(path, "");
                 QTest::qSleep(3);
                 watched.root.rewrite(path, object(QByteArray::number(i).constData()));
+                longestEmpty = qMax(longestEmpty, empty.elapsed());
                 QTest::qSleep(3);
             }
         });
@@ -352,7 +356,8 @@ private Q_SLOTS:
         const QByteArray last = object(QByteArray::number(rewrites).constData());
         QTRY_VERIFY(!heard.isEmpty() && heard.last() == last);
         QVERIFY2(heard.size() >= 3, qPrintable(QString::number(heard.size())));
-        QVERIFY(!heard.contains(QByteArray()));
+        constexpr int quiet = 20;
+        QVERIFY(longestEmpty >= quiet || !heard.contains(QByteArray()));
     }
 
     void notifiesAfterTornRead()
