@@ -520,7 +520,8 @@ private Q_SLOTS:
         const int result =
             QProcess::execute(QCoreApplication::applicationFilePath(), {QStringLiteral("--follow-mount")});
         if (result == notPossible) {
-            QSKIP("Only root can mount.");
+            QTest::qSkip("Only root can mount.", __FILE__, __LINE__); // QSKIP is no macro of C++17 for clang
+            return;
         }
         QCOMPARE(result, 0);
     }
