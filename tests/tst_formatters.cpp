@@ -7,9 +7,9 @@
 #include "support/Rows.h"
 #include "support/SettingsRoot.h"
 #include "support/ZoneName.h"
+#include <memory>
 #include <QtCore/QMetaMethod>
 #include <QtCore/QMetaProperty>
-#include <QtCore/QPointer>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 #include <zel/utility/i18n/CustomDateFormatter.h>
@@ -357,10 +357,10 @@ private Q_SLOTS:
         QVERIFY(!formatter.validUntil(QDateTime::currentDateTime()).isValid());
         formatter.setType(RelativeDateFormat::NonTimeCritical);
         QCOMPARE(formatter.format(QDateTime::currentDateTime()), QStringLiteral("today"));
-        const QPointer<RelativeDateFormatter> shortLived(new RelativeDateFormatter(RelativeDateFormat::TimeCritical));
-        connect(shortLived, &RelativeDateFormatter::changed, this, [&shortLived] { delete shortLived; });
+        auto shortLived = std::make_unique<RelativeDateFormatter>(RelativeDateFormat::TimeCritical);
+        connect(shortLived.get(), &RelativeDateFormatter::changed, this, [&shortLived] { shortLived.reset(); });
         shortLived->setType(RelativeDateFormat::NonTimeCritical);
-        QVERIFY(shortLived.isNull());
+        QVERIFY(shortLived == nullptr);
         QCOMPARE(formatter.formatAll({}), QStringList());
     }
 
