@@ -11,14 +11,17 @@ namespace {
 
 constexpr qint64 nearDays = 3; // told by name or weekday
 
-/** The next time at which a zone changes its offset. */
-std::optional<QDateTime> nextTransition(const QDateTime& dateTime)
+/** The next time at which the zone of a moment changes its offset after an instant, both in ms since the epoch. */
+std::optional<qint64> nextTransition(const QDateTime& dateTime, qint64 instant)
 {
     if (dateTime.timeSpec() != Qt::LocalTime && dateTime.timeSpec() != Qt::TimeZone) {
         return std::nullopt;
     }
-    const QTimeZone::OffsetData next = dateTime.timeZone().nextTransition(dateTime);
-    return next.atUtc.isValid() ? std::make_optional(next.atUtc) : std::nullopt;
+    // In UTC: a local time may stand for two instants.
+    const QDateTime utc = QDateTime::fromMSecsSinceEpoch(instant).toUTC();
+    const QDateTime next = dateTime.timeZone().nextTransition(utc).atUtc;
+    const bool isLater = next.isValid() && next.toMSecsSinceEpoch() > instant;
+    return isLater ? std::make_optional(next.toMSecsSinceEpoch()) : std::nullopt;
 }
 
 QDateTime inZoneOf(QDateTime dateTime, qint64 msSinceEpoch)
@@ -43,21 +46,21 @@ QDateTime RelativeDateValidity::until(const QDateTime& anchor, const QDateTime& 
         return {};
     }
     const Step present = stepAt(RelativeDistance::reading(anchor), target);
-    for (QDateTime from = anchor;;) {
-        const qint64 reading = RelativeDistance::reading(from);
+    for (qint64 instant = anchor.toMSecsSinceEpoch();;) {
+        const qint64 reading = RelativeDistance::reading(inZoneOf(anchor, instant));
         const std::optional<qint64> change =
             RelativeDistance::covers(reading) ? nextChange(reading, target) : std::nullopt;
         if (!change) {
             return {};
         }
-        QDateTime changed = inZoneOf(from, from.toMSecsSinceEpoch() + *change - reading);
-        const std::optional<QDateTime> transition = nextTransition(from);
+        const qint64 changed = instant + *change - reading;
+        const std::optional<qint64> transition = nextTransition(anchor, instant);
         if (!transition || changed < *transition) {
-            return changed;
+            return inZoneOf(anchor, changed);
         }
-        from = inZoneOf(from, transition->toMSecsSinceEpoch());
-        if (!isSame(stepAt(RelativeDistance::reading(from), target), present)) {
-            return from;
+        instant = *transition;
+        if (!isSame(stepAt(RelativeDistance::reading(inZoneOf(anchor, instant)), target), present)) {
+            return inZoneOf(anchor, instant);
         }
     }
 }
