@@ -194,6 +194,9 @@ private Q_SLOTS:
         const zel::system::LocaleHandler handler(zel::system::LocaleType::Region);
         connect(&handler, &zel::system::LocaleHandler::changed, this, [&] { told = handler.locale().name(); });
         QVERIFY(object.open(zel::PpsOpenMode::Subscribe));
+        // A reader that notices only the last value, which is the first one again, is told of no change.
+        read = object.read();
+        told = handler.locale().name();
         QTRY_VERIFY(queries.isRight() && formatter.isRight());
         QTest::qWait(100);
         const QStringList before = descriptors();
