@@ -543,6 +543,7 @@ private Q_SLOTS:
     {
         const SettingsRoot root;
         QVERIFY(root.setRegion("de_DE"));
+        QCOMPARE(region().name(), QStringLiteral("de_DE")); // stays while there is no object
         const QByteArray file = QFile::encodeName(root.file(path));
         const QByteArray other = file + '2';
         std::atomic<bool> done{false};
