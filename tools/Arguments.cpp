@@ -1,10 +1,10 @@
 #include "Arguments.h"
 
-#include "Assignments.h"
-#include "Device.h"
-#include "Failure.h"
+#include "device/Assignments.h"
+#include "device/Device.h"
 #include "LocaleName.h"
-#include "Moment.h"
+#include "terminal/Failure.h"
+#include "texts/Moment.h"
 
 namespace zel::tool {
 

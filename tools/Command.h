@@ -1,7 +1,7 @@
 #ifndef ZEL_TOOL_COMMAND_H
 #define ZEL_TOOL_COMMAND_H
 
-#include "Failure.h"
+#include "terminal/Failure.h"
 #include <QtCore/QCommandLineOption>
 #include <QtCore/QList>
 #include <QtCore/QString>

@@ -1,16 +1,9 @@
 #include "Program.h"
 
 #include "Arguments.h"
-#include "Console.h"
-#include "DeviceCommand.h"
-#include "DoctorCommand.h"
-#include "FormatCommand.h"
-#include "FormatsCommand.h"
-#include "GalleryCommand.h"
-#include "PercentCommand.h"
-#include "RelativeCommand.h"
-#include "ThrowAwayDevice.h"
-#include "WatchCommand.h"
+#include "commands/Commands.h"
+#include "device/ThrowAwayDevice.h"
+#include "terminal/Console.h"
 #include <optional>
 
 namespace zel::tool {
@@ -51,14 +44,14 @@ QString optionNames(const QCommandLineOption& option)
 
 Program::Program()
 {
-    m_commands.push_back(std::make_unique<FormatsCommand>());
-    m_commands.push_back(std::make_unique<FormatCommand>());
-    m_commands.push_back(std::make_unique<RelativeCommand>());
-    m_commands.push_back(std::make_unique<PercentCommand>());
-    m_commands.push_back(std::make_unique<WatchCommand>());
-    m_commands.push_back(std::make_unique<GalleryCommand>());
-    m_commands.push_back(std::make_unique<DeviceCommand>());
-    m_commands.push_back(std::make_unique<DoctorCommand>());
+    m_commands.push_back(formatsCommand());
+    m_commands.push_back(formatCommand());
+    m_commands.push_back(relativeCommand());
+    m_commands.push_back(percentCommand());
+    m_commands.push_back(watchCommand());
+    m_commands.push_back(galleryCommand());
+    m_commands.push_back(deviceCommand());
+    m_commands.push_back(doctorCommand());
 }
 
 Program::~Program() = default;

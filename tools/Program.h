@@ -1,7 +1,7 @@
 #ifndef ZEL_TOOL_PROGRAM_H
 #define ZEL_TOOL_PROGRAM_H
 
-#include "Failure.h"
+#include "terminal/Failure.h"
 #include <memory>
 #include <QtCore/QCommandLineOption>
 #include <QtCore/QList>

@@ -1,7 +1,7 @@
-#include "Console.h"
-#include "Device.h"
+#include "device/Device.h"
 #include "Program.h"
-#include "Utf8Environment.h"
+#include "terminal/Console.h"
+#include "terminal/Utf8Environment.h"
 #include <csignal>
 #include <cstdio>
 #include <fcntl.h>

@@ -1,0 +1,35 @@
+#ifndef ZEL_TOOL_COMMANDS_H
+#define ZEL_TOOL_COMMANDS_H
+
+#include "Command.h"
+#include <memory>
+
+namespace zel::tool {
+
+/** `formats`: the patterns of a locale. */
+std::unique_ptr<Command> formatsCommand();
+
+/** `format`: moments by a skeleton. */
+std::unique_ptr<Command> formatCommand();
+
+/** `relative`: moments as seen from another one. */
+std::unique_ptr<Command> relativeCommand();
+
+/** `percent`: numbers as percentages. */
+std::unique_ptr<Command> percentCommand();
+
+/** `watch`: a text that follows the device. */
+std::unique_ptr<Command> watchCommand();
+
+/** `gallery`: everything that depends on the locale, for every locale, on one page. */
+std::unique_ptr<Command> galleryCommand();
+
+/** `device`: the settings of the device. */
+std::unique_ptr<Command> deviceCommand();
+
+/** `doctor`: what there is, and where it comes from. */
+std::unique_ptr<Command> doctorCommand();
+
+} // namespace zel::tool
+
+#endif

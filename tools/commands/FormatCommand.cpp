@@ -1,0 +1,71 @@
+#include "commands/Commands.h"
+
+#include "Arguments.h"
+#include "device/Device.h"
+#include "device/OtherRegion.h"
+#include "texts/Answers.h"
+#include "texts/Moments.h"
+#include "texts/Skeleton.h"
+#include <zel/utility/i18n/CustomDateFormatter.h>
+
+namespace zel::tool {
+
+namespace {
+
+// `format`: moments by a skeleton.
+class FormatCommand : public Command
+{
+public:
+    CommandHelp help() const override;
+    QList<QCommandLineOption> options() const override;
+    ExitStatus run(const Arguments& arguments, Console& console) const override;
+};
+
+} // namespace
+
+CommandHelp FormatCommand::help() const
+{
+    return {QStringLiteral("format"), QStringLiteral("SKELETON [MOMENT...]"),
+            QStringLiteral("Write moments with the fields that a skeleton names."),
+            QStringLiteral("Writes each MOMENT with the fields that SKELETON names, one text a line, for the\n"
+                           "region and clock of the device. No MOMENT means now; '-' takes one a line from\n"
+                           "standard input, reports the bad ones and goes on.\n\n") +
+                Skeleton::description() +
+                QStringLiteral("\n\nMoments are ISO 8601: 2012-05-16, 2012-05-16T10:30, 2012-05-16T10:30:00.500Z,\n"
+                               "2012-05-16T10:30+02:00. Without an offset they are local time. A zone is that\n"
+                               "of the device, and GMT where it has none."),
+            QStringLiteral("format yMMMMEEEEd\n"
+                           "format yMMMMEEEEd 2012-05-16 --locale fr_FR\n"
+                           "format hm 2012-05-16T22:30 --device region=en_US,hour-format=12\n"
+                           "format yMdhmz 2012-05-16T22:30Z --device time-zone=Asia/Tokyo\n"
+                           "format yMMMd - < moments.txt")};
+}
+
+QList<QCommandLineOption> FormatCommand::options() const
+{
+    return {OtherRegion::option()};
+}
+
+ExitStatus FormatCommand::run(const Arguments& arguments, Console& console) const
+{
+    const QStringList words = arguments.positional();
+    const QString skeleton = Skeleton::from(words);
+    const Moments moments(words.mid(1));
+    Device::requireReadable();
+    const OtherRegion region(arguments);
+    const zel::utility::i18n::CustomDateFormatter formatter(skeleton);
+    if (!formatter.isValid()) {
+        throw Failure(QStringLiteral("no pattern for the skeleton ") + quoted(skeleton));
+    }
+    const Answers answers(console, arguments.json());
+    return moments.format(
+        console, [&](const QList<QDateTime>& list) { return formatter.formatAll(list); },
+        [&](const QDateTime& moment, const QString& text) { answers.write(moment, text); });
+}
+
+std::unique_ptr<Command> formatCommand()
+{
+    return std::make_unique<FormatCommand>();
+}
+
+} // namespace zel::tool

@@ -1,0 +1,127 @@
+#include "commands/Commands.h"
+
+#include "Arguments.h"
+#include "device/Assignments.h"
+#include "device/Device.h"
+#include "terminal/Console.h"
+#include "terminal/Table.h"
+#include "texts/Format.h"
+#include "texts/LocaleTitle.h"
+#include "texts/Moment.h"
+#include <QtCore/QJsonArray>
+#include <QtCore/QTimeZone>
+#include <utility>
+
+namespace zel::tool {
+
+namespace {
+
+/** The current time as a clock in the device's time zone shows it, or, as for the library, in GMT without one. */
+QDateTime now()
+{
+    const QTimeZone zone(Device::get(Assignments::timeZone()).value_or(QStringLiteral("GMT")).toLatin1());
+    const QDateTime current = QDateTime::currentDateTimeUtc();
+    return zone.isValid() ? current.toTimeZone(zone) : current;
+}
+
+struct Line
+{
+    Format format;
+    QString pattern;
+    QString text;
+};
+
+QList<Line> linesOf(const QLocale& locale, const QDateTime& moment)
+{
+    QList<Line> lines;
+    for (const Format& format : Format::all()) {
+        const QString pattern = format.pattern(locale);
+        lines.append({format, pattern, locale.toString(moment, pattern)});
+    }
+    return lines;
+}
+
+void writeTable(const NamedLocale& locale, const QList<Line>& lines, Console& console)
+{
+    Table table;
+    for (const Line& line : lines) {
+        table.add({line.format.kind(), line.format.length(), line.pattern, line.text});
+    }
+    console.line(locale.name + QLatin1String("  ") + localeTitle(locale.name));
+    table.write(console);
+}
+
+void writeJson(const NamedLocale& locale, const QList<Line>& lines, const QDateTime& moment, Console& console)
+{
+    QJsonArray entries;
+    for (const Line& line : lines) {
+        entries.append(QJsonObject{{QStringLiteral("kind"), line.format.kind()},
+                                   {QStringLiteral("length"), line.format.length()},
+                                   {QStringLiteral("pattern"), line.pattern},
+                                   {QStringLiteral("text"), line.text}});
+    }
+    console.json({{QStringLiteral("locale"), locale.name},
+                  {QStringLiteral("moment"), Moment::write(moment)},
+                  {QStringLiteral("formats"), entries}});
+}
+
+// `formats`: the patterns of a locale.
+class FormatsCommand : public Command
+{
+public:
+    CommandHelp help() const override;
+    QList<QCommandLineOption> options() const override;
+    ExitStatus run(const Arguments& arguments, Console& console) const override;
+};
+
+} // namespace
+
+CommandHelp FormatsCommand::help() const
+{
+    return {QStringLiteral("formats"), QString(), QStringLiteral("Show the date and time patterns of locales."),
+            QStringLiteral("Shows the patterns of a locale for dates, times and both together in all lengths,\n"
+                           "under the clock of the device and in Qt's syntax, and a moment written with each."),
+            QStringLiteral("formats\n"
+                           "formats --locale ja_JP --locale fr_CA\n"
+                           "formats --device region=en_US,hour-format=24")};
+}
+
+QList<QCommandLineOption> FormatsCommand::options() const
+{
+    return {{QStringLiteral("locale"),
+             QStringLiteral("A locale, instead of the region of the device. May be given\nseveral times."),
+             QStringLiteral("L")},
+            {QStringLiteral("at"), QStringLiteral("The moment to write, in ISO 8601; now without it."),
+             QStringLiteral("MOMENT")}};
+}
+
+ExitStatus FormatsCommand::run(const Arguments& arguments, Console& console) const
+{
+    if (!arguments.positional().isEmpty()) {
+        throw Failure::usage(quoted(arguments.positional().first()) +
+                             QStringLiteral(" is no option; name a locale with --locale"));
+    }
+    const QList<NamedLocale> locales = arguments.locales();
+    Device::requireReadable();
+    const QDateTime moment = arguments.moment(QStringLiteral("at"), now());
+    bool first = true;
+    for (const NamedLocale& locale : locales) {
+        const QList<Line> lines = linesOf(locale.locale, moment);
+        if (arguments.json()) {
+            writeJson(locale, lines, moment, console);
+            continue;
+        }
+        if (!std::exchange(first, false)) {
+            console.line({});
+        }
+        writeTable(locale, lines, console);
+    }
+    return Worked;
+}
+
+std::unique_ptr<Command> formatsCommand()
+{
+    return std::make_unique<FormatsCommand>();
+}
+
+} // namespace zel::tool

@@ -1,0 +1,101 @@
+#include "commands/Commands.h"
+
+#include "Arguments.h"
+#include "terminal/Console.h"
+#include "terminal/LineReader.h"
+#include <cmath>
+#include <zel/utility/i18n/Formatting.h>
+
+namespace zel::tool {
+
+namespace {
+
+constexpr int mostDigits = 340;
+
+double number(const QString& word)
+{
+    bool ok = false;
+    const double value = QLocale::c().toDouble(word, &ok);
+    if (!ok || !std::isfinite(value)) {
+        throw Failure(quoted(word) + QStringLiteral(" is not a number such as 0.256"));
+    }
+    return value;
+}
+
+// `percent`: numbers as percentages.
+class PercentCommand : public Command
+{
+public:
+    CommandHelp help() const override;
+    QList<QCommandLineOption> options() const override;
+    ExitStatus run(const Arguments& arguments, Console& console) const override;
+};
+
+} // namespace
+
+CommandHelp PercentCommand::help() const
+{
+    return {QStringLiteral("percent"), QStringLiteral("VALUE... | -"), QStringLiteral("Write numbers as percentages."),
+            QStringLiteral("Writes each VALUE as a percentage, one a line: 0.25 becomes 25% in English. Values\n"
+                           "have a decimal point; 1 is a hundred percent. '-' takes one a line from standard\n"
+                           "input, reports the bad ones and goes on."),
+            QStringLiteral("percent 0.256\n"
+                           "percent - < values.txt\n"
+                           "percent --max 1 0.256 -0.5\n"
+                           "percent --min 2 --locale ar_EG 12.5")};
+}
+
+QList<QCommandLineOption> PercentCommand::options() const
+{
+    return {{QStringLiteral("locale"), QStringLiteral("The locale to write for; the region of the device without it."),
+             QStringLiteral("L")},
+            {QStringLiteral("min"), QStringLiteral("The fewest digits behind the decimal point; 0 without it."),
+             QStringLiteral("N")},
+            {QStringLiteral("max"), QStringLiteral("The most digits behind the decimal point; as --min without it."),
+             QStringLiteral("N")}};
+}
+
+ExitStatus PercentCommand::run(const Arguments& arguments, Console& console) const
+{
+    const QStringList words = arguments.positional();
+    if (words.isEmpty()) {
+        throw Failure::usage(QStringLiteral("no value given"));
+    }
+    const bool fromInput = words == QStringList(QStringLiteral("-"));
+    QList<double> values;
+    for (const QString& word : fromInput ? QStringList() : words) {
+        values.append(number(word));
+    }
+    const int fewest = arguments.number(QStringLiteral("min"), 0, mostDigits);
+    const int most = arguments.number(QStringLiteral("max"), fewest, mostDigits);
+    const NamedLocale locale = arguments.locale();
+    const auto write = [&](double value) {
+        const QString text = zel::utility::i18n::toPercentageString(locale.locale, value, most, fewest);
+        if (text.isNull()) {
+            throw Failure(QStringLiteral("no percentages for the locale ") + quoted(locale.name));
+        }
+        if (arguments.json()) {
+            console.json({{QStringLiteral("locale"), locale.name},
+                          {QStringLiteral("text"), text},
+                          {QStringLiteral("value"), value}});
+        } else {
+            console.line(text);
+        }
+    };
+    if (fromInput) {
+        return LineReader::forEach(console, [&](std::string_view line) {
+            write(number(QString::fromUtf8(line.data(), static_cast<int>(line.size()))));
+        });
+    }
+    for (const double value : values) {
+        write(value);
+    }
+    return Worked;
+}
+
+std::unique_ptr<Command> percentCommand()
+{
+    return std::make_unique<PercentCommand>();
+}
+
+} // namespace zel::tool

@@ -1,0 +1,265 @@
+#include "commands/Commands.h"
+
+#include "Arguments.h"
+#include "device/Device.h"
+#include "terminal/Console.h"
+#include "terminal/Table.h"
+#include "texts/Answers.h"
+#include "texts/Ladder.h"
+#include "texts/Moment.h"
+#include "texts/Moments.h"
+#include <memory>
+#include <QtCore/QMap>
+#include <zel/utility/i18n/RelativeDateFormatter.h>
+
+namespace zel::tool {
+
+namespace {
+
+using zel::utility::i18n::RelativeDateFormatter;
+namespace ClockFormat = zel::utility::i18n::ClockFormat;
+namespace RelativeDateFormat = zel::utility::i18n::RelativeDateFormat;
+namespace RelativeDateWording = zel::utility::i18n::RelativeDateWording;
+
+const QMap<QString, int>& types()
+{
+    static const QMap<QString, int> types = {
+        {QStringLiteral("time-critical"), RelativeDateFormat::TimeCritical},
+        {QStringLiteral("non-time-critical"), RelativeDateFormat::NonTimeCritical}};
+    return types;
+}
+
+const QMap<QString, int>& clocks()
+{
+    static const QMap<QString, int> clocks = {{QStringLiteral("user"), ClockFormat::ApplyUserFormat},
+                                              {QStringLiteral("locale"), ClockFormat::ApplyLocaleFormat},
+                                              {QStringLiteral("12"), ClockFormat::Use12hourClock},
+                                              {QStringLiteral("24"), ClockFormat::Use24hourClock}};
+    return clocks;
+}
+
+const QMap<QString, int>& wordings()
+{
+    static const QMap<QString, int> wordings = {{QStringLiteral("exact"), RelativeDateWording::Exact},
+                                                {QStringLiteral("natural"), RelativeDateWording::Natural}};
+    return wordings;
+}
+
+/** A formatter as the options ask for it. */
+class Formatters
+{
+public:
+    Formatters(const Arguments& arguments, const QDateTime& defaultAnchor)
+        : m_clock(static_cast<ClockFormat::Type>(
+              arguments.choice(QStringLiteral("clock"), clocks(), ClockFormat::ApplyUserFormat))),
+          m_wording(static_cast<RelativeDateWording::Type>(
+              arguments.choice(QStringLiteral("wording"), wordings(), RelativeDateWording::Exact))),
+          m_anchor(arguments.moment(QStringLiteral("anchor"), defaultAnchor))
+    {
+    }
+
+    const QDateTime& anchor() const { return m_anchor; }
+
+    std::unique_ptr<RelativeDateFormatter> make(int type, const QLocale& locale) const
+    {
+        auto formatter = std::make_unique<RelativeDateFormatter>(static_cast<RelativeDateFormat::Type>(type));
+        formatter->setLocale(locale);
+        formatter->setClockFormat(m_clock);
+        formatter->setWording(m_wording);
+        formatter->setAnchorTime(m_anchor);
+        return formatter;
+    }
+
+private:
+    ClockFormat::Type m_clock;
+    RelativeDateWording::Type m_wording;
+    QDateTime m_anchor;
+};
+
+int typeOf(const Arguments& arguments)
+{
+    return arguments.choice(QStringLiteral("type"), types(), RelativeDateFormat::TimeCritical);
+}
+
+ExitStatus writeMoments(const Arguments& arguments, Console& console)
+{
+    if (arguments.positional().isEmpty()) {
+        throw Failure::usage(QStringLiteral("no moment given"));
+    }
+    const Moments moments(arguments.positional());
+    const Formatters formatters(arguments, QDateTime::currentDateTime());
+    const int type = typeOf(arguments);
+    const auto formatter = formatters.make(type, arguments.locale().locale);
+    const Answers answers(console, arguments.json());
+    const bool until = arguments.has(QStringLiteral("until"));
+    return moments.format(
+        console, [&](const QList<QDateTime>& list) { return formatter->formatAll(list); },
+        [&](const QDateTime& moment, const QString& text) {
+            if (until) {
+                answers.write(moment, text, formatter->validUntil(moment));
+            } else {
+                answers.write(moment, text);
+            }
+        });
+}
+
+/** The texts of one ladder: a column a locale, in the order of the rungs. */
+struct LadderTexts
+{
+    int type;
+    QDateTime anchor;
+    QList<Rung> rungs;
+    QList<NamedLocale> locales;
+    QList<QStringList> columns;
+};
+
+LadderTexts ladderTexts(int type, const QList<NamedLocale>& locales, const Formatters& formatters)
+{
+    LadderTexts texts = {type, formatters.anchor(), Ladder::rungs(type, formatters.anchor()), locales, {}};
+    for (const NamedLocale& locale : locales) {
+        const auto formatter = formatters.make(type, locale.locale);
+        QStringList column;
+        for (const Rung& rung : texts.rungs) {
+            column.append(formatter->format(rung.moment));
+        }
+        texts.columns.append(column);
+    }
+    return texts;
+}
+
+void writeJson(const LadderTexts& texts, Console& console)
+{
+    for (int column = 0; column < texts.locales.size(); ++column) {
+        for (int row = 0; row < texts.rungs.size(); ++row) {
+            console.json({{QStringLiteral("type"), types().key(texts.type)},
+                          {QStringLiteral("locale"), texts.locales[column].name},
+                          {QStringLiteral("anchor"), Moment::write(texts.anchor)},
+                          {QStringLiteral("distance"), texts.rungs[row].distance},
+                          {QStringLiteral("moment"), Moment::write(texts.rungs[row].moment)},
+                          {QStringLiteral("text"), texts.columns[column][row]}});
+        }
+    }
+}
+
+// The columns from one to another, side by side.
+Table tableOf(const LadderTexts& texts, int from, int to)
+{
+    Table table;
+    const QString minutes = QStringLiteral("yyyy-MM-dd HH:mm");
+    QStringList header = {types().key(texts.type), texts.anchor.toString(minutes)};
+    for (int column = from; column < to; ++column) {
+        header.append(texts.locales[column].name);
+    }
+    table.add(header);
+    for (int row = 0; row < texts.rungs.size(); ++row) {
+        QStringList cells = {texts.rungs[row].distance, texts.rungs[row].moment.toString(minutes)};
+        for (int column = from; column < to; ++column) {
+            cells.append(texts.columns[column][row]);
+        }
+        table.add(cells);
+    }
+    return table;
+}
+
+// As many columns side by side as the terminal has room for.
+void writeTables(const LadderTexts& texts, Console& console)
+{
+    const auto count = static_cast<int>(texts.locales.size());
+    for (int from = 0, to = 0; from < count; from = to) {
+        to = count;
+        while (to > from + 1 && tableOf(texts, from, to).width() > console.columns()) {
+            --to;
+        }
+        tableOf(texts, from, to).write(console);
+        if (to < count) {
+            console.line({});
+        }
+    }
+}
+
+ExitStatus writeLadders(const Arguments& arguments, Console& console)
+{
+    if (!arguments.positional().isEmpty()) {
+        throw Failure::usage(QStringLiteral("--table takes no moment, not ") + quoted(arguments.positional().first()));
+    }
+    const Formatters formatters(arguments, Ladder::exampleAnchor());
+    const int chosen = typeOf(arguments);
+    const QList<NamedLocale> locales = arguments.locales();
+    QList<int> both = {RelativeDateFormat::TimeCritical, RelativeDateFormat::NonTimeCritical};
+    for (const int type : arguments.has(QStringLiteral("type")) ? QList<int>{chosen} : both) {
+        const LadderTexts texts = ladderTexts(type, locales, formatters);
+        if (arguments.json()) {
+            writeJson(texts, console);
+            continue;
+        }
+        if (type != chosen) {
+            console.line({});
+        }
+        writeTables(texts, console);
+    }
+    return Worked;
+}
+
+// `relative`: moments as seen from another one.
+class RelativeCommand : public Command
+{
+public:
+    CommandHelp help() const override;
+    QList<QCommandLineOption> options() const override;
+    ExitStatus run(const Arguments& arguments, Console& console) const override;
+};
+
+} // namespace
+
+CommandHelp RelativeCommand::help() const
+{
+    return {QStringLiteral("relative"), QStringLiteral("MOMENT... | --table"),
+            QStringLiteral("Write moments as they are told from another one."),
+            QStringLiteral("Writes each MOMENT as it is told from an anchor, one text a line: 5 minutes ago,\n"
+                           "yesterday with a time, a weekday, a month and day, a month and year. '-' takes one\n"
+                           "moment a line from standard input, reports the bad ones and goes on. Moments are\n"
+                           "ISO 8601, as in 'format'; each counts by the date and time as it is written.\n\n"
+                           "With --table, shows the whole ladder instead: moments at all distances that are told\n"
+                           "differently, before and after the anchor, for each locale. The anchor is then in the\n"
+                           "middle of a year and of a day, unless it is given."),
+            QStringLiteral("relative 2012-05-16T10:25 --anchor 2012-05-16T10:30\n"
+                           "relative - --locale fr_FR --type non-time-critical < moments.txt\n"
+                           "relative --table --locale en_GB --locale de_DE --locale ja_JP")};
+}
+
+QList<QCommandLineOption> RelativeCommand::options() const
+{
+    return {{QStringLiteral("type"),
+             QStringLiteral("time-critical: down to minutes, with the time beside a day.\nnon-time-critical: days and "
+                            "coarser. time-critical without it,\nboth with --table."),
+             QStringLiteral("TYPE")},
+            {QStringLiteral("anchor"), QStringLiteral("The moment to tell from; now without it."),
+             QStringLiteral("MOMENT")},
+            {QStringLiteral("clock"),
+             QStringLiteral("user: the clock of the device; locale: the one customary in\nthe locale; 12; 24. user "
+                            "without it."),
+             QStringLiteral("CLOCK")},
+            {QStringLiteral("locale"),
+             QStringLiteral("A locale, instead of the region of the device; several with\n--table."),
+             QStringLiteral("L")},
+            {QStringLiteral("wording"),
+             QStringLiteral("exact, or natural: \"now\" instead of \"in 0 minutes\", and near\ndays by name across "
+                            "the turn of the year (default: exact)."),
+             QStringLiteral("WORDING")},
+            {QStringLiteral("until"),
+             QStringLiteral("Append a tab and the anchor time at which the text changes,\nor \"never\".")},
+            {QStringLiteral("table"), QStringLiteral("Show the whole ladder.")}};
+}
+
+ExitStatus RelativeCommand::run(const Arguments& arguments, Console& console) const
+{
+    Device::requireReadable();
+    return arguments.has(QStringLiteral("table")) ? writeLadders(arguments, console) : writeMoments(arguments, console);
+}
+
+std::unique_ptr<Command> relativeCommand()
+{
+    return std::make_unique<RelativeCommand>();
+}
+
+} // namespace zel::tool

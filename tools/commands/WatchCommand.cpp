@@ -1,0 +1,67 @@
+#include "commands/Commands.h"
+
+#include "Arguments.h"
+#include "device/Device.h"
+#include "device/OtherRegion.h"
+#include "terminal/Console.h"
+#include "texts/LiveText.h"
+#include "texts/Moment.h"
+#include "texts/Skeleton.h"
+
+namespace zel::tool {
+
+namespace {
+
+// `watch`: a text that follows the device.
+class WatchCommand : public Command
+{
+public:
+    CommandHelp help() const override;
+    QList<QCommandLineOption> options() const override;
+    ExitStatus run(const Arguments& arguments, Console& console) const override;
+};
+
+} // namespace
+
+CommandHelp WatchCommand::help() const
+{
+    return {QStringLiteral("watch"), QStringLiteral("SKELETON [MOMENT]"),
+            QStringLiteral("Write a text again whenever the device changes."),
+            QStringLiteral("Writes MOMENT with the fields that SKELETON names, and writes it again whenever\n"
+                           "the clock, the time zone or the region of the device changes, until interrupted.\n"
+                           "Without MOMENT each line shows the time at which it is written.\n\n") +
+                Skeleton::description(),
+            QStringLiteral("watch hm\n"
+                           "watch yMMMdhmz 2012-05-16T22:30Z")};
+}
+
+QList<QCommandLineOption> WatchCommand::options() const
+{
+    return {OtherRegion::option()};
+}
+
+ExitStatus WatchCommand::run(const Arguments& arguments, Console& console) const
+{
+    const QStringList words = arguments.positional();
+    const QString skeleton = Skeleton::from(words);
+    if (words.size() > 2) {
+        throw Failure::usage(QStringLiteral("one moment at most, not also ") + quoted(words.at(2)));
+    }
+    const auto moment = words.size() == 2 ? std::make_optional(Moment::parse(words.at(1))) : std::nullopt;
+    Device::requireReadable();
+    const OtherRegion region(arguments);
+    try {
+        LiveText(skeleton, moment, console, arguments.json()).run();
+    } catch (const Console::Interrupted&) {
+        // Being interrupted is how it ends.
+        return Worked;
+    }
+    return Worked;
+}
+
+std::unique_ptr<Command> watchCommand()
+{
+    return std::make_unique<WatchCommand>();
+}
+
+} // namespace zel::tool

@@ -1,0 +1,24 @@
+#include "device/ThrowAwayDevice.h"
+
+#include "device/Assignments.h"
+#include "device/Device.h"
+#include "terminal/Failure.h"
+#include <QtCore/QFile>
+
+namespace zel::tool {
+
+ThrowAwayDevice::ThrowAwayDevice(const QString& settings)
+{
+    const auto values = Assignments::parse(settings.split(QLatin1Char(',')));
+    if (!m_root.isValid()) {
+        throw Failure(QStringLiteral("no temporary directory for the device: ") + m_root.errorString());
+    }
+    Device::useEmpty(m_root.path());
+    Device::set(values, {});
+    const QString zone = values.value(Assignments::timeZone());
+    if (!zone.isEmpty()) {
+        qputenv("TZ", zone.toUtf8()); // moments without a zone are the device's, too
+    }
+}
+
+} // namespace zel::tool

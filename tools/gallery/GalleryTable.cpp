@@ -1,0 +1,40 @@
+#include "gallery/GalleryTable.h"
+
+#include <algorithm>
+
+namespace zel::tool {
+
+namespace {
+
+QByteArray line(QStringList cells)
+{
+    for (QString& cell : cells) {
+        std::replace_if(
+            cell.begin(), cell.end(),
+            [](QChar c) { return c == QLatin1Char('\t') || c == QLatin1Char('\n') || c == QLatin1Char('\r'); },
+            QLatin1Char(' '));
+    }
+    return cells.join(QLatin1Char('\t')).toUtf8() + '\n';
+}
+
+} // namespace
+
+QByteArray GalleryTable::header()
+{
+    return line({QStringLiteral("locale"), QStringLiteral("clock"), QStringLiteral("group"), QStringLiteral("name"),
+                 QStringLiteral("pattern"), QStringLiteral("text"), QStringLiteral("notes")});
+}
+
+QByteArray GalleryTable::lines(const GalleryEntry& entry, const QStringList& clocks)
+{
+    QByteArray lines;
+    for (int clock = 0; clock < entry.clocks.size(); ++clock) {
+        for (const GalleryRow& row : entry.clocks[clock]) {
+            lines += line({entry.locale, clocks[clock], row.group, row.name, row.pattern, row.text,
+                           row.notes.join(QLatin1String("; "))});
+        }
+    }
+    return lines.isEmpty() ? line({entry.locale, {}, {}, {}, {}, {}, QStringLiteral("not known to Qt")}) : lines;
+}
+
+} // namespace zel::tool

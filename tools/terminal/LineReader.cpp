@@ -1,0 +1,71 @@
+#include "terminal/LineReader.h"
+
+#include "terminal/Console.h"
+#include <algorithm>
+#include <utility>
+
+namespace zel::tool {
+
+namespace {
+
+constexpr std::size_t longestLine = 1024;
+
+std::string_view withoutCarriageReturn(std::string_view line)
+{
+    return line.substr(0, line.size() - (!line.empty() && line.back() == '\r' ? 1 : 0));
+}
+
+} // namespace
+
+ExitStatus LineReader::forEach(Console& console, const std::function<void(std::string_view)>& handler)
+{
+    ExitStatus status = Worked;
+    LineReader reader(console);
+    while (const auto line = reader.next()) {
+        try {
+            handler(*line);
+        } catch (const Failure& failure) {
+            complain(console, reader.number(), failure);
+            status = NoAnswer;
+        }
+    }
+    return status;
+}
+
+void LineReader::complain(Console& console, qlonglong number, const Failure& failure)
+{
+    console.complain(QStringLiteral("line %1: ").arg(number) + failure.text());
+}
+
+std::optional<std::string_view> LineReader::next()
+{
+    for (;;) {
+        const std::string_view text = pending();
+        const std::size_t end = text.find('\n');
+        const bool complete = end != std::string_view::npos;
+        if (!complete && !m_finished && text.size() <= longestLine) {
+            fill();
+            continue;
+        }
+        if (text.empty()) {
+            return {};
+        }
+        m_begin += complete ? end + 1 : text.size();
+        if (!std::exchange(m_inLongLine, !complete)) {
+            ++m_number;
+            return withoutCarriageReturn(text.substr(0, std::min(end, longestLine)));
+        }
+    }
+}
+
+void LineReader::fill()
+{
+    std::copy(m_buffer.data() + m_begin, m_buffer.data() + m_end, m_buffer.data());
+    m_end -= std::exchange(m_begin, 0);
+    m_console.flush();
+    const int count = m_console.read(m_buffer.data() + m_end, static_cast<int>(m_buffer.size() - m_end));
+    m_end += static_cast<std::size_t>(count);
+    m_finished = count == 0;
+}
+
+} // namespace zel::tool

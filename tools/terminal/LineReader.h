@@ -1,0 +1,56 @@
+#ifndef ZEL_TOOL_LINEREADER_H
+#define ZEL_TOOL_LINEREADER_H
+
+#include "terminal/Failure.h"
+#include <array>
+#include <functional>
+#include <optional>
+#include <string_view>
+
+namespace zel::tool {
+
+class Console;
+
+/**
+ * Standard input line by line, in the same memory however much it is. Everything written so far is flushed before more
+ * is waited for, so that a pipe that is fed slowly answers line by line.
+ */
+class LineReader
+{
+public:
+    explicit LineReader(Console& console) : m_console(console) {}
+
+    /** Hands each line to the handler. One for which it fails is reported and passed over. */
+    static ExitStatus forEach(Console& console, const std::function<void(std::string_view)>& handler);
+
+    /** Reports what is wrong with a line. */
+    static void complain(Console& console, qlonglong number, const Failure& failure);
+
+    /**
+     * The next line without its end, valid until the next call; nothing at the end of the input. Of a line that is
+     * longer than any that makes sense, only the beginning.
+     */
+    std::optional<std::string_view> next();
+
+    /** Whether the next line is there already, so that next() does not wait for it. */
+    bool hasLine() const { return pending().find('\n') != std::string_view::npos; }
+
+    /** The number of the line that next() returned, from 1. */
+    qlonglong number() const { return m_number; }
+
+private:
+    std::string_view pending() const { return {m_buffer.data() + m_begin, m_end - m_begin}; }
+    void fill();
+
+    Console& m_console;
+    std::array<char, 65536> m_buffer{};
+    std::size_t m_begin = 0;
+    std::size_t m_end = 0;
+    qlonglong m_number = 0;
+    bool m_finished = false;
+    bool m_inLongLine = false;
+};
+
+} // namespace zel::tool
+
+#endif

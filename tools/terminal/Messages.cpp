@@ -1,0 +1,20 @@
+#include "terminal/Messages.h"
+
+#include "device/Device.h"
+#include <utility>
+
+namespace zel::tool {
+
+QStringList Messages::take()
+{
+    return std::exchange(s_taken, {});
+}
+
+void Messages::handle(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& text)
+{
+    if (!Device::isUnset(text)) {
+        s_taken.append(text.trimmed());
+    }
+}
+
+} // namespace zel::tool

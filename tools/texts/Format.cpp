@@ -1,0 +1,116 @@
+#include "texts/Format.h"
+
+#include <algorithm>
+#include <array>
+#include <memory>
+#include <QtCore/QStringList>
+#include <unicode/smpdtfmt.h>
+#include <zel/utility/i18n/Formatting.h>
+
+namespace zel::tool {
+
+namespace {
+
+namespace DateFormat = zel::utility::i18n::DateFormat;
+
+constexpr std::array lengths = {DateFormat::Short, DateFormat::Medium, DateFormat::Long, DateFormat::Full};
+
+icu::DateFormat::EStyle styleOf(Format::Length length)
+{
+    switch (length) {
+    case DateFormat::Short:
+        return icu::DateFormat::kShort;
+    case DateFormat::Medium:
+        return icu::DateFormat::kMedium;
+    case DateFormat::Long:
+        return icu::DateFormat::kLong;
+    case DateFormat::Full:
+        break;
+    }
+    return icu::DateFormat::kFull;
+}
+
+bool hasFieldThatQtLacks(const QString& pattern)
+{
+    const QString known = QStringLiteral("yMLdEceHhmsSaBbzZvV");
+    bool quoted = false;
+    return std::any_of(pattern.begin(), pattern.end(), [&](QChar c) {
+        quoted = quoted != (c == QLatin1Char('\''));
+        return !quoted && c.unicode() < 0x80 && c.isLetter() && !known.contains(c);
+    });
+}
+
+} // namespace
+
+QList<Format> Format::all()
+{
+    QList<Format> all;
+    for (const Kind kind : {Date, Time, DateTime}) {
+        for (const Length length : lengths) {
+            all.append(Format(kind, length));
+        }
+    }
+    return all;
+}
+
+QString Format::kind() const
+{
+    return QStringList({QStringLiteral("date"), QStringLiteral("time"), QStringLiteral("date-time")}).at(m_kind);
+}
+
+QString Format::length() const
+{
+    return QStringList(
+               {QStringLiteral("short"), QStringLiteral("medium"), QStringLiteral("long"), QStringLiteral("full")})
+        .at(m_length - DateFormat::Short);
+}
+
+QString Format::pattern(const QLocale& locale) const
+{
+    namespace i18n = zel::utility::i18n;
+    switch (m_kind) {
+    case Date:
+        return i18n::dateFormat(locale, m_length);
+    case Time:
+        return i18n::timeFormat(locale, m_length);
+    case DateTime:
+        break;
+    }
+    return i18n::dateTimeFormat(locale, m_length);
+}
+
+bool Format::isFallback(const QLocale& locale) const
+{
+    return hasFieldThatQtLacks(patternOfIcu(locale)) && pattern(locale) == patternOfQt(locale);
+}
+
+QString Format::patternOfIcu(const QLocale& locale) const
+{
+    const QByteArray name = locale.bcp47Name().toLatin1() + "-u-ca-gregory";
+    UErrorCode status = U_ZERO_ERROR;
+    const std::unique_ptr<icu::DateFormat> format(icu::DateFormat::createDateTimeInstance(
+        m_kind == Time ? icu::DateFormat::kNone : styleOf(m_length),
+        m_kind == Date ? icu::DateFormat::kNone : styleOf(m_length), icu::Locale::forLanguageTag(name.data(), status)));
+    const auto* const simple = dynamic_cast<const icu::SimpleDateFormat*>(format.get());
+    icu::UnicodeString pattern;
+    if (simple != nullptr) {
+        simple->toPattern(pattern);
+    }
+    return QString(reinterpret_cast<const QChar*>(pattern.getBuffer()), pattern.length());
+}
+
+QString Format::patternOfQt(const QLocale& locale) const
+{
+    const auto type = m_length <= DateFormat::Medium ? QLocale::ShortFormat : QLocale::LongFormat;
+    switch (m_kind) {
+    case Date:
+        return locale.dateFormat(type);
+    case Time:
+        return locale.timeFormat(type);
+    case DateTime:
+        break;
+    }
+    return locale.dateTimeFormat(type);
+}
+
+} // namespace zel::tool

@@ -1,0 +1,79 @@
+#include "texts/Ladder.h"
+
+#include <QtCore/QStringList>
+#include <zel/utility/i18n/RelativeDateFormat.h>
+
+namespace zel::tool {
+
+namespace {
+
+namespace RelativeDateFormat = zel::utility::i18n::RelativeDateFormat;
+
+enum class Unit { Year, Day, Hour, Minute };
+
+struct Distance
+{
+    Unit unit;
+    int count;
+};
+
+// From far to near.
+QList<Distance> distances(int type)
+{
+    QList<Distance> distances = {{Unit::Year, 1}, {Unit::Day, 4}, {Unit::Day, 2}, {Unit::Day, 1}};
+    if (type == RelativeDateFormat::TimeCritical) {
+        distances += {{Unit::Hour, 3}, {Unit::Minute, 5}};
+    }
+    return distances;
+}
+
+QString name(const Distance& distance)
+{
+    static const QStringList units = {QStringLiteral("year"), QStringLiteral("day"), QStringLiteral("hour"),
+                                      QStringLiteral("minute")};
+    return QStringLiteral("%1 %2%3")
+        .arg(distance.count)
+        .arg(units.at(static_cast<int>(distance.unit)), QLatin1String(distance.count == 1 ? "" : "s"));
+}
+
+QDateTime moved(const QDateTime& anchor, Unit unit, int count)
+{
+    switch (unit) {
+    case Unit::Year:
+        return anchor.addYears(count);
+    case Unit::Day:
+        return anchor.addDays(count);
+    case Unit::Hour:
+        return anchor.addSecs(count * qint64(3600));
+    case Unit::Minute:
+        break;
+    }
+    return anchor.addSecs(count * qint64(60));
+}
+
+/** A shorter distance where the usual one leaves the day of the anchor, on which hours and minutes are told. */
+Distance fitting(const QDateTime& anchor, const Distance& distance, int sign)
+{
+    const bool leavesDay = moved(anchor, distance.unit, sign * distance.count).date() != anchor.date();
+    return leavesDay && distance.unit >= Unit::Hour ? Distance{distance.unit, 1} : distance;
+}
+
+} // namespace
+
+QList<Rung> Ladder::rungs(int type, const QDateTime& anchor)
+{
+    QList<Rung> before;
+    QList<Rung> after;
+    for (const Distance& usual : distances(type)) {
+        const Distance earlier = fitting(anchor, usual, -1);
+        const Distance later = fitting(anchor, usual, 1);
+        before.append({name(earlier) + QStringLiteral(" before"), moved(anchor, earlier.unit, -earlier.count)});
+        after.prepend({name(later) + QStringLiteral(" after"), moved(anchor, later.unit, later.count)});
+    }
+    if (type == RelativeDateFormat::NonTimeCritical) {
+        before.append({QStringLiteral("the same day"), anchor});
+    }
+    return before + after;
+}
+
+} // namespace zel::tool

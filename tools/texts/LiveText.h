@@ -1,0 +1,48 @@
+#ifndef ZEL_TOOL_LIVETEXT_H
+#define ZEL_TOOL_LIVETEXT_H
+
+#include "device/DeviceObserver.h"
+#include "texts/Answers.h"
+#include <exception>
+#include <optional>
+#include <QtCore/QDateTime>
+#include <QtCore/QEventLoop>
+#include <QtCore/QObject>
+#include <QtCore/QSocketNotifier>
+#include <QtCore/QTimer>
+#include <zel/utility/i18n/CustomDateFormatter.h>
+
+namespace zel::tool {
+
+class Console;
+
+/** A text that is written again whenever the device changes, until a signal asks for the end. */
+class LiveText : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY(LiveText)
+
+public:
+    /** @param moment what to show; the time of writing where there is nothing */
+    LiveText(const QString& skeleton, const std::optional<QDateTime>& moment, Console& console, bool json);
+
+    void run();
+
+private Q_SLOTS:
+    void write();
+
+private:
+    Console& m_console;
+    const Answers m_answers;
+    const std::optional<QDateTime> m_moment;
+    const zel::utility::i18n::CustomDateFormatter m_formatter;
+    DeviceObserver m_observer;
+    QTimer m_settled;
+    QSocketNotifier m_interrupted;
+    QEventLoop m_loop;
+    std::exception_ptr m_failure;
+};
+
+} // namespace zel::tool
+
+#endif

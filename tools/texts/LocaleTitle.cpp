@@ -1,0 +1,20 @@
+#include "texts/LocaleTitle.h"
+
+#include <string>
+#include <unicode/locid.h>
+#include <unicode/unistr.h>
+
+namespace zel::tool {
+
+QString localeTitle(const QString& name)
+{
+    if (name == QLatin1String("C")) {
+        return QStringLiteral("no locale, as in English");
+    }
+    icu::UnicodeString title;
+    icu::Locale::createCanonical(name.toLatin1().constData()).getDisplayName(icu::Locale::getEnglish(), title);
+    std::string text;
+    return QString::fromStdString(title.toUTF8String(text));
+}
+
+} // namespace zel::tool

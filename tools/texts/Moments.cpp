@@ -1,0 +1,68 @@
+#include "texts/Moments.h"
+
+#include "terminal/LineReader.h"
+#include "texts/Moment.h"
+
+namespace zel::tool {
+
+Moments::Moments(const QStringList& words) : m_fromInput(words == QStringList(QStringLiteral("-")))
+{
+    if (m_fromInput) {
+        return;
+    }
+    if (words.isEmpty()) {
+        m_moments.append(QDateTime::currentDateTime());
+    }
+    for (const QString& word : words) {
+        if (word == QLatin1String("-")) {
+            throw Failure::usage(QStringLiteral("'-' for standard input does not go with other moments"));
+        }
+        m_moments.append(Moment::parse(word));
+    }
+}
+
+ExitStatus Moments::format(Console& console, const Formatter& formatter, const Writer& writer) const
+{
+    if (m_fromInput) {
+        return formatLines(console, formatter, writer);
+    }
+    const QStringList texts = formatter(m_moments);
+    for (int i = 0; i < m_moments.size(); ++i) {
+        writer(m_moments[i], texts[i]);
+    }
+    return Worked;
+}
+
+ExitStatus Moments::formatLines(Console& console, const Formatter& formatter, const Writer& writer)
+{
+    ExitStatus status = Worked;
+    LineReader reader(console);
+    QList<QDateTime> moments;
+    QList<qlonglong> lines;
+    const auto attempt = [&](qlonglong line, const auto& action) {
+        try {
+            action();
+        } catch (const Failure& failure) {
+            LineReader::complain(console, line, failure);
+            status = NoAnswer;
+        }
+    };
+    while (const auto line = reader.next()) {
+        attempt(reader.number(), [&] {
+            moments.append(Moment::parse(*line));
+            lines.append(reader.number());
+        });
+        if (reader.hasLine()) {
+            continue;
+        }
+        const QStringList texts = formatter(moments);
+        for (int i = 0; i < moments.size(); ++i) {
+            attempt(lines[i], [&] { writer(moments[i], texts[i]); });
+        }
+        moments.clear();
+        lines.clear();
+    }
+    return status;
+}
+
+} // namespace zel::tool
