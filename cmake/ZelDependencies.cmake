@@ -11,4 +11,4 @@ else()
 endif()
 
 find_package(PkgConfig REQUIRED)
-pkg_check_modules(ICU REQUIRED IMPORTED_TARGET GLOBAL icu-uc>=72 icu-i18n>=72)
+pkg_check_modules(ZEL_ICU REQUIRED IMPORTED_TARGET GLOBAL icu-uc>=72 icu-i18n>=72)

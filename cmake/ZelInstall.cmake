@@ -15,13 +15,17 @@ install(TARGETS zelutilityi18n EXPORT ZelUtilityI18nTargets
     LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT library NAMELINK_COMPONENT development)
 install(TARGETS ${platformLibraries} EXPORT ZelUtilityI18nTargets
     LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT library NAMELINK_SKIP)
-install(TARGETS zel-i18n RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT tool)
-install(FILES "${PROJECT_SOURCE_DIR}/tools/zel-i18n.1"
-    DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT tool)
-install(FILES "${PROJECT_SOURCE_DIR}/tools/zel-i18n.bash-completion"
-    DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" RENAME zel-i18n COMPONENT tool)
+install(DIRECTORY "${PROJECT_BINARY_DIR}/share/zel/icu/" DESTINATION "${CMAKE_INSTALL_DATADIR}/zel/icu" COMPONENT data
+    FILES_MATCHING PATTERN "*.res" PATTERN "bundles.list" PATTERN "*.unfinished.*" EXCLUDE)
+if(ZEL_BUILD_TOOL)
+    install(TARGETS zel-i18n RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT tool)
+    install(FILES "${PROJECT_SOURCE_DIR}/tools/zel-i18n.1"
+        DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT tool)
+    install(FILES "${PROJECT_SOURCE_DIR}/tools/zel-i18n.bash-completion"
+        DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" RENAME zel-i18n COMPONENT tool)
+endif()
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/include/zel/utility"
-    DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/zel" COMPONENT development FILES_MATCHING PATTERN "*.h")
+    DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/zel" COMPONENT development)
 
 # The CMake package and the pkg-config module. ICU is behind the library: nobody needs it to build against it.
 set(qtVersion "${Qt${ZEL_QT_MAJOR}Core_VERSION_MAJOR}.${Qt${ZEL_QT_MAJOR}Core_VERSION_MINOR}")

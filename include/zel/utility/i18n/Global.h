@@ -16,6 +16,16 @@
 #endif
 
 /**
+ * Marks what a later major version removes; the text names the replacement. Define
+ * `ZEL_UTILITY_I18N_NO_DEPRECATED_WARNINGS` to silence the compiler about all of it.
+ */
+#ifdef ZEL_UTILITY_I18N_NO_DEPRECATED_WARNINGS
+#define ZEL_UTILITY_I18N_DEPRECATED(replacement)
+#else
+#define ZEL_UTILITY_I18N_DEPRECATED(replacement) [[deprecated(replacement)]]
+#endif
+
+/**
  * Opens a section of signals, each marked with `Q_SIGNAL`. The meta-object lists them as protected, since only their
  * owner emits them; in C++ they are public, so that a type-safe `QObject::connect` can name them.
  */
