@@ -3,7 +3,7 @@
 
 #include <QtCore/QtGlobal>
 
-/** Marks what the platform libraries export; the same when building and when using them. */
+/** Exports a symbol of the platform libraries; the same for building and using them. */
 #define ZEL_EXPORT Q_DECL_EXPORT
 
 #endif

@@ -10,19 +10,22 @@ namespace zel::utility::i18n {
  * The choice between a 12-hour and a 24-hour clock.
  *
  * @code
+ * #include <zel/utility/i18n/RelativeDateFormatter.h>
+ *
  * using namespace zel::utility::i18n;
+ * RelativeDateFormatter formatter(RelativeDateFormat::TimeCritical);
  * formatter.setClockFormat(ClockFormat::Use24hourClock);
  * @endcode
  */
 namespace ClockFormat {
 Q_NAMESPACE_EXPORT(ZEL_UTILITY_I18N_EXPORT)
 
-/** Which clock a text shows. The device's own setting is only ever one of the last two. */
+/** The clock that a text shows. The device setting has only the last two values. */
 enum Type : int {
-    ApplyUserFormat = 1,   ///< follow the user's setting on the device
-    ApplyLocaleFormat = 2, ///< keep the clock that is customary in the locale
-    Use12hourClock = 12,   ///< force a 12-hour clock with an AM/PM field
-    Use24hourClock = 24    ///< force a 24-hour clock
+    ApplyUserFormat = 1,   ///< the clock setting of the device; 12-hour where it is not set
+    ApplyLocaleFormat = 2, ///< the clock customary in the locale
+    Use12hourClock = 12,   ///< a 12-hour clock with an AM/PM field
+    Use24hourClock = 24    ///< a 24-hour clock
 };
 Q_ENUM_NS(Type)
 

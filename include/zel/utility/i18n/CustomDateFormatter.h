@@ -14,27 +14,29 @@ namespace zel::utility::i18n {
 class CustomDateFormatterPrivate;
 
 /**
- * Formats moments by an ICU skeleton and follows the device while it lives.
+ * Formats moments by an ICU skeleton, in the user's region locale, and follows the device settings.
  *
  * A skeleton names the fields to show, in any order and without punctuation: "yMMMd" is year, abbreviated month and
- * day; "hm" is hour and minute. The text is that of the user's region locale in the Gregorian calendar; days before
- * 15 October 1582 are those of the Julian calendar. Three settings of the device shape it:
+ * day; "hm" is hour and minute. The locale decides on their order and punctuation. The calendar is Gregorian; days
+ * before 15 October 1582 are Julian. Three device settings matter:
  *
- * - the clock: in a skeleton with hours, "h" and "H" become the letter of the device's 12-hour or 24-hour clock. A
- *   change arrives through the event loop of the thread that created the formatter;
- * - the region: looked at on every format();
- * - the time zone: a skeleton with a zone ("z", "v", in either case) shows the moment in the zone of the device.
- * Without one, the date and time are shown as the QDateTime holds them, never converted.
+ * - Region: read by every format().
+ * - Clock: in a skeleton with hours, "h" and "H" become the letter of the device's 12-hour or 24-hour clock. A change
+ *   arrives through the event loop of the formatter's thread; without an event loop the formatter keeps its clock.
+ * - Time zone: a skeleton with a zone ("z", "v", in either case) shows the moment in the time zone of the device, GMT
+ *   where none is set. Other skeletons show the date and time that the QDateTime holds, without conversion.
  *
- * A formatter belongs to the thread that created it and is used there only; different threads use formatters of their
- * own.
+ * Use a formatter only on the thread that created it; give each thread its own.
+ *
+ * A text follows the spelling rules for the middle of a sentence. Where it stands alone, for example in a list, some
+ * languages expect a capital first letter, which the application adds: French "lundi 3 septembre 2012".
  *
  * @code
  * #include <zel/utility/i18n/CustomDateFormatter.h>
  *
  * using namespace zel::utility::i18n;
  * const CustomDateFormatter formatter(QStringLiteral("yMMMdhm"));
- * const QString text = formatter.format(QDateTime::currentDateTime()); // May 16, 2012, 10:30 AM
+ * const QString text = formatter.format(QDateTime::currentDateTime()); // Sep 3, 2012, 10:30 AM
  * @endcode
  */
 class ZEL_UTILITY_I18N_EXPORT CustomDateFormatter : public QObject
@@ -45,7 +47,9 @@ class ZEL_UTILITY_I18N_EXPORT CustomDateFormatter : public QObject
 
 public:
     /**
-     * Creates a formatter for a skeleton.
+     * Creates a formatter that belongs to the calling thread, any thread.
+     *
+     * If ICU cannot build a pattern from the skeleton, a message is written and isValid() is false.
      *
      * @param skeleton letters of an ICU date/time skeleton, for example "yMMMd"
      * @param parent the owner, or null
@@ -54,36 +58,45 @@ public:
     ~CustomDateFormatter() override;
 
     /**
-     * True once a pattern could be made of a skeleton; it stays true from then on. ICU ignores what is not a field: a
-     * formatter for the skeleton "" or "???" is valid, and its texts are empty.
+     * Returns whether the formatter has a pattern; once true, it stays true. Call on the formatter's thread.
+     *
+     * ICU ignores characters that are not fields: a formatter for "" or "???" is valid, and its texts are empty.
      */
     Q_INVOKABLE bool isValid() const;
 
-    /** The skeleton as it was set last, also when no pattern could be made of it. */
+    /**
+     * Returns the skeleton that was set last, even if ICU could not build a pattern from it. Cannot fail. Call on the
+     * formatter's thread.
+     */
     QString skeleton() const;
 
     /**
-     * The text for a moment.
+     * Formats a moment in the user's region locale as it is now. Call on the formatter's thread.
      *
-     * @param dateTime the moment; an invalid one is taken as a moment about the start of 1970
-     * @return the text; a null string, with a message, when the formatter is not valid or ICU cannot format the moment
+     * @param dateTime the moment; an invalid one is formatted as the start of 1970
+     * @return the text; a null string, with a message, if the formatter is not valid or ICU cannot format the moment
      */
     Q_INVOKABLE QString format(const QDateTime& dateTime) const;
 
     /**
-     * The texts that format() would give for many moments one by one, in order and with the same messages. Region,
-     * clock and time zone are read once. Nothing is kept afterwards. The call cannot be cancelled and blocks its
-     * thread.
+     * Formats many moments: the texts and messages of one format() call each, in order, at a fraction of the cost.
+     *
+     * Region, clock and time zone are read once. The call blocks and cannot be cancelled; nothing is kept afterwards.
+     * Call on the formatter's thread.
      *
      * @param dateTimes the moments, as for format()
-     * @return as many texts; a null string where format() would return one
+     * @return one text for each moment; a null string where format() would return one
      */
     QStringList formatAll(const QList<QDateTime>& dateTimes) const;
 
 public Q_SLOTS:
     /**
-     * Changes the skeleton. One of which ICU can make no pattern is kept as the skeleton, with a message, while the
-     * pattern before it stays in use.
+     * Sets the skeleton. Texts keep following the user's region locale. Call on the formatter's thread.
+     *
+     * If ICU cannot build a pattern, the skeleton is stored, a message is written, and the previous pattern stays in
+     * use.
+     *
+     * @param skeleton letters of an ICU date/time skeleton
      */
     void setSkeleton(const QString& skeleton);
 

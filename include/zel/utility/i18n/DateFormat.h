@@ -7,6 +7,8 @@ namespace zel::utility::i18n {
  * The length of a date or time format.
  *
  * @code
+ * #include <zel/utility/i18n/Formatting.h>
+ *
  * using namespace zel::utility::i18n;
  * const QString pattern = dateFormat(QLocale("en_US"), DateFormat::Full); // "dddd, MMMM d, yyyy"
  * @endcode
@@ -14,14 +16,13 @@ namespace zel::utility::i18n {
 namespace DateFormat {
 
 /**
- * How much a format shows. Any other value asks for the medium length; where the locale's own pattern cannot be
- * expressed in Qt syntax, such a value falls back to Qt's long format.
+ * Four lengths. Any other value means Medium, except that where Qt's own format is the fallback, it is Qt's long one.
  */
 enum Type : int {
-    Short = 1,  ///< numbers only where the locale has such a form: 5/16/12
-    Medium = 2, ///< abbreviated names: May 16, 2012
-    Long = 3,   ///< full names: May 16, 2012
-    Full = 4    ///< full names with the weekday: Wednesday, May 16, 2012
+    Short = 1,  ///< numbers only, where the locale has such a form: 9/3/12
+    Medium = 2, ///< abbreviated names: Sep 3, 2012
+    Long = 3,   ///< full names: September 3, 2012
+    Full = 4    ///< full names with the weekday: Monday, September 3, 2012
 };
 
 } // namespace DateFormat

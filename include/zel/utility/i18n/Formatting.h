@@ -8,81 +8,114 @@
 
 /**
  * @file
- * The locale's date and time patterns in Qt syntax, and percentages.
+ * The date and time patterns of a locale in Qt syntax, and percentages.
  *
- * A pattern is meant for QLocale::toString(), QDate::toString() and their relatives. It comes from ICU's data for the
- * locale in the Gregorian calendar. Where ICU's pattern holds a field that Qt cannot express (an era, for example),
- * QLocale's own format of the nearest length answers instead: the short one for Short and Medium, otherwise the long
- * one. A pattern is never empty.
+ * A pattern is for QLocale::toString() and its relatives. It comes from ICU's data for the locale in the Gregorian
+ * calendar. The **fallback** is QLocale's own format: where ICU's pattern has a field that Qt lacks (an era, for
+ * example), Short and Medium return Qt's short format, other lengths Qt's long one. QLocale::c() counts as English.
  *
- * The overloads without a locale use the user's region locale, asked afresh on every call. All functions are reentrant
- * and may be called on any thread. Times follow the clock setting of the device at the moment of the call.
+ * What may surprise:
+ *
+ * - The fallback of a date-time does not follow the clock of the device: Thai in Long and Full, Lao in Full.
+ * - Qt has no hour field from 0 to 11. Under a 12-hour clock, half past noon in Japanese is 午後12:30 with a Qt
+ *   pattern, and 午後0:30 with CustomDateFormatter.
+ * - Qt has one form of a weekday's name, ICU two. In Finnish and Inari Sami, Full shows the inflected one:
+ *   "maanantaina 3. syyskuuta 2012", where ICU has "maanantai".
+ * - A text that stands alone, for example in a list, may need a capital first letter, which the application adds.
  *
  * @code
  * #include <zel/utility/i18n/Formatting.h>
  *
  * using namespace zel::utility::i18n;
  * const QLocale german("de_DE");
- * const QString text = german.toString(QDate::currentDate(), dateFormat(german, DateFormat::Long)); // 16. Mai 2012
+ * const QString text = german.toString(QDate::currentDate(), dateFormat(german, DateFormat::Long)); // 3. September
+ * 2012
  * @endcode
  */
 
 namespace zel::utility::i18n {
 
 /**
- * The date pattern of a locale, in Qt syntax.
+ * Returns the date pattern of a locale in Qt syntax. Call on any thread.
  *
- * @param locale the locale whose pattern is asked for
- * @param type the length; any value but the four of DateFormat::Type asks for the medium length
- * @return for example "dd.MM.yy" for German and DateFormat::Short
+ * @param locale the locale of the pattern
+ * @param type the length; an unknown value means Medium
+ * @return the pattern, never empty, for example "dd.MM.yy" for German and Short; the fallback where Qt cannot express
+ * ICU's pattern
  */
 ZEL_UTILITY_I18N_EXPORT QString dateFormat(const QLocale& locale, DateFormat::Type type);
 
-/** The date pattern of the user's region locale, in Qt syntax. */
+/**
+ * Returns the date pattern of the user's region locale as it is now, in Qt syntax. Call on any thread.
+ *
+ * @param type the length; an unknown value means Medium
+ * @return the pattern, never empty; the fallback where Qt cannot express ICU's pattern
+ */
 ZEL_UTILITY_I18N_EXPORT QString dateFormat(DateFormat::Type type);
 
 /**
- * The time pattern of a locale under the clock of the device, in Qt syntax.
+ * Returns the time pattern of a locale in Qt syntax, under the clock of the device as it is now. Call on any thread.
  *
- * The pattern holds an AM/PM field ("AP", or "ap" where the locale does not write it in capitals) exactly when the
- * device shows a 12-hour clock. Where Qt's own format has to answer, it is returned as Qt gives it, whatever the clock.
+ * The pattern has an AM/PM field ("AP", or "ap" where the locale writes it in lower case) exactly when the device has a
+ * 12-hour clock, which is also the default where no clock is set.
  *
- * @param locale the locale whose pattern is asked for
- * @param type the length; any value but the four of DateFormat::Type asks for the medium length
- * @return for example "hh:mm" or "h:mm AP" for English and DateFormat::Short
+ * @param locale the locale of the pattern
+ * @param type the length; an unknown value means Medium
+ * @return the pattern, never empty, for example "hh:mm" or "h:mm AP" for English and Short; the fallback, under
+ * whichever clock Qt has, where Qt cannot express ICU's pattern
  */
 ZEL_UTILITY_I18N_EXPORT QString timeFormat(const QLocale& locale, DateFormat::Type type);
 
-/** The time pattern of the user's region locale under the clock of the device, in Qt syntax. */
+/**
+ * Returns the time pattern of the user's region locale in Qt syntax, under the clock of the device, both as they are
+ * now. Call on any thread.
+ *
+ * @param type the length; an unknown value means Medium
+ * @return the pattern, never empty; the fallback, under whichever clock Qt has, where Qt cannot express ICU's pattern
+ */
 ZEL_UTILITY_I18N_EXPORT QString timeFormat(DateFormat::Type type);
 
 /**
- * The pattern of a locale for a date with a time, both of the same length, under the clock of the device, in Qt syntax.
+ * Returns the pattern of a locale for a date with a time, both of one length, in Qt syntax, under the clock of the
+ * device as it is now. Call on any thread.
  *
- * The clock is followed as in timeFormat().
- *
- * @param locale the locale whose pattern is asked for
- * @param type the length; any value but the four of DateFormat::Type asks for the medium length
- * @return for example "dd.MM.yy, hh:mm" for German and DateFormat::Short on a device with a 24-hour clock
+ * @param locale the locale of the pattern
+ * @param type the length; an unknown value means Medium
+ * @return the pattern, never empty, for example "dd.MM.yy, hh:mm" for German, Short and a 24-hour clock; the fallback,
+ * under whichever clock Qt has, where Qt cannot express ICU's pattern
  */
 ZEL_UTILITY_I18N_EXPORT QString dateTimeFormat(const QLocale& locale, DateFormat::Type type);
 
-/** The pattern of the user's region locale for a date with a time, under the clock of the device, in Qt syntax. */
+/**
+ * Returns the pattern of the user's region locale for a date with a time, in Qt syntax, under the clock of the device,
+ * both as they are now. Call on any thread.
+ *
+ * @param type the length; an unknown value means Medium
+ * @return the pattern, never empty; the fallback, under whichever clock Qt has, where Qt cannot express ICU's pattern
+ */
 ZEL_UTILITY_I18N_EXPORT QString dateTimeFormat(DateFormat::Type type);
 
 /**
- * A number as a percentage, in the digits and with the sign and grouping of a locale.
+ * Formats a number as a percentage, in the digits and with the sign and grouping of a locale. Call on any thread.
  *
- * @param locale the locale to write for
- * @param value the number; 1.0 is a hundred percent
- * @param maximumFractionDigits the most digits behind the decimal point; the rest is rounded half to even
- * @param minimumFractionDigits the fewest digits behind the decimal point; the maximum wins where it is smaller
- * @return for example "25.6%" for 0.256 in English with 1 and 0 digits; a null string if ICU has no percent format
+ * @param locale the locale of the text
+ * @param value the number; 1.0 is 100 %. NaN and infinity are written as the locale writes them.
+ * @param maximumFractionDigits maximum fraction digits, rounded half to even; negative: all
+ * @param minimumFractionDigits minimum fraction digits; negative: none. The maximum wins where it is smaller.
+ * @return the text, for example "25.6%" for 0.256 in English with 1 and 0 digits; a null string if ICU has no percent
+ * format
  */
 ZEL_UTILITY_I18N_EXPORT QString toPercentageString(const QLocale& locale, double value, int maximumFractionDigits,
                                                    int minimumFractionDigits);
 
-/** A number as a percentage of the user's region locale. */
+/**
+ * Formats a number as a percentage in the user's region locale as it is now. Call on any thread.
+ *
+ * @param value the number; 1.0 is 100 %
+ * @param maximumFractionDigits maximum fraction digits; negative: all
+ * @param minimumFractionDigits minimum fraction digits; negative: none. The maximum wins where it is smaller.
+ * @return the text; a null string if ICU has no percent format
+ */
 ZEL_UTILITY_I18N_EXPORT QString toPercentageString(double value, int maximumFractionDigits, int minimumFractionDigits);
 
 } // namespace zel::utility::i18n

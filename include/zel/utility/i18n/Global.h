@@ -5,10 +5,10 @@
 
 /**
  * @file
- * The macros that the public headers share.
+ * Macros of the public headers.
  */
 
-/** Marks what the library exports. */
+/** Exports a symbol when the library is built, and imports it in applications. */
 #ifdef ZEL_UTILITY_I18N_BUILD
 #define ZEL_UTILITY_I18N_EXPORT Q_DECL_EXPORT
 #else
@@ -26,8 +26,8 @@
 #endif
 
 /**
- * Opens a section of signals, each marked with `Q_SIGNAL`. The meta-object lists them as protected, since only their
- * owner emits them; in C++ they are public, so that a type-safe `QObject::connect` can name them.
+ * Opens a section of signals, each marked with `Q_SIGNAL`. They are protected in the meta-object, as only their owner
+ * emits them, and public in C++, so that a type-safe `QObject::connect` can name them.
  */
 #ifdef Q_MOC_RUN
 #define ZEL_UTILITY_I18N_SIGNALS protected:

@@ -7,19 +7,21 @@
 namespace zel::utility::i18n {
 
 /**
- * How finely a relative date is told.
+ * Granularity of relative dates.
  *
  * @code
+ * #include <zel/utility/i18n/RelativeDateFormatter.h>
+ *
  * using namespace zel::utility::i18n;
- * RelativeDateFormatter formatter(RelativeDateFormat::NonTimeCritical);
+ * const RelativeDateFormatter formatter(RelativeDateFormat::NonTimeCritical);
  * @endcode
  */
 namespace RelativeDateFormat {
 Q_NAMESPACE_EXPORT(ZEL_UTILITY_I18N_EXPORT)
 
-/** The two ladders that a RelativeDateFormatter can climb. */
+/** The two formatting tables of RelativeDateFormatter. */
 enum Type : int {
-    TimeCritical = 1,   ///< down to hours and minutes, with the time of day beside the days: messages, calls
+    TimeCritical = 1,   ///< down to minutes, days with the time of day: messages, calls
     NonTimeCritical = 2 ///< days and coarser, without a time of day: files, notes
 };
 Q_ENUM_NS(Type)

@@ -18,30 +18,37 @@ namespace zel::utility::i18n {
 class RelativeDateFormatterPrivate;
 
 /**
- * Tells when a moment is, seen from an anchor time: "5 minutes ago", "yesterday 10:30", "Tue 10:30", "May 11",
+ * Formats a moment relative to an anchor time: "5 minutes ago", "yesterday 10:30", "Sat 10:30", "Aug 28",
  * "November 2011".
  *
- * The anchor is the time of construction until it is set; it does not advance by itself. Both the anchor and the moment
- * count by the date and time that the QDateTime shows, whatever its time zone. The locale is the user's region locale
- * and the clock the user's, as they were at construction, until they are set; call applyUserRegionLocale() to follow a
- * change of the region.
+ * The table is chosen by the calendar distance between moment and anchor:
  *
- * | distance                                | TimeCritical              | NonTimeCritical      |
- * | --------------------------------------- | ------------------------- | -------------------- |
- * | another calendar year                   | May 2011                  | May 2011             |
- * | four or more calendar days              | May 11                    | May 11               |
- * | two or three calendar days              | weekday with time         | weekday              |
- * | the day before or after                 | yesterday with time       | yesterday            |
- * | an hour or more within the day          | 3 hours ago               | today                |
- * | less                                    | 5 minutes ago             | today                |
+ * | distance                     | TimeCritical        | NonTimeCritical |
+ * | ---------------------------- | ------------------- | --------------- |
+ * | another calendar year        | November 2011       | November 2011   |
+ * | four or more calendar days   | Aug 28              | Aug 28          |
+ * | two or three calendar days   | Sat 10:30           | Saturday        |
+ * | the day before or after      | yesterday 10:30     | yesterday       |
+ * | an hour or more, same day    | 3 hours ago         | today           |
+ * | less                         | 5 minutes ago       | today           |
  *
- * A formatter belongs to the thread that created it and is used there only.
+ * - The anchor is the time of construction until it is set. It does not advance by itself; see validUntil().
+ * - Moment and anchor count by the date and time that each QDateTime shows, whatever its time zone. Convert both to one
+ *   zone first: with an anchor of 10:30 UTC, 12:30 in Berlin is the same instant but reads "in 2 hours".
+ * - With RelativeDateWording::Exact, the default, another calendar year comes first: on 1 January, two minutes ago may
+ *   read "December 2012".
+ * - Locale and clock are the user's at construction until they are set. A later change on the device does not change a
+ *   formatter: call applyUserRegionLocale() or create another one.
+ * - A text follows the spelling rules for the middle of a sentence. Where it stands alone, for example in a list, it
+ * may need a capital first letter, which the application adds.
+ *
+ * Use a formatter only on the thread that created it; give each thread its own.
  *
  * @code
  * #include <zel/utility/i18n/RelativeDateFormatter.h>
  *
  * using namespace zel::utility::i18n;
- * RelativeDateFormatter formatter(RelativeDateFormat::TimeCritical);
+ * const RelativeDateFormatter formatter(RelativeDateFormat::TimeCritical);
  * const QString text = formatter.format(QDateTime::currentDateTime().addSecs(-300)); // 5 minutes ago
  * @endcode
  */
@@ -53,95 +60,125 @@ class ZEL_UTILITY_I18N_EXPORT RelativeDateFormatter : public QObject
 
 public:
     /**
-     * Creates a formatter with the current time as its anchor.
+     * Creates a formatter that belongs to the calling thread, any thread. Anchor: now; locale: the user's region
+     * locale; clock: ClockFormat::ApplyUserFormat; wording: RelativeDateWording::Exact.
      *
-     * @param type the ladder to use; any other value gives a formatter that formats nothing until setType()
+     * @param type the formatting table; with an unknown one, a message is written and format() fails until setType()
      * @param parent the owner, or null
      */
     explicit RelativeDateFormatter(RelativeDateFormat::Type type, QObject* parent = nullptr);
     ~RelativeDateFormatter() override;
 
-    /** The ladder in use. */
+    /** Returns the formatting table, also an unknown one that was set. Cannot fail. Call on the formatter's thread. */
     RelativeDateFormat::Type type() const;
 
     /**
-     * Changes the ladder. With another one, everything starts from its defaults again: the current time as anchor, the
-     * user's region locale and clock, and RelativeDateWording::Exact.
+     * Sets the formatting table. Another table resets anchor, locale, clock and wording to those of a new formatter and
+     * emits changed(); the same one does nothing. Call on the formatter's thread.
+     *
+     * @param type the formatting table; with an unknown one, a message is written and format() fails until the next
+     * setType()
      */
     void setType(RelativeDateFormat::Type type);
 
-    /** The locale of texts and phrases. */
+    /**
+     * Returns the locale of the texts: the one that was set last, or the user's region locale at the last reset. Cannot
+     * fail. Call on the formatter's thread.
+     */
     QLocale locale() const;
 
-    /** Changes the locale of texts and phrases. */
+    /**
+     * Sets the locale of the texts and emits changed(); the same locale does nothing. Call on the formatter's thread.
+     *
+     * @param locale the locale; QLocale::c() counts as English. A part that ICU has no data for comes from the parent
+     * locale; if ICU cannot build a pattern, a message is written and texts are empty.
+     */
     void setLocale(const QLocale& locale);
 
-    /** The moment from which distances are counted. */
+    /** Returns the moment that distances are counted from. Cannot fail. Call on the formatter's thread. */
     QDateTime anchorTime() const;
 
-    /** The clock as it was set last; ClockFormat::ApplyUserFormat until then. */
+    /**
+     * Returns the clock that was set last; ClockFormat::ApplyUserFormat by default. Cannot fail. Call on the
+     * formatter's thread.
+     */
     ClockFormat::Type clockFormat() const;
 
-    /** How distances are worded; RelativeDateWording::Exact until another wording is set. */
+    /**
+     * Returns the wording that was set last; RelativeDateWording::Exact by default. Cannot fail. Call on the
+     * formatter's thread.
+     */
     RelativeDateWording::Type wording() const;
 
-    /** Changes the wording. */
+    /**
+     * Sets the wording and emits changed(); the same wording does nothing. Call on the formatter's thread.
+     *
+     * @param wording the wording; an unknown value means Exact
+     */
     void setWording(RelativeDateWording::Type wording);
 
     /**
-     * The text for a moment.
+     * Formats a moment relative to the anchor, in the formatter's locale. Call on the formatter's thread.
      *
-     * @param dateTime the moment to tell; an invalid one reads as 1 January 1970
-     * @return the text; a null string, with a message, when the type is invalid or ICU cannot format the moment
+     * @param dateTime the moment; an invalid one counts as 1970-01-01 00:00
+     * @return the text; a null string, with a message, if the type is unknown or ICU cannot format the moment
      */
     Q_INVOKABLE QString format(const QDateTime& dateTime) const;
 
     /**
-     * The texts that format() would give for many moments one by one, in order and with the same messages. It costs
-     * much less than one call for each: what the texts need is prepared once. Nothing is kept afterwards. The call
-     * cannot be cancelled and blocks its thread.
+     * Formats many moments: the texts and messages of one format() call each, in order, at a fraction of the cost.
+     *
+     * The call blocks and cannot be cancelled; nothing is kept afterwards. Call on the formatter's thread.
      *
      * @param dateTimes the moments, as for format()
-     * @return as many texts; a null string where format() would return one
+     * @return one text for each moment; a null string where format() would return one
      */
     QStringList formatAll(const QList<QDateTime>& dateTimes) const;
 
     /**
-     * The first anchor time after the present one at which the text of a moment may be another one: renew the text
-     * then, and not before. A clock that is put forward or back is counted in.
+     * Returns the first anchor time after the present one at which the text of a moment may change: format it again
+     * then, not before. Changes of the zone's offset (daylight saving time) are included. Call on the formatter's
+     * thread.
      *
      * @param dateTime the moment, in the years 1 to 9999
-     * @return a time in the anchor's time zone; an invalid one if the text can never change again, if the moment or the
-     * anchor is outside the years 1 to 9999, or if the type is invalid
+     * @return a time in the anchor's time zone; an invalid one if the text never changes again, if the moment or the
+     * anchor is outside the years 1 to 9999, or if the type is unknown
      */
     QDateTime validUntil(const QDateTime& dateTime) const;
 
     ZEL_UTILITY_I18N_SIGNALS
-    /** The anchor, the locale, the clock, the wording or the ladder has changed: texts made before may be out of date.
-     */
+    /** Anchor, locale, clock, wording or type changed: format texts again. Emitted on the calling thread. */
     Q_SIGNAL void changed();
 
 public Q_SLOTS:
     /**
-     * Changes the moment from which distances are counted. The same instant under another time zone is equal, and an
-     * equal anchor changes nothing.
+     * Sets the moment that distances are counted from and emits changed(). An equal instant does nothing, even in
+     * another time zone. Call on the formatter's thread.
+     *
+     * @param anchorTime the anchor; it counts by the date and time that it shows. An invalid one counts as
+     * 1970-01-01 00:00.
      */
     void setAnchorTime(const QDateTime& anchorTime);
 
-    /** Takes the current time as anchor. */
+    /** Sets the anchor to the current local time, as setAnchorTime() does. Call on the formatter's thread. */
     void applyCurrentTimeAsAnchor();
 
-    /** Takes the user's region locale as it is now. */
+    /**
+     * Sets the locale to the user's region locale as it is now, and emits changed() if it is another one. Where the
+     * region is not set, it is the locale of the process's environment. Call on the formatter's thread.
+     */
     void applyUserRegionLocale();
 
     /**
-     * Changes the clock. ClockFormat::ApplyUserFormat reads the setting of the device now, and not again until the
-     * clock or the locale is changed. The value that is set already changes nothing and reads nothing.
+     * Sets the clock and emits changed(); the same value does nothing. Call on the formatter's thread.
+     *
+     * @param format the clock; ApplyUserFormat reads the device setting once, now and again when the locale changes.
+     * With an unknown value, a message is written and texts with a time of day are empty.
      */
     void setClockFormat(zel::utility::i18n::ClockFormat::Type format);
 
 protected Q_SLOTS:
-    /** The same with the number of a ClockFormat::Type, for signals that carry one. */
+    /** The same for signals that carry a number. Call on the formatter's thread. */
     void setClockFormat(int format);
 
 private:

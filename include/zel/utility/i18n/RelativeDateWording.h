@@ -4,20 +4,25 @@
 namespace zel::utility::i18n {
 
 /**
- * How relative dates are worded.
+ * The wording of relative dates.
  *
  * @code
+ * #include <zel/utility/i18n/RelativeDateFormatter.h>
+ *
  * using namespace zel::utility::i18n;
+ * RelativeDateFormatter formatter(RelativeDateFormat::TimeCritical);
  * formatter.setWording(RelativeDateWording::Natural); // "now" instead of "in 0 minutes"
  * @endcode
  */
 namespace RelativeDateWording {
 
-/** Two ways to word the same distance. Any other value reads as Exact. */
+/** Two ways to word the same distance. Any other value means Exact. */
 enum Type : int {
-    Exact = 1, ///< every count is written, and another calendar year is always written as month and year
-    /// Less than a minute reads as the locale's own word for now, where its data has one. Days up to three days away
-    /// are named across the turn of the year, too: on 1 January, "yesterday 23:59".
+    /// Counts are always written, and a moment of another calendar year is always month and year: on 1 January, two
+    /// minutes ago may read "December 2012".
+    Exact = 1,
+    /// Less than a minute is the locale's word for now, where its data has one. Days up to three days away are named
+    /// across the turn of the year, too: on 1 January, two minutes ago may read "yesterday 23:59".
     Natural = 2
 };
 

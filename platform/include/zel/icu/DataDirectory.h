@@ -2,40 +2,49 @@
 #define ZEL_ICU_DATADIRECTORY_H
 
 /**
- * Where ICU finds the relative-date phrases.
+ * The directory in which ICU finds the phrases of relative dates.
  *
- * The library behind this header, libzelicudata, points ICU to the directory with the phrase tables when it is loaded:
- * to share/zel/icu beside its own lib directory. It leaves ICU alone when ICU_DATA or the application has named a
- * directory by then; in a process with raised privileges ICU_DATA names none. It also leaves ICU alone where that
- * directory has no data for the ICU in use, or damaged data, which ICU would trust, and says so on the standard error
- * stream. An application that wants data of its own calls u_setDataDirectory() in main(), before its first use of ICU.
+ * When libzelicudata is loaded, it points ICU to the directory with the phrase tables: share/zel/icu beside its own lib
+ * directory. It leaves ICU as it is where ICU_DATA (ignored in a process with raised privileges) or the application has
+ * named a directory by then. It also does so, with a line on standard error, where the directory has no data for the
+ * ICU in use or has damaged data, which ICU would trust. An application with other data calls u_setDataDirectory() in
+ * main(), before its first use of ICU.
  *
- * The functions may be called from any thread.
+ * Call every function on any thread. None fails other than by its return value.
+ *
+ * @code
+ * #include <cstdio>
+ * #include <zel/icu/DataDirectory.h>
+ *
+ * if (!zel::icudata::hasPhraseTables()) {
+ *     std::puts(zel::icudata::dataDirectoryProblem());
+ * }
+ * @endcode
  */
 namespace zel::icudata {
 
-/** The directory with phrase tables beside this library, absolute, or "" where there is none that can be used. */
+/** Returns the absolute path of the directory with phrase tables beside this library; "" if none can be used. */
 __attribute__((visibility("default"))) const char* dataDirectory() noexcept;
 
-/** Why dataDirectory() is ""; otherwise "". */
+/** Returns the reason why dataDirectory() is ""; otherwise "". */
 __attribute__((visibility("default"))) const char* dataDirectoryProblem() noexcept;
 
 /**
- * Looks at every bundle in the directory that ICU uses, once in a process, and leaves ICU with its own data where one
- * is missing or damaged. The other functions, and all of the product, do so before they ask ICU for a locale's data.
+ * Checks every bundle in the directory that ICU uses, once in a process. If one is missing or damaged, ICU is taken
+ * back to its own data. The other functions, and the whole library, call this before they ask ICU for a locale's data.
  */
 __attribute__((visibility("default"))) void checkDataDirectory() noexcept;
 
-/** Whether ICU looks into dataDirectory(). False where somebody else named a directory, and where there is none. */
+/** Returns whether ICU uses dataDirectory(): false if it uses another directory, or if there is none. */
 __attribute__((visibility("default"))) bool isDataDirectoryInUse() noexcept;
 
-/** Whether the data that ICU opens by default has phrase tables, wherever it comes from. */
+/** Returns whether the data that ICU opens by default has phrase tables, from whichever directory. */
 __attribute__((visibility("default"))) bool hasPhraseTables() noexcept;
 
 /**
- * The package from which to open bundles with phrase tables, as ICU's functions take it. Null stands for ICU's default
- * data: these have the tables, or others than ours are in use. Otherwise ICU had opened its own root bundle before this
- * library was loaded, and keeps it; the package is a way round that.
+ * Returns the ICU package from which to open bundles with phrase tables; null for ICU's default data. It is null unless
+ * ICU had opened its own root bundle before this library was loaded: ICU keeps that one, and the package is a way round
+ * it.
  */
 __attribute__((visibility("default"))) const char* phrasePackage() noexcept;
 

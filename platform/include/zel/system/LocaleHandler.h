@@ -12,37 +12,43 @@ class PpsObject;
 
 namespace system {
 
-/** Which of the user's locales. */
+/** The kinds of locale that a user has. */
 namespace LocaleType {
 enum Type : int {
-    Region = 2 /**< the locale for dates, times and numbers, apart from the language of the display */
+    Region = 2 ///< the locale for dates, times and numbers; not the language of the display
 };
 } // namespace LocaleType
 
 /**
- * The user's locale of one type; any type but Region is answered with the C locale.
+ * The user's locale of one type. Types other than Region give the C locale.
  *
- * The region is the attribute `region` of the settings object `/pps/system/locale`, as a BCP 47 or POSIX name. Where
- * that is not set, it is the process's POSIX locale for times: the first of `LC_ALL`, `LC_TIME` and `LANG` that is not
- * empty. A region that is not a locale is reported with one warning and answered like one that is not set;
- * an object that cannot be read is reported as well, and the region that it gave before stays.
+ * The region is the attribute `region` of the settings object `/pps/system/locale`, a BCP 47 or POSIX name. Where it is
+ * not set, the fallback is the process's POSIX locale for times: the first of `LC_ALL`, `LC_TIME` and `LANG` that is
+ * not empty. A region that is not a locale is reported with one warning, and the fallback is used; an object that
+ * cannot be read is reported as well, and its last region stays in use.
  *
- * Made to be constructed anew for every question: that and locale() together cost one look at a file's status and
- * little else.
+ * Construct one for each query: that and locale() cost one stat() and little else.
+ *
+ * @code
+ * #include <zel/system/LocaleHandler.h>
+ *
+ * const QLocale region = zel::system::LocaleHandler(zel::system::LocaleType::Region).locale();
+ * @endcode
  */
 class ZEL_EXPORT LocaleHandler : public QObject
 {
     Q_OBJECT
 
 public:
+    /** Creates a handler for a type, on any thread. Cannot fail. */
     explicit LocaleHandler(LocaleType::Type type, QObject* parent = nullptr);
     ~LocaleHandler() override;
 
-    /** The locale as it is now. May be called on any thread, and needs no event loop. */
+    /** Returns the locale as it is now. Needs no event loop. Call on any thread. */
     QLocale locale() const;
 
 Q_SIGNALS:
-    /** The locale is another one. Emitted on the handler's thread, which needs an event loop. */
+    /** The locale changed. Emitted on the handler's thread, which needs an event loop. */
     void changed();
 
 protected:
