@@ -10,7 +10,7 @@ using namespace zel::utility::i18n;
 
 namespace {
 
-const QDateTime moment(QDate(2012, 5, 16), QTime(22, 30));
+const QDateTime moment(QDate(2012, 9, 3), QTime(22, 30));
 
 // A pattern is in Qt's syntax, and QLocale writes with it.
 void showPatterns(QTextStream& out)

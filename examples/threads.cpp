@@ -23,7 +23,7 @@ struct Result
 // A formatter belongs to the thread that created it.
 void write(const char* locale, Result& result)
 {
-    const QDateTime anchor(QDate(2012, 5, 16), QTime(10, 30));
+    const QDateTime anchor(QDate(2012, 9, 3), QTime(10, 30));
     const CustomDateFormatter date(QStringLiteral("yMMMd"));
     RelativeDateFormatter relative(RelativeDateFormat::TimeCritical);
     relative.setLocale(QLocale(QLatin1String(locale)));

@@ -51,9 +51,9 @@ private Q_SLOTS:
     {
         const NamedRow<QStringList, QString> row;
         row("console", {}, R"(Patterns of France
-  mercredi 16 mai 2012
+  lundi 3 septembre 2012
   22:30
-  16 mai 2012, 22:30:00
+  3 sept. 2012, 22:30:00
 Patterns of the user's region
   d MMMM yyyy
   hh:mm:ss
@@ -62,7 +62,7 @@ Percentages
   25,6 %
   50.00%
 Custom dates
-  yMMMMEEEEd: Wednesday, 16 May 2012
+  yMMMMEEEEd: Monday, 3 September 2012
   hm: 22:30
 Relative dates
   5 minutes ago
@@ -72,16 +72,16 @@ Relative dates
   in the user's region again: 5 minutes ago
   in days, as type 2: today
   as of now: today)");
-        row("threads", {}, R"(en_GB  100 dates  16 May 2012  5 minutes ago
-de_DE  100 dates  16 May 2012  vor 5 Minuten
-fr_FR  100 dates  16 May 2012  il y a 5 minutes
-pl_PL  100 dates  16 May 2012  5 minut temu
-ar_EG  100 dates  16 May 2012  قبل ٥ دقائق
-ja_JP  100 dates  16 May 2012  5 分前
-he_IL  100 dates  16 May 2012  לפני 5 דקות
-th_TH  100 dates  16 May 2012  5 นาทีที่ผ่านมา)");
+        row("threads", {}, R"(en_GB  100 dates  3 Sept 2012  5 minutes ago
+de_DE  100 dates  3 Sept 2012  vor 5 Minuten
+fr_FR  100 dates  3 Sept 2012  il y a 5 minutes
+pl_PL  100 dates  3 Sept 2012  5 minut temu
+ar_EG  100 dates  3 Sept 2012  قبل ٥ دقائق
+ja_JP  100 dates  3 Sept 2012  5 分前
+he_IL  100 dates  3 Sept 2012  לפני 5 דקות
+th_TH  100 dates  3 Sept 2012  5 นาทีที่ผ่านมา)");
         if (ZEL_HAS_QUICK) {
-            row("quick", {QStringLiteral("--print"), QStringLiteral("2012-05-16T10:30")},
+            row("quick", {QStringLiteral("--print"), QStringLiteral("2012-09-03T10:30")},
                 "5 minutes ago | 3 hours ago | yesterday 10:30\n"
                 "today | today | yesterday");
         }
@@ -99,7 +99,7 @@ th_TH  100 dates  16 May 2012  5 นาทีที่ผ่านมา)");
         QCOMPARE(messages.line(), QStringLiteral("5 minutes ago | 3 hours ago | yesterday 21:25"));
         QCOMPARE(messages.line(), QStringLiteral("1 hour ago | 4 hours ago | yesterday 21:25"));
         QCOMPARE(messages.line(), QStringLiteral("2 hours ago | 5 hours ago | yesterday 21:25"));
-        QCOMPARE(messages.line(), QStringLiteral("yesterday 21:20 | yesterday 18:25 | Tue 21:25"));
+        QCOMPARE(messages.line(), QStringLiteral("yesterday 21:20 | yesterday 18:25 | Sun 21:25"));
     }
 
     void messagesFollowTheDevice()
@@ -115,7 +115,7 @@ th_TH  100 dates  16 May 2012  5 นาทีที่ผ่านมา)");
 private:
     static QStringList listFrom(const char* step)
     {
-        return {QStringLiteral("--print"), QStringLiteral("--at"), QStringLiteral("2012-05-16T21:25"),
+        return {QStringLiteral("--print"), QStringLiteral("--at"), QStringLiteral("2012-09-03T21:25"),
                 QStringLiteral("--step"), QString::fromLatin1(step)};
     }
 

@@ -27,7 +27,7 @@ public:
     static QList<Rung> rungs(int type, const QDateTime& anchor);
 
     /** An anchor from which every way is seen. */
-    static QDateTime exampleAnchor() { return {QDate(2012, 5, 16), QTime(10, 30)}; }
+    static QDateTime exampleAnchor() { return {QDate(2012, 9, 3), QTime(10, 30)}; }
 };
 
 } // namespace zel::tool

@@ -24,12 +24,13 @@
  * - A text that stands alone, for example in a list, may need a capital first letter, which the application adds.
  *
  * @code
+ * #include <QtCore/QDate>
  * #include <zel/utility/i18n/Formatting.h>
  *
  * using namespace zel::utility::i18n;
  * const QLocale german("de_DE");
- * const QString text = german.toString(QDate::currentDate(), dateFormat(german, DateFormat::Long)); // 3. September
- * 2012
+ * const QString pattern = dateFormat(german, DateFormat::Long);        // d. MMMM yyyy
+ * const QString text = german.toString(QDate::currentDate(), pattern); // 3. September 2012
  * @endcode
  */
 
