@@ -9,6 +9,7 @@
 #include <QtTest/QtTest>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <unicode/uversion.h>
 #include <unistd.h>
 
 namespace {
@@ -467,6 +468,20 @@ private Q_SLOTS:
         QCOMPARE(noPhrases.status, 1);
         QVERIFY(noPhrases.output.contains(QLatin1String("wrong  relative dates   no phrases in ICU's data")));
         QVERIFY(noPhrases.output.contains(QLatin1String("/nowhere, from ICU_DATA")));
+    }
+
+    void doctorFindsOtherVersions()
+    {
+        QProcessEnvironment others = QProcessEnvironment::systemEnvironment();
+        others.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral(ZEL_OTHER_VERSIONS));
+        others.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("verify_asan_link_order=0"));
+        const Result result = Child(QStringLiteral(ZEL_TOOL), {QStringLiteral("doctor")}, others).finish();
+        QCOMPARE(result.status, 1);
+        for (const char* const line :
+             {"\nwrong  Qt               99.1.0, built with " QT_VERSION_STR "; build the library for this version\n",
+              "built with " U_ICU_VERSION "; build the library for this version\n"}) {
+            QVERIFY2(result.output.contains(QLatin1String(line)), qPrintable(result.output));
+        }
     }
 
     void watchFollowsTheDevice()

@@ -1,0 +1,16 @@
+// Loaded before ICU and Qt, which are other versions than a program was built with then.
+
+#include <algorithm>
+#include <iterator>
+#include <QtCore/QtGlobal>
+#include <unicode/uversion.h>
+
+extern "C" Q_DECL_EXPORT const char* qVersion() noexcept
+{
+    return "99.1.0";
+}
+
+U_CAPI void U_EXPORT2 u_getVersion(UVersionInfo version)
+{
+    std::fill_n(version, U_MAX_VERSION_LENGTH, uint8_t{98});
+}
