@@ -86,6 +86,15 @@ private Q_SLOTS:
             "hour-format=24,region=en_GB,time-zone=Europe/London",
             "09:30 BST\n17:00 BST");
         row("format|hmz|2012-05-16T10:30|--device|hour-format=24,region=en_GB,time-zone=Asia/Tokyo", "10:30 GMT+9");
+        row("format|yMdhms|20120903|20120903T1635|20120903T163502.5Z|20120903T163502+0530|Mon, 3 Sep 2012 16:35:02 "
+            "+0000|"
+            "03 sep 2012 16:35 GMT|Sun,  02 Sep 2012 16:35:02 -0700 (PDT)|--device|hour-format=24,region=de_DE",
+            "3.9.2012, 00:00:00\n3.9.2012, 16:35:00\n3.9.2012, 16:35:02\n3.9.2012, 16:35:02\n3.9.2012, 16:35:02\n"
+            "3.9.2012, 16:35:00\n2.9.2012, 16:35:02");
+        row("format|yMdhms|@1346690102|@-1.001|@0.9|@-62135596800|--device|hour-format=24,region=de_DE",
+            "3.9.2012, 16:35:02\n31.12.1969, 23:59:58\n1.1.1970, 00:00:00\n3.1.1, 00:00:00"); // Julian
+        row("format|yMdhm|@1346690100|--json|--device|hour-format=24,region=de_DE,time-zone=Asia/Tokyo",
+            R"({"moment":"2012-09-04T01:35:00+09:00","text":"4.9.2012, 01:35"})");
         row("format|Hm|2012-05-16T10:30|--json|--device|hour-format=24,region=en_GB",
             R"({"moment":"2012-05-16T10:30:00","text":"10:30"})");
 
@@ -104,6 +113,11 @@ private Q_SLOTS:
             "--clock|24",
             "jetzt\t2013-01-01T00:03:00\ngestern, 23:59\t2013-01-02T00:00:00");
         row("relative|--anchor|2012-05-16T10:30|--locale|en|--until|2011-05-16", "May 2011\tnever");
+        row("relative|--anchor|2012-05-16T10:30Z|--locale|en|--device|hour-format=24,time-zone=Asia/Tokyo|"
+            "2012-05-16T05:25-05:00|Wed, 16 May 2012 00:30:00 +0200|2012-05-15T14:30Z|@1337157000.5|2012-05-16T18:30",
+            "5 minutes ago\n12 hours ago\nyesterday 23:30\n1 hour ago\n1 hour ago");
+        row("relative|--anchor|2012-05-16T10:30+02:00|--locale|en|--clock|24|2012-05-16T10:30|2012-05-16T01:30+02:00",
+            "in 2 hours\nyesterday 23:30"); // of the process: UTC
         row("relative|--anchor|2012-05-16T10:30|--type|non-time-critical|2012-05-16T07:30|--device|region=zh_TW",
             "今天");
         row("relative|--anchor|2012-05-16T10:30|--locale|en|--json|2011-12-31",
@@ -162,9 +176,15 @@ private Q_SLOTS:
         row("format|y|--device|time-zone=Mars/Base", 1, "unknown time zone 'Mars/Base'");
         row("gallery|--tsv|-", 2, "--tsv takes the name of a file, not '-'; see 'zel-i18n gallery --help'");
         row("device|get|region", 1, "region is not set");
+        for (const char* const moment : {"@-62135596800.001", "@253402300800", "@99999999999999999999"}) {
+            row(QByteArray("format|y|").append(moment).constData(), 1,
+                QByteArray("'").append(moment).append("' is outside the years 1 to 9999").constData());
+        }
         for (const char* const moment :
              {"2012-02-30", "2012-5-16", "2012-05-16T24:00", "2012-05-16T10:30+15:00", "2012-05-16T10:30Zx",
-              "2012-05-16T", "2012-05-16Z", "0000-01-01", "2012-05-16T10:30:00."}) {
+              "2012-05-16T", "2012-05-16Z", "0000-01-01", "2012-05-16T10:30:00.", "2012-0516", "20120516T10:30", "@",
+              "@1e5", "@1.", "Tue, 16 May 2012 10:30 +0000", "16 May 2012 10:30", "16 Foo 2012 10:30 GMT",
+              "32 May 2012 10:30 GMT"}) {
             row(QByteArray("format|y|2012-05-16|").append(moment).constData(), 1,
                 QByteArray("'")
                     .append(moment)

@@ -4,7 +4,7 @@
 #include "device/Device.h"
 #include "LocaleName.h"
 #include "terminal/Failure.h"
-#include "texts/Moment.h"
+#include "texts/MomentReader.h"
 
 namespace zel::tool {
 
@@ -89,9 +89,9 @@ int Arguments::number(const QString& option, int fallback, int largest) const
     return number;
 }
 
-QDateTime Arguments::moment(const QString& option, const QDateTime& fallback) const
+QDateTime Arguments::moment(const QString& option, const MomentReader& reader, const QDateTime& fallback) const
 {
-    return has(option) ? Moment::parse(value(option)) : fallback;
+    return has(option) ? reader.read(value(option)) : fallback;
 }
 
 int Arguments::choice(const QString& option, const QMap<QString, int>& choices, int fallback) const

@@ -10,6 +10,8 @@
 
 namespace zel::tool {
 
+class MomentReader;
+
 /** A locale with the name that the user gave it. */
 struct NamedLocale
 {
@@ -33,7 +35,7 @@ public:
     /** The value of an option that makes sense once. */
     QString value(const QString& option) const;
     int number(const QString& option, int fallback, int largest) const;
-    QDateTime moment(const QString& option, const QDateTime& fallback) const;
+    QDateTime moment(const QString& option, const MomentReader& reader, const QDateTime& fallback) const;
     /** One of the choices by its name, or the fallback where the option was not given. */
     int choice(const QString& option, const QMap<QString, int>& choices, int fallback) const;
 

@@ -31,9 +31,11 @@ CommandHelp FormatCommand::help() const
                            "region and clock of the device. No MOMENT means now; '-' takes one a line from\n"
                            "standard input, reports the bad ones and goes on.\n\n") +
                 Skeleton::description() +
-                QStringLiteral("\n\nMoments are ISO 8601: 2012-05-16, 2012-05-16T10:30, 2012-05-16T10:30:00.500Z,\n"
-                               "2012-05-16T10:30+02:00. Without an offset they are local time. A zone is that\n"
-                               "of the device, and GMT where it has none."),
+                QStringLiteral("\n\nMoments are ISO 8601 (2012-05-16, 2012-05-16T10:30, 2012-05-16T10:30:00.500Z,\n"
+                               "2012-05-16T10:30+02:00, 20120516T103000Z), RFC 2822 ('Wed, 16 May 2012 10:30:00\n"
+                               "+0200') or seconds since 1970 (@1337157000). Without an offset they are local\n"
+                               "time. A zone, and the date and time of seconds since 1970, are those of the\n"
+                               "device; GMT where it has no time zone."),
             QStringLiteral("format yMMMMEEEEd\n"
                            "format yMMMMEEEEd 2012-05-16 --locale fr_FR\n"
                            "format hm 2012-05-16T22:30 --device region=en_US,hour-format=12\n"
@@ -50,8 +52,8 @@ ExitStatus FormatCommand::run(const Arguments& arguments, Console& console) cons
 {
     const QStringList words = arguments.positional();
     const QString skeleton = Skeleton::from(words);
-    const Moments moments(words.mid(1));
     Device::requireReadable();
+    const Moments moments(words.mid(1), MomentReader(MomentReader::Kept));
     const OtherRegion region(arguments);
     const zel::utility::i18n::CustomDateFormatter formatter(skeleton);
     if (!formatter.isValid()) {

@@ -1,28 +1,19 @@
 #include "commands/Commands.h"
 
 #include "Arguments.h"
-#include "device/Assignments.h"
 #include "device/Device.h"
 #include "terminal/Console.h"
 #include "terminal/Table.h"
 #include "texts/Format.h"
 #include "texts/LocaleTitle.h"
 #include "texts/Moment.h"
+#include "texts/MomentReader.h"
 #include <QtCore/QJsonArray>
-#include <QtCore/QTimeZone>
 #include <utility>
 
 namespace zel::tool {
 
 namespace {
-
-/** The current time as a clock in the device's time zone shows it, or, as for the library, in GMT without one. */
-QDateTime now()
-{
-    const QTimeZone zone(Device::get(Assignments::timeZone()).value_or(QStringLiteral("GMT")).toLatin1());
-    const QDateTime current = QDateTime::currentDateTimeUtc();
-    return zone.isValid() ? current.toTimeZone(zone) : current;
-}
 
 struct Line
 {
@@ -91,8 +82,7 @@ QList<QCommandLineOption> FormatsCommand::options() const
     return {{QStringLiteral("locale"),
              QStringLiteral("A locale, instead of the region of the device. May be given\nseveral times."),
              QStringLiteral("L")},
-            {QStringLiteral("at"), QStringLiteral("The moment to write, in ISO 8601; now without it."),
-             QStringLiteral("MOMENT")}};
+            {QStringLiteral("at"), QStringLiteral("The moment to write; now without it."), QStringLiteral("MOMENT")}};
 }
 
 ExitStatus FormatsCommand::run(const Arguments& arguments, Console& console) const
@@ -103,7 +93,8 @@ ExitStatus FormatsCommand::run(const Arguments& arguments, Console& console) con
     }
     const QList<NamedLocale> locales = arguments.locales();
     Device::requireReadable();
-    const QDateTime moment = arguments.moment(QStringLiteral("at"), now());
+    const MomentReader reader(MomentReader::Kept);
+    const QDateTime moment = arguments.moment(QStringLiteral("at"), reader, reader.now());
     bool first = true;
     for (const NamedLocale& locale : locales) {
         const QList<Line> lines = linesOf(locale.locale, moment);

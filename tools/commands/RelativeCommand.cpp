@@ -7,6 +7,7 @@
 #include "texts/Answers.h"
 #include "texts/Ladder.h"
 #include "texts/Moment.h"
+#include "texts/MomentReader.h"
 #include "texts/Moments.h"
 #include <memory>
 #include <QtCore/QMap>
@@ -49,12 +50,12 @@ const QMap<QString, int>& wordings()
 class Formatters
 {
 public:
-    Formatters(const Arguments& arguments, const QDateTime& defaultAnchor)
+    Formatters(const Arguments& arguments, const MomentReader& reader, const QDateTime& defaultAnchor)
         : m_clock(static_cast<ClockFormat::Type>(
               arguments.choice(QStringLiteral("clock"), clocks(), ClockFormat::ApplyUserFormat))),
           m_wording(static_cast<RelativeDateWording::Type>(
               arguments.choice(QStringLiteral("wording"), wordings(), RelativeDateWording::Exact))),
-          m_anchor(arguments.moment(QStringLiteral("anchor"), defaultAnchor))
+          m_anchor(arguments.moment(QStringLiteral("anchor"), reader, defaultAnchor))
     {
     }
 
@@ -86,8 +87,9 @@ ExitStatus writeMoments(const Arguments& arguments, Console& console)
     if (arguments.positional().isEmpty()) {
         throw Failure::usage(QStringLiteral("no moment given"));
     }
-    const Moments moments(arguments.positional());
-    const Formatters formatters(arguments, QDateTime::currentDateTime());
+    const MomentReader reader(MomentReader::Converted);
+    const Moments moments(arguments.positional(), reader);
+    const Formatters formatters(arguments, reader, reader.now());
     const int type = typeOf(arguments);
     const auto formatter = formatters.make(type, arguments.locale().locale);
     const Answers answers(console, arguments.json());
@@ -182,7 +184,7 @@ ExitStatus writeLadders(const Arguments& arguments, Console& console)
     if (!arguments.positional().isEmpty()) {
         throw Failure::usage(QStringLiteral("--table takes no moment, not ") + quoted(arguments.positional().first()));
     }
-    const Formatters formatters(arguments, Ladder::exampleAnchor());
+    const Formatters formatters(arguments, MomentReader(MomentReader::Converted), Ladder::exampleAnchor());
     const int chosen = typeOf(arguments);
     const QList<NamedLocale> locales = arguments.locales();
     QList<int> both = {RelativeDateFormat::TimeCritical, RelativeDateFormat::NonTimeCritical};
@@ -217,13 +219,17 @@ CommandHelp RelativeCommand::help() const
             QStringLiteral("Write moments as they are told from another one."),
             QStringLiteral("Writes each MOMENT as it is told from an anchor, one text a line: 5 minutes ago,\n"
                            "yesterday with a time, a weekday, a month and day, a month and year. '-' takes one\n"
-                           "moment a line from standard input, reports the bad ones and goes on. Moments are\n"
-                           "ISO 8601, as in 'format'; each counts by the date and time as it is written.\n\n"
+                           "moment a line from standard input, reports the bad ones and goes on.\n\n"
+                           "Moments are written as in 'format'. Those with an offset, and seconds since 1970,\n"
+                           "are converted to the time zone of the device; where it has none, to local time. To\n"
+                           "compare the dates and times that clocks in several zones showed, leave the offsets\n"
+                           "out.\n\n"
                            "With --table, shows the whole ladder instead: moments at all distances that are told\n"
                            "differently, before and after the anchor, for each locale. The anchor is then in the\n"
                            "middle of a year and of a day, unless it is given."),
             QStringLiteral("relative 2012-05-16T10:25 --anchor 2012-05-16T10:30\n"
                            "relative - --locale fr_FR --type non-time-critical < moments.txt\n"
+                           "relative 'Wed, 16 May 2012 10:25:00 +0200' --anchor @1337157000\n"
                            "relative --table --locale en_GB --locale de_DE --locale ja_JP")};
 }
 

@@ -5,7 +5,7 @@
 #include "device/OtherRegion.h"
 #include "terminal/Console.h"
 #include "texts/LiveText.h"
-#include "texts/Moment.h"
+#include "texts/MomentReader.h"
 #include "texts/Skeleton.h"
 
 namespace zel::tool {
@@ -47,8 +47,9 @@ ExitStatus WatchCommand::run(const Arguments& arguments, Console& console) const
     if (words.size() > 2) {
         throw Failure::usage(QStringLiteral("one moment at most, not also ") + quoted(words.at(2)));
     }
-    const auto moment = words.size() == 2 ? std::make_optional(Moment::parse(words.at(1))) : std::nullopt;
     Device::requireReadable();
+    const auto moment =
+        words.size() == 2 ? std::make_optional(MomentReader(MomentReader::Kept).read(words.at(1))) : std::nullopt;
     const OtherRegion region(arguments);
     try {
         LiveText(skeleton, moment, console, arguments.json()).run();

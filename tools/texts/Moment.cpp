@@ -1,83 +1,33 @@
 #include "texts/Moment.h"
 
 #include "terminal/Failure.h"
+#include "texts/Scanner.h"
 #include <optional>
 
 namespace zel::tool {
 
 namespace {
 
-/** Takes a text apart from left to right; once something is not as expected, nothing is any more. */
-class Scanner
+/** What a text says, before it is known to make a moment. */
+struct Reading
 {
-public:
-    explicit Scanner(std::string_view text) : m_rest(text) {}
-
-    bool isAtEnd() const { return m_good && m_rest.empty(); }
-
-    /** Whether the next character is one of these, which is taken then. */
-    bool accept(std::string_view characters)
-    {
-        const bool found = !m_rest.empty() && characters.find(m_rest.front()) != std::string_view::npos;
-        if (found) {
-            m_rest.remove_prefix(1);
-        }
-        return found;
-    }
-
-    void expect(std::string_view characters) { m_good = accept(characters) && m_good; }
-
-    int number(int digits)
-    {
-        int value = 0;
-        for (; digits > 0 && startsWithDigit(); --digits) {
-            value = value * 10 + (m_rest.front() - '0');
-            m_rest.remove_prefix(1);
-        }
-        m_good = m_good && digits == 0;
-        return value;
-    }
-
-    /** A decimal fraction in thousandths; further digits are passed over. */
-    int thousandths()
-    {
-        int value = 0;
-        int unit = 100;
-        m_good = m_good && startsWithDigit();
-        for (; startsWithDigit(); unit /= 10) {
-            value += (m_rest.front() - '0') * unit;
-            m_rest.remove_prefix(1);
-        }
-        return value;
-    }
-
-    bool startsWith(std::string_view characters) const
-    {
-        return !m_rest.empty() && characters.find(m_rest.front()) != std::string_view::npos;
-    }
-
-private:
-    bool startsWithDigit() const { return startsWith("0123456789"); }
-
-    std::string_view m_rest;
-    bool m_good = true;
+    QDate day;
+    QTime time;
+    std::optional<int> offset; ///< in seconds
 };
 
-QDate date(Scanner& scanner)
-{
-    const int year = scanner.number(4);
-    scanner.expect("-");
-    const int month = scanner.number(2);
-    scanner.expect("-");
-    return {year, month, scanner.number(2)};
-}
+constexpr int largestOffset = 14 * 3600; // that a place has ever had
 
-QTime time(Scanner& scanner)
+/** A time with or without seconds, and a fraction of them. */
+QTime time(Scanner& scanner, bool extended)
 {
     const int hour = scanner.number(2);
-    scanner.expect(":");
+    if (extended) {
+        scanner.expect(":");
+    }
     const int minute = scanner.number(2);
-    const int second = scanner.accept(":") ? scanner.number(2) : 0;
+    const bool hasSeconds = extended ? scanner.accept(":") : scanner.startsWithDigit();
+    const int second = hasSeconds ? scanner.number(2) : 0;
     return {hour, minute, second, scanner.accept(".,") ? scanner.thousandths() : 0};
 }
 
@@ -94,49 +44,118 @@ std::optional<int> offset(Scanner& scanner)
     const int hours = scanner.number(2);
     const int minutes = scanner.accept(":") || !scanner.isAtEnd() ? scanner.number(2) : 0;
     const QTime distance(hours, minutes);
-    // Beyond every offset that a place has ever had.
-    constexpr int impossible = 15 * 3600;
-    return sign * (distance.isValid() ? QTime(0, 0).secsTo(distance) : impossible);
+    return sign * (distance.isValid() ? QTime(0, 0).secsTo(distance) : largestOffset + 1);
 }
 
-QDateTime dateTime(const QDate& day, const QTime& time, const std::optional<int>& offset)
+// 2012-05-16T10:30:00+02:00, 20120516T103000Z
+Reading iso(Scanner& scanner)
 {
-    if (!offset) {
-        return {day, time};
+    const int year = scanner.number(4);
+    const bool extended = scanner.accept("-");
+    const int month = scanner.number(2);
+    if (extended) {
+        scanner.expect("-");
+    }
+    const QDate day(year, month, scanner.number(2));
+    if (scanner.isAtEnd()) {
+        return {day, QTime(0, 0), {}};
+    }
+    scanner.expect("T ");
+    const QTime clock = time(scanner, extended);
+    return {day, clock, offset(scanner)};
+}
+
+std::optional<int> mailZone(Scanner& scanner)
+{
+    if (!scanner.startsWith("UuGg")) {
+        return offset(scanner);
+    }
+    scanner.name("UTCGMT");
+    return 0;
+}
+
+// Wed, 16 May 2012 10:30:00 +0200 (CEST)
+Reading mail(Scanner& scanner)
+{
+    constexpr const char* blank = " ";
+    int weekday = 0;
+    if (!scanner.startsWithDigit()) {
+        weekday = scanner.name("MonTueWedThuFriSatSun");
+        scanner.expect(",");
+        scanner.skip(blank);
+    }
+    const auto dayOfMonth = static_cast<int>(qMin(scanner.integer(), qint64(32)));
+    scanner.skip(blank);
+    const int month = scanner.name("JanFebMarAprMayJunJulAugSepOctNovDec");
+    scanner.skip(blank);
+    const QDate day(scanner.number(4), month, dayOfMonth);
+    scanner.expect(blank);
+    scanner.skip(blank);
+    const QTime clock = time(scanner, true);
+    scanner.skip(blank);
+    const int distance = mailZone(scanner).value_or(largestOffset + 1);
+    scanner.skip(blank);
+    if (scanner.accept("(")) {
+        scanner.skip("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789:+-_/ ");
+        scanner.expect(")");
+    }
+    return {weekday == 0 || weekday == day.dayOfWeek() ? day : QDate(), clock, distance};
+}
+
+// @1346690100, @-1.5
+QDateTime epoch(Scanner& scanner)
+{
+    constexpr qint64 largest = 1000000000000; // in the year 33658
+    scanner.expect("@");
+    const int sign = scanner.accept("-") ? -1 : 1;
+    const qint64 seconds = qMin(scanner.integer(), largest);
+    const int fraction = scanner.accept(".") ? scanner.thousandths() : 0;
+    return QDateTime::fromMSecsSinceEpoch(sign * (seconds * 1000 + fraction)).toUTC();
+}
+
+QDateTime dateTime(const Reading& reading)
+{
+    if (!reading.offset) {
+        return {reading.day, reading.time};
     }
     // Constructors that take an offset are deprecated in Qt 6.9, and what replaces them is not in Qt 5.
-    QDateTime reading = QDateTime::fromMSecsSinceEpoch(0).toUTC();
-    reading.setDate(day);
-    reading.setTime(time);
-    return reading.addSecs(-*offset).toOffsetFromUtc(*offset);
+    QDateTime moment = QDateTime::fromMSecsSinceEpoch(0).toUTC();
+    moment.setDate(reading.day);
+    moment.setTime(reading.time);
+    return moment.addSecs(-*reading.offset).toOffsetFromUtc(*reading.offset);
 }
 
-QString shown(std::string_view text)
+void requireForm(bool condition, std::string_view text)
 {
-    return quoted(QString::fromUtf8(text.data(), static_cast<int>(text.size())));
+    Moment::require(condition, text,
+                    QStringLiteral(" is not a moment such as 2012-05-16 or 2012-05-16T10:30:00+02:00"));
 }
 
 } // namespace
 
 QDateTime Moment::parse(std::string_view text)
 {
-    constexpr int largestOffset = 14 * 3600;
     Scanner scanner(text);
-    const QDate day = date(scanner);
-    const bool midnight = scanner.isAtEnd();
-    if (!midnight) {
-        scanner.expect("T ");
+    if (isEpoch(text)) {
+        QDateTime moment = epoch(scanner);
+        requireForm(scanner.isAtEnd(), text);
+        return moment;
     }
-    const QTime clock = midnight ? QTime(0, 0) : time(scanner);
-    const std::optional<int> distance = midnight ? std::nullopt : offset(scanner);
-    if (!scanner.isAtEnd() || !day.isValid() || !clock.isValid() || qAbs(distance.value_or(0)) > largestOffset) {
-        throw Failure(shown(text) + QStringLiteral(" is not a moment such as 2012-05-16 or 2012-05-16T10:30:00+02:00"));
-    }
-    QDateTime moment = dateTime(day, clock, distance);
-    if (!moment.isValid()) {
-        throw Failure(shown(text) + QStringLiteral(" does not exist in local time, where clocks are put forward then"));
-    }
+    const bool isMail = !scanner.startsWithDigit() || text.find(' ') < 3;
+    const Reading reading = isMail ? mail(scanner) : iso(scanner);
+    requireForm(scanner.isAtEnd() && reading.day.isValid() && reading.time.isValid() &&
+                    qAbs(reading.offset.value_or(0)) <= largestOffset,
+                text);
+    QDateTime moment = dateTime(reading);
+    require(moment.isValid(), text, QStringLiteral(" does not exist in local time, where clocks are put forward then"));
     return moment;
+}
+
+void Moment::require(bool condition, std::string_view text, const QString& reason)
+{
+    if (!condition) {
+        throw Failure(quoted(QString::fromUtf8(text.data(), static_cast<int>(text.size()))) + reason);
+    }
 }
 
 QString Moment::write(const QDateTime& moment)

@@ -7,19 +7,28 @@
 
 namespace zel::tool {
 
-/** Moments as the command line writes them: ISO 8601. */
+/** How moments are written on the command line. */
 class Moment
 {
 public:
     Moment() = delete;
 
     /**
-     * A date alone, which is midnight, or a date and a time with or without seconds, a fraction of them, and `Z` or an
-     * offset. Without an offset it is the local time of the process. Anything else is a Failure.
+     * Reads one of these; anything else is a Failure:
+     * - ISO 8601, extended or compact: a date alone, which is midnight, or a date and a time with or without seconds, a
+     *   fraction of them, and `Z` or an offset. Without an offset it is the local time of the process.
+     * - RFC 2822, as in mail and HTTP, with or without a weekday.
+     * - `@` and the seconds since 1970, which may be negative or have a fraction, in UTC and in any year.
      */
     static QDateTime parse(std::string_view text);
-    static QDateTime parse(const QString& text) { return parse(std::string_view(text.toStdString())); }
 
+    /** Whether a text is a number of seconds, which names a moment but no date and time of anybody's clock. */
+    static bool isEpoch(std::string_view text) { return !text.empty() && text.front() == '@'; }
+
+    /** A Failure with the text and the reason unless a condition holds. */
+    static void require(bool condition, std::string_view text, const QString& reason);
+
+    /** @param moment in the years 1 to 9999 */
     static QString write(const QDateTime& moment);
 };
 

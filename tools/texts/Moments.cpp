@@ -1,11 +1,12 @@
 #include "texts/Moments.h"
 
 #include "terminal/LineReader.h"
-#include "texts/Moment.h"
 
 namespace zel::tool {
 
-Moments::Moments(const QStringList& words) : m_fromInput(words == QStringList(QStringLiteral("-")))
+Moments::Moments(const QStringList& words, const MomentReader& reader)
+    : m_reader(reader),
+      m_fromInput(words == QStringList(QStringLiteral("-")))
 {
     if (m_fromInput) {
         return;
@@ -17,7 +18,7 @@ Moments::Moments(const QStringList& words) : m_fromInput(words == QStringList(QS
         if (word == QLatin1String("-")) {
             throw Failure::usage(QStringLiteral("'-' for standard input does not go with other moments"));
         }
-        m_moments.append(Moment::parse(word));
+        m_moments.append(m_reader.read(word));
     }
 }
 
@@ -33,7 +34,7 @@ ExitStatus Moments::format(Console& console, const Formatter& formatter, const W
     return Worked;
 }
 
-ExitStatus Moments::formatLines(Console& console, const Formatter& formatter, const Writer& writer)
+ExitStatus Moments::formatLines(Console& console, const Formatter& formatter, const Writer& writer) const
 {
     ExitStatus status = Worked;
     LineReader reader(console);
@@ -49,7 +50,7 @@ ExitStatus Moments::formatLines(Console& console, const Formatter& formatter, co
     };
     while (const auto line = reader.next()) {
         attempt(reader.number(), [&] {
-            moments.append(Moment::parse(*line));
+            moments.append(m_reader.read(*line));
             lines.append(reader.number());
         });
         if (reader.hasLine()) {

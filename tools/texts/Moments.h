@@ -2,6 +2,7 @@
 #define ZEL_TOOL_MOMENTS_H
 
 #include "terminal/Failure.h"
+#include "texts/MomentReader.h"
 #include <functional>
 #include <QtCore/QDateTime>
 #include <QtCore/QStringList>
@@ -17,7 +18,7 @@ public:
     using Formatter = std::function<QStringList(const QList<QDateTime>&)>;
     using Writer = std::function<void(const QDateTime&, const QString&)>;
 
-    explicit Moments(const QStringList& words);
+    Moments(const QStringList& words, const MomentReader& reader);
 
     /**
      * Formats all moments and hands each text to the writer. Words are all looked at before the first is formatted;
@@ -27,8 +28,9 @@ public:
     ExitStatus format(Console& console, const Formatter& formatter, const Writer& writer) const;
 
 private:
-    static ExitStatus formatLines(Console& console, const Formatter& formatter, const Writer& writer);
+    ExitStatus formatLines(Console& console, const Formatter& formatter, const Writer& writer) const;
 
+    MomentReader m_reader;
     bool m_fromInput;
     QList<QDateTime> m_moments;
 };

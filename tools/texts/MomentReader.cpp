@@ -1,0 +1,39 @@
+#include "texts/MomentReader.h"
+
+#include "device/Assignments.h"
+#include "device/Device.h"
+#include "texts/Moment.h"
+
+namespace zel::tool {
+
+namespace {
+
+QTimeZone zoneOfDevice(const QTimeZone& fallback)
+{
+    const QByteArray id = Device::get(Assignments::timeZone()).value_or(QString()).toLatin1();
+    const QTimeZone zone = id.isEmpty() ? fallback : QTimeZone(id);
+    return zone.isValid() ? zone : fallback;
+}
+
+} // namespace
+
+// Moments without an offset are local times of the process, so that those compared with them are, too, if need be.
+MomentReader::MomentReader(Offsets offsets)
+    : m_offsets(offsets),
+      m_zone(zoneOfDevice(offsets == Kept ? QTimeZone("GMT") : QTimeZone::systemTimeZone()))
+{
+}
+
+QDateTime MomentReader::read(std::string_view text) const
+{
+    QDateTime moment = Moment::parse(text);
+    const bool converts = moment.timeSpec() != Qt::LocalTime && (m_offsets == Converted || Moment::isEpoch(text));
+    if (converts) {
+        moment = moment.toTimeZone(m_zone);
+        const int year = moment.date().year();
+        Moment::require(year >= 1 && year <= 9999, text, QStringLiteral(" is outside the years 1 to 9999"));
+    }
+    return moment;
+}
+
+} // namespace zel::tool

@@ -1,0 +1,49 @@
+#ifndef ZEL_TOOL_SCANNER_H
+#define ZEL_TOOL_SCANNER_H
+
+#include <QtCore/qglobal.h>
+#include <string_view>
+
+namespace zel::tool {
+
+/** Reads a text from left to right. After the first character that is not as expected, isAtEnd() stays false. */
+class Scanner
+{
+public:
+    explicit Scanner(std::string_view text) : m_rest(text) {}
+
+    /** Whether all of the text has been read and was as expected. */
+    bool isAtEnd() const { return m_good && m_rest.empty(); }
+
+    bool startsWith(std::string_view characters) const
+    {
+        return !m_rest.empty() && characters.find(m_rest.front()) != std::string_view::npos;
+    }
+    bool startsWithDigit() const { return startsWith("0123456789"); }
+
+    /** Takes the next character if it is one of these, and returns whether it was. */
+    bool accept(std::string_view characters);
+    void expect(std::string_view characters) { m_good = accept(characters) && m_good; }
+
+    /** Takes as many characters of these as there are. */
+    void skip(std::string_view characters);
+
+    /** A number of exactly so many digits. */
+    int number(int digits);
+    /** A number of any length; the largest of its type where it is larger. */
+    qint64 integer();
+    /** A decimal fraction in thousandths; further digits are ignored. */
+    int thousandths();
+
+    /** The number, from 1, of the name that follows, in any case. @param names of three letters each, one after another
+     */
+    int name(std::string_view names);
+
+private:
+    std::string_view m_rest;
+    bool m_good = true;
+};
+
+} // namespace zel::tool
+
+#endif
