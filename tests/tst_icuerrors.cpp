@@ -145,6 +145,16 @@ QString otherTypeDuringFormat()
     return text + QLatin1Char('|') + during;
 }
 
+/** The moment in the middle cannot be written; those behind it count from the new anchor. */
+QString otherAnchorDuringList()
+{
+    RelativeDateFormatter formatter(RelativeDateFormat::TimeCritical);
+    formatter.setAnchorTime(moment);
+    IcuFaults::arm(IcuFaults::FormatDate, {works, late});
+    const Interruption interruption([&formatter] { formatter.setAnchorTime(moment.addSecs(300)); });
+    return formatter.formatAll({moment, moment.addYears(10'000), moment}).join(QLatin1Char('|'));
+}
+
 /** The messages of a call that failed: each line is given without the space at its end. */
 QStringList lines(const char* text)
 {
@@ -376,6 +386,7 @@ private Q_SLOTS:
         row("skeleton in an update", Call(otherSkeletonDuringUpdate), "May 2012");
         row("clock in an update", Call(otherClockDuringUpdate), "Thu 12:25|tomorrow 12:25");
         row("type in format", Call(otherTypeDuringFormat), "5 minutes ago|yesterday");
+        row("anchor in a list", Call(otherAnchorDuringList), "in 0 minutes||5 minutes ago");
     }
 
     void handlersUseTheFormatter()

@@ -34,6 +34,10 @@ RelativeDateBatch::RelativeDateBatch(const RelativeDateFormatterPrivate& formatt
       m_anchor(RelativeDistance::reading(formatter.anchorTime)),
       m_usable(formatter.count > 0 && RelativeDistance::covers(m_anchor) && isUsable(formatter))
 {
+    m_slots.reserve(formatter.patterns.size());
+    for (const auto& pattern : formatter.patterns) {
+        m_slots.push_back({pattern.get(), pattern->isPhraseAlone(), nullptr, {}, {}});
+    }
 }
 
 RelativeDateBatch::~RelativeDateBatch() = default;
@@ -45,7 +49,7 @@ std::optional<QString> RelativeDateBatch::format(const QDateTime& dateTime)
         return std::nullopt;
     }
     const Step step = m_formatter.table.stepOf(RelativeDistance(m_anchor, reading), m_formatter.wording);
-    if (patternOf(step).isPhraseAlone()) {
+    if (slotOf(step).isPhraseAlone) {
         const QString& text = phrase(step);
         return text.isEmpty() ? std::nullopt : std::make_optional(text);
     }
@@ -54,9 +58,9 @@ std::optional<QString> RelativeDateBatch::format(const QDateTime& dateTime)
 
 const QString& RelativeDateBatch::phrase(const Step& step)
 {
-    const std::pair key(step.slot, step.count);
-    const auto known = m_phrases.find(key);
-    return known != m_phrases.end() ? known->second : m_phrases.emplace(key, makePhrase(step)).first->second;
+    auto& phrases = slotOf(step).phrases;
+    const auto known = phrases.find(step.count);
+    return known != phrases.end() ? known->second : phrases.emplace(step.count, makePhrase(step)).first->second;
 }
 
 QString RelativeDateBatch::makePhrase(const Step& step)
@@ -70,7 +74,7 @@ QString RelativeDateBatch::makePhrase(const Step& step)
             return silence.isBroken() ? QString() : now;
         }
     }
-    std::unique_ptr<ResourceFormatter>& resource = m_resources[step.slot];
+    std::unique_ptr<ResourceFormatter>& resource = slotOf(step).resource;
     if (!resource) {
         resource = std::make_unique<ResourceFormatter>(m_formatter.locale, element, nullptr);
     }
@@ -80,41 +84,44 @@ QString RelativeDateBatch::makePhrase(const Step& step)
 
 std::optional<QString> RelativeDateBatch::dated(const Step& step, qint64 reading)
 {
-    const std::pair key(step.slot, step.count);
-    auto known = m_formats.find(key);
-    if (known == m_formats.end()) {
-        known = m_formats.emplace(key, makeFormat(step)).first;
+    auto& formats = slotOf(step).formats;
+    auto known = formats.find(step.count);
+    if (known == formats.end()) {
+        known = formats.emplace(step.count, makeFormat(step)).first;
     }
-    if (!known->second) {
+    const auto& [format, calendar] = known->second;
+    if (!format) {
         return std::nullopt;
     }
     icu::ErrorCode status;
     icu::UnicodeString text;
-    known->second->format(icu::Formattable(static_cast<UDate>(reading)), text, status);
+    calendar->setTime(static_cast<UDate>(reading), status);
+    format->format(*calendar, text, nullptr, status);
     const bool formatted = status.isSuccess();
     status.reset();
     return formatted ? std::make_optional(String::toQt(text)) : std::nullopt;
 }
 
-std::unique_ptr<icu::SimpleDateFormat> RelativeDateBatch::makeFormat(const Step& step) const
+RelativeDateBatch::Format RelativeDateBatch::makeFormat(const Step& step)
 {
     const DiagnosticSilence silence;
-    const QString pattern = patternOf(step).patternFor(step.count);
+    const QString pattern = slotOf(step).pattern->patternFor(step.count);
     icu::ErrorCode status;
     auto format =
         std::make_unique<icu::SimpleDateFormat>(String::toICU(pattern), Locale::toICU(m_formatter.locale), status);
     const bool usable = status.isSuccess() && !silence.isBroken();
     status.reset();
     if (!usable) {
-        return nullptr;
+        return {};
     }
     format->adoptTimeZone(icu::TimeZone::getGMT()->clone());
-    return format;
+    std::unique_ptr<icu::Calendar> calendar(format->getCalendar()->clone());
+    return {std::move(format), std::move(calendar)};
 }
 
-const RelativeDatePattern& RelativeDateBatch::patternOf(const Step& step) const
+RelativeDateBatch::Slot& RelativeDateBatch::slotOf(const Step& step)
 {
-    return *m_formatter.patterns[static_cast<std::size_t>(step.slot)];
+    return m_slots[static_cast<std::size_t>(step.slot)];
 }
 
 } // namespace zel::utility::i18n

@@ -3,12 +3,14 @@
 
 #include "relative/RelativeDateTable.h"
 #include "relative/RelativeDistance.h"
-#include <map>
 #include <memory>
 #include <optional>
 #include <QtCore/QDateTime>
 #include <QtCore/QString>
+#include <unicode/calendar.h>
 #include <unicode/smpdtfmt.h>
+#include <unordered_map>
+#include <vector>
 
 namespace zel::utility::i18n {
 
@@ -33,18 +35,33 @@ public:
 private:
     using Step = RelativeDateTable::Step;
 
+    /** A date format with the calendar that it reads, so that it does not copy one for each text. */
+    struct Format
+    {
+        std::unique_ptr<icu::SimpleDateFormat> format; // null where there is none
+        std::unique_ptr<icu::Calendar> calendar;
+    };
+
+    /** What the texts of a slot need; the maps are by count. */
+    struct Slot
+    {
+        const RelativeDatePattern* pattern;
+        bool isPhraseAlone;
+        std::unique_ptr<ResourceFormatter> resource;
+        std::unordered_map<int, QString> phrases; // empty where there is none
+        std::unordered_map<int, Format> formats;
+    };
+
+    Slot& slotOf(const Step& step);
     const QString& phrase(const Step& step);
     QString makePhrase(const Step& step);
     std::optional<QString> dated(const Step& step, qint64 reading);
-    std::unique_ptr<icu::SimpleDateFormat> makeFormat(const Step& step) const;
-    const RelativeDatePattern& patternOf(const Step& step) const;
+    Format makeFormat(const Step& step);
 
     const RelativeDateFormatterPrivate& m_formatter;
     qint64 m_anchor;
     bool m_usable;
-    std::map<int, std::unique_ptr<ResourceFormatter>> m_resources; // by slot
-    std::map<std::pair<int, int>, QString> m_phrases;              // by slot and count, empty where there is none
-    std::map<std::pair<int, int>, std::unique_ptr<icu::SimpleDateFormat>> m_formats; // null where there is none
+    std::vector<Slot> m_slots;
 };
 
 } // namespace zel::utility::i18n

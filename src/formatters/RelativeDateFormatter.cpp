@@ -81,6 +81,7 @@ bool RelativeDateFormatterPrivate::setAnchorTime(const QDateTime& newAnchorTime)
     if (newAnchorTime == anchorTime) {
         return false;
     }
+    ++changes;
     anchorTime = newAnchorTime;
     for (std::size_t slot = 0; slot < ranges.size(); ++slot) {
         ranges[slot]->setAnchorTime(anchorTime);
@@ -95,6 +96,7 @@ bool RelativeDateFormatterPrivate::setLocale(const QLocale& newLocale)
         return false;
     }
     const Use use(uses);
+    ++changes;
     locale = newLocale;
     for (const auto& pattern : patterns) {
         pattern->setLocale(locale);
@@ -104,7 +106,12 @@ bool RelativeDateFormatterPrivate::setLocale(const QLocale& newLocale)
 
 bool RelativeDateFormatterPrivate::setWording(RelativeDateWording::Type newWording)
 {
-    return std::exchange(wording, newWording) != newWording;
+    if (newWording == wording) {
+        return false;
+    }
+    ++changes;
+    wording = newWording;
+    return true;
 }
 
 bool RelativeDateFormatterPrivate::setClockFormat(ClockFormat::Type newClockFormat)
@@ -113,6 +120,7 @@ bool RelativeDateFormatterPrivate::setClockFormat(ClockFormat::Type newClockForm
         return false;
     }
     const Use use(uses);
+    ++changes;
     clockFormat = newClockFormat;
     for (const auto& pattern : patterns) {
         pattern->setClockFormat(clockFormat);
@@ -161,11 +169,20 @@ QString RelativeDateFormatterPrivate::format(const QDateTime& dateTime) const
 QStringList RelativeDateFormatterPrivate::formatAll(const QList<QDateTime>& dateTimes) const
 {
     const Use use(uses);
-    RelativeDateBatch batch(*this);
+    if (dateTimes.size() == 1) {
+        return {format(dateTimes.first())}; // nothing to share
+    }
     QStringList texts;
     texts.reserve(dateTimes.size());
+    std::optional<RelativeDateBatch> batch;
+    unsigned int prepared = 0;
     for (const QDateTime& dateTime : dateTimes) {
-        const std::optional<QString> text = batch.format(dateTime);
+        // A message handler that format() called may have changed the formatter.
+        if (!batch || prepared != changes) {
+            prepared = changes;
+            batch.emplace(*this);
+        }
+        const std::optional<QString> text = batch->format(dateTime);
         texts.append(text ? *text : format(dateTime));
     }
     return texts;

@@ -56,6 +56,7 @@ public:
     int count = 0;
     std::vector<std::unique_ptr<DateOffsetRange>> ranges;
     std::vector<std::unique_ptr<RelativeDatePattern>> patterns;
+    unsigned int changes = 0; // of anchor, locale, clock and wording
     mutable int uses = 0;
     std::vector<std::unique_ptr<RelativeDateFormatterPrivate>> predecessors;
 

@@ -19,6 +19,13 @@ const QCalendar& julian()
 
 } // namespace
 
+RelativeDistance::RelativeDistance(qint64 anchor, qint64 moment)
+    : m_elapsed(moment - anchor),
+      m_days(day(moment) - day(anchor)),
+      m_years(m_days == 0 ? 0 : year(day(moment)) - year(day(anchor)))
+{
+}
+
 qint64 RelativeDistance::reading(const QDateTime& dateTime)
 {
     return static_cast<qint64>(DateTime::wallClock(dateTime));
@@ -48,21 +55,15 @@ qint64 RelativeDistance::firstDay(int year)
     return date.toJulianDay() - julianDayOf1970;
 }
 
-int RelativeDistance::years() const
-{
-    return year(day(m_moment)) - year(day(m_anchor));
-}
-
 qint64 RelativeDistance::difference(RelativeDateElement::Type element) const
 {
-    const qint64 elapsed = m_moment - m_anchor;
     switch (element) {
     case RelativeDateElement::Minutes:
-        return elapsed / msPerMinute;
+        return m_elapsed / msPerMinute;
     case RelativeDateElement::Hours:
-        return elapsed / msPerHour;
+        return m_elapsed / msPerHour;
     default:
-        return elapsed / msPerDay;
+        return m_elapsed / msPerDay;
     }
 }
 

@@ -24,7 +24,7 @@ public:
     static constexpr qint64 msPerDay = 24 * msPerHour;
 
     /** Both in milliseconds from 1970-01-01 00:00 on the wall clock. */
-    RelativeDistance(qint64 anchor, qint64 moment) : m_anchor(anchor), m_moment(moment) {}
+    RelativeDistance(qint64 anchor, qint64 moment);
 
     /** The date and time that a moment shows, whatever its time zone. */
     static qint64 reading(const QDateTime& dateTime);
@@ -42,17 +42,18 @@ public:
     static qint64 firstDay(int year);
 
     /** The years between the calendar years. */
-    int years() const;
+    int years() const { return m_years; }
 
     /** The days between the calendar days. */
-    qint64 days() const { return day(m_moment) - day(m_anchor); }
+    qint64 days() const { return m_days; }
 
     /** Whole minutes, hours or days from the anchor to the moment, truncated towards zero. */
     qint64 difference(RelativeDateElement::Type element) const;
 
 private:
-    qint64 m_anchor;
-    qint64 m_moment;
+    qint64 m_elapsed;
+    qint64 m_days;
+    int m_years;
 };
 
 } // namespace zel::utility::i18n
