@@ -1,6 +1,7 @@
 #include "Entry.h"
 
 #include "Floor.h"
+#include "List.h"
 #include "support/SettingsRoot.h"
 #include <chrono>
 #include <QtCore/QFile>
@@ -280,6 +281,19 @@ Entry slotEntry(const SlotCalls& calls)
             Entry::Same};
 }
 
+/** formatAll() beside ICU's kept formatter; the text is the last one. */
+std::vector<Entry> listEntries()
+{
+    std::vector<Entry> all;
+    for (const List& list : lists()) {
+        const auto side = [moments = list.moments(1000)](const List::Side& chosen) {
+            return [moments, texts = chosen.prepare()] { return texts(moments).last(); };
+        };
+        all.push_back({"formatAll 1,000 " + list.name, side(list.sides[0]), side(list.sides[1]), Entry::Same});
+    }
+    return all;
+}
+
 std::vector<Entry> makeEntries()
 {
     device();
@@ -290,6 +304,7 @@ std::vector<Entry> makeEntries()
     add(customEntries("yMMMdhmz", zoneSkeleton));
     add({setSkeletonEntry()});
     add(ladderEntries());
+    add(listEntries());
     for (const SlotCalls& calls : slotCalls()) {
         add({slotEntry(calls)});
     }

@@ -147,8 +147,13 @@ std::unique_ptr<icu::SimpleDateFormat> formatter(const QLocale& locale, const QS
 
 QString format(icu::SimpleDateFormat& format, const QDateTime& moment)
 {
-    UErrorCode status = U_ZERO_ERROR;
     format.adoptTimeZone(icu::TimeZone::getGMT()->clone());
+    return formatKept(format, moment);
+}
+
+QString formatKept(const icu::SimpleDateFormat& format, const QDateTime& moment)
+{
+    UErrorCode status = U_ZERO_ERROR;
     icu::UnicodeString text;
     format.icu::Format::format(icu::Formattable(wallClock(moment)), text, status);
     return toQt(text);

@@ -33,6 +33,9 @@ std::unique_ptr<icu::SimpleDateFormat> formatter(const QLocale& locale, const QS
 /** The date and time that a moment shows. */
 QString format(icu::SimpleDateFormat& format, const QDateTime& moment);
 
+/** The same with a formatter that has GMT as its zone already. */
+QString formatKept(const icu::SimpleDateFormat& format, const QDateTime& moment);
+
 /** The moment in a time zone. */
 QString formatInZone(icu::SimpleDateFormat& format, const QDateTime& moment, const QString& zone);
 

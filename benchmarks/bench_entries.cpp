@@ -1,4 +1,4 @@
-// Times every entry beside its floor, ICU's and Qt's nearest equivalents, and one thread against two.
+// Times every entry beside its floor, and one thread against two.
 
 #include "Entry.h"
 
@@ -6,7 +6,6 @@
 #include <cstdio>
 #include <QtCore/QDateTime>
 #include <QtCore/QLocale>
-#include <unicode/reldatefmt.h>
 #include <zel/utility/i18n/CustomDateFormatter.h>
 #include <zel/utility/i18n/Formatting.h>
 #include <zel/utility/i18n/RelativeDateFormatter.h>
@@ -23,39 +22,6 @@ void run(benchmark::State& state, const std::function<QString()>& side)
     for (auto step : state) {
         benchmark::DoNotOptimize(side());
     }
-}
-
-void qtDate(benchmark::State& state)
-{
-    run(state, [] { return locale.toString(moment.date(), QLocale::ShortFormat); });
-}
-
-void qtDateTime(benchmark::State& state)
-{
-    run(state, [] { return locale.toString(moment, QLocale::ShortFormat); });
-}
-
-QString minutesAgo(const icu::RelativeDateTimeFormatter& formatter)
-{
-    UErrorCode status = U_ZERO_ERROR;
-    icu::UnicodeString text;
-    formatter.format(5.0, UDAT_DIRECTION_LAST, UDAT_RELATIVE_MINUTES, text, status);
-    return QString(reinterpret_cast<const QChar*>(text.getBuffer()), text.length());
-}
-
-void icuRelativeKept(benchmark::State& state)
-{
-    UErrorCode status = U_ZERO_ERROR;
-    const icu::RelativeDateTimeFormatter formatter(icu::Locale::getUS(), status);
-    run(state, [&formatter] { return minutesAgo(formatter); });
-}
-
-void icuRelativeAnew(benchmark::State& state)
-{
-    run(state, [] {
-        UErrorCode status = U_ZERO_ERROR;
-        return minutesAgo(icu::RelativeDateTimeFormatter(icu::Locale::getUS(), status));
-    });
 }
 
 // On one or more threads, each with a formatter of its own.
@@ -89,12 +55,8 @@ void registerEntries()
     }
 }
 
-void registerOthers()
+void registerThreads()
 {
-    benchmark::RegisterBenchmark("QLocale::toString date/peer", qtDate);
-    benchmark::RegisterBenchmark("QLocale::toString date and time/peer", qtDateTime);
-    benchmark::RegisterBenchmark("icu::RelativeDateTimeFormatter kept/peer", icuRelativeKept);
-    benchmark::RegisterBenchmark("icu::RelativeDateTimeFormatter anew/peer", icuRelativeAnew);
     for (const int threads : {1, 2}) {
         benchmark::RegisterBenchmark("custom", threadsCustom)->Threads(threads)->UseRealTime();
         benchmark::RegisterBenchmark("relative", threadsRelative)->Threads(threads)->UseRealTime();
@@ -111,7 +73,7 @@ int main(int argc, char** argv)
         return 1;
     }
     registerEntries();
-    registerOthers();
+    registerThreads();
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
         return 1;
