@@ -76,6 +76,8 @@ private Q_SLOTS:
         row("percent|--locale|en_US|0.256|0.125", "26%\n12%");
         row("percent|--locale|tr_TR|0.5", "%50");
         row("percent|--device|region=de_DE|12.5", "1.250\u00a0%");
+        row("percent|--locale|en_US|-5|-1e-2|-inf", "-500%\n-1%\n-\u221e%");
+        row("percent|--locale|en_US|--|-inf", "-\u221e%");
         row("percent|--locale|en_US|--json|0.25", R"({"locale":"en_US","text":"25%","value":0.25})");
 
         row("format|yMMMd|2012-05-16|--device|region=en_US", "May 16, 2012");
@@ -170,7 +172,13 @@ private Q_SLOTS:
         row("formats|--locale|xx_YY", 1, "unknown locale 'xx_YY'");
         row("formats|--locale|de_XX", 1, "unknown locale 'de_XX'"); // Qt alone would answer with Germany
         row("formats|--locale|zh_Latn_TW", 1, "unknown locale 'zh_Latn_TW'");
-        row("percent|nan", 1, "'nan' is not a number such as 0.256");
+        for (const char* const number : {"nan", "-nan", "1,5"}) {
+            row(QByteArray("percent|").append(number).constData(), 1,
+                QByteArray("'").append(number).append("' is not a number such as 0.256").constData());
+        }
+        row("percent|--locale|-5|1", 1, "unknown locale '-5'");
+        row("help|frobnicate", 2, "unknown command 'frobnicate'; see 'zel-i18n --help'");
+        row("help|format|percent", 2, "one command at most, not also 'percent'; see 'zel-i18n --help'");
         row("format|foo!", 1, "'foo!' is not a skeleton such as yMMMd or hm");
         row("format|y|--device|hour-format=13", 1, "hour-format is 12 or 24, not '13'");
         row("format|y|--device|time-zone=Mars/Base", 1, "unknown time zone 'Mars/Base'");
@@ -234,8 +242,12 @@ private Q_SLOTS:
             QCOMPARE(one.status, 0);
             QVERIFY(one.output.startsWith(QLatin1String("Usage: zel-i18n ") + QLatin1String(name)));
             QVERIFY(one.output.contains(QLatin1String("\nExamples:\n  zel-i18n ")));
+            QCOMPARE(run(QByteArray("help|").append(name).constData()).output, one.output);
         }
-        QCOMPARE(run("--version").output, QStringLiteral("zel-i18n " ZEL_VERSION "\n"));
+        QCOMPARE(run("help|help").output, all.output);
+        for (const char* const version : {"--version", "-V"}) {
+            QCOMPARE(run(version).output, QStringLiteral("zel-i18n " ZEL_VERSION "\n"));
+        }
     }
 
     void json_data()

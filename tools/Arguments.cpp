@@ -5,17 +5,18 @@
 #include "LocaleName.h"
 #include "terminal/Failure.h"
 #include "texts/MomentReader.h"
+#include <QtCore/QRegularExpression>
 
 namespace zel::tool {
 
 namespace {
 
-// A negative number is no option. A blank in front hides it from the parser.
+// A negative number is not an option. A blank in front hides it from the parser.
 QString hideNumber(const QString& word)
 {
-    const bool negative =
-        word.size() > 1 && word.at(0) == QLatin1Char('-') && (word.at(1).isDigit() || word.at(1) == QLatin1Char('.'));
-    return negative ? QLatin1Char(' ') + word : word;
+    static const QRegularExpression negative(QStringLiteral("\\A-(?:[0-9.]|inf|nan)"),
+                                             QRegularExpression::CaseInsensitiveOption);
+    return word.contains(negative) ? QLatin1Char(' ') + word : word;
 }
 
 QStringList shownAgain(QStringList words)
@@ -111,7 +112,7 @@ int Arguments::choice(const QString& option, const QMap<QString, int>& choices, 
 QList<NamedLocale> Arguments::locales() const
 {
     QList<NamedLocale> locales;
-    for (const QString& name : m_parser.values(QStringLiteral("locale"))) {
+    for (const QString& name : shownAgain(m_parser.values(QStringLiteral("locale")))) {
         locales.append(namedLocale(name));
     }
     if (locales.isEmpty()) {

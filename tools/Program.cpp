@@ -4,6 +4,7 @@
 #include "commands/Commands.h"
 #include "device/ThrowAwayDevice.h"
 #include "terminal/Console.h"
+#include <algorithm>
 #include <optional>
 
 namespace zel::tool {
@@ -40,6 +41,11 @@ QString optionNames(const QCommandLineOption& option)
            (option.valueName().isEmpty() ? QString() : QLatin1Char(' ') + option.valueName());
 }
 
+bool isHelp(const QString& word)
+{
+    return QStringList({QStringLiteral("help"), QStringLiteral("--help"), QStringLiteral("-h")}).contains(word);
+}
+
 } // namespace
 
 Program::Program()
@@ -59,9 +65,9 @@ Program::~Program() = default;
 ExitStatus Program::run(const QStringList& words, Console& console) const
 {
     const QString first = words.value(0);
-    if (first == QLatin1String("--help") || first == QLatin1String("-h")) {
-        console.line(help());
-    } else if (first == QLatin1String("--version")) {
+    if (isHelp(first)) {
+        console.line(helpOn(words.mid(1)));
+    } else if (first == QLatin1String("--version") || first == QLatin1String("-V")) {
         console.line(QStringLiteral("zel-i18n " ZEL_VERSION));
     } else {
         return runCommand(find(first), words.mid(1), console);
@@ -100,6 +106,16 @@ const Command& Program::find(const QString& name) const
         QStringLiteral("; see 'zel-i18n --help'"));
 }
 
+QString Program::helpOn(QStringList words) const
+{
+    words.erase(std::remove_if(words.begin(), words.end(), &isHelp), words.end()); // "help help"
+    if (words.size() > 1) {
+        throw Failure::usage(QStringLiteral("one command at most, not also ") + quoted(words.at(1)) +
+                             QStringLiteral("; see 'zel-i18n --help'"));
+    }
+    return words.isEmpty() ? help() : help(find(words.first()));
+}
+
 QString Program::help() const
 {
     QString text = QStringLiteral("Usage: zel-i18n COMMAND [OPTION...] [ARGUMENT...]\n\n"
@@ -108,9 +124,10 @@ QString Program::help() const
     for (const auto& command : m_commands) {
         text += entry(command->help().name, command->help().summary);
     }
-    return text + QStringLiteral("\nOptions:\n") +
-           entry(QStringLiteral("-h, --help"), QStringLiteral("Show this text; behind a command, more about it.")) +
-           entry(QStringLiteral("--version"), QStringLiteral("Show the version.")) +
+    return text + entry(QStringLiteral("help"), QStringLiteral("Show this text, or the help of a command.")) +
+           QStringLiteral("\nOptions:\n") +
+           entry(QStringLiteral("-h, --help"), QStringLiteral("Show this text, or, after a command, its help.")) +
+           entry(QStringLiteral("-V, --version"), QStringLiteral("Show the version.")) +
            QStringLiteral("\nExit status: 0 it worked, 1 bad input or no answer, 2 bad usage.");
 }
 

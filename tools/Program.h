@@ -27,6 +27,8 @@ public:
 private:
     ExitStatus runCommand(const Command& command, const QStringList& words, Console& console) const;
     const Command& find(const QString& name) const;
+    /** The help of the command that the words name, of the program without words. */
+    QString helpOn(QStringList words) const;
     QString help() const;
     static QString help(const Command& command);
 

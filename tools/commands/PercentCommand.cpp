@@ -12,11 +12,20 @@ namespace {
 
 constexpr int mostDigits = 340;
 
+// "1,5" is not 15.
+QLocale withoutGroups()
+{
+    QLocale locale = QLocale::c();
+    locale.setNumberOptions(QLocale::RejectGroupSeparator);
+    return locale;
+}
+
 double number(const QString& word)
 {
+    static const QLocale locale = withoutGroups();
     bool ok = false;
-    const double value = QLocale::c().toDouble(word, &ok);
-    if (!ok || !std::isfinite(value)) {
+    const double value = locale.toDouble(word, &ok);
+    if (!ok || std::isnan(value)) {
         throw Failure(quoted(word) + QStringLiteral(" is not a number such as 0.256"));
     }
     return value;
