@@ -596,6 +596,22 @@ private Q_SLOTS:
         QCOMPARE(QFileInfo(bundles, QStringLiteral("bundles.list")).lastModified() == made, wasSound);
     }
 
+    void generatorIsForOneKindOfData()
+    {
+        const QTemporaryDir directory;
+        QProcess generator;
+        generator.start(QStringLiteral(ZEL_ICUDATA_GEN),
+                        {QStringLiteral("--for=ICU 50.2, little-endian"), directory.path()});
+        QVERIFY(generator.waitForFinished());
+        QCOMPARE(generator.exitCode(), 1);
+        const QByteArray error = generator.readAllStandardError();
+        QVERIFY2(
+            error.startsWith("zel-icudata-gen: the build needs data of ICU 50.2, little-endian; this generator has "
+                             "that of ICU " U_ICU_VERSION ", "),
+            error);
+        QVERIFY(QDir(directory.path()).isEmpty());
+    }
+
     void generatorsRunSideBySide()
     {
         const QTemporaryDir directory;

@@ -1,11 +1,12 @@
-// zel-icudata-gen [--unless-sound] <directory>: writes ICU's locale bundles, with phrase tables added, to
-// <directory>/<icudtNNl>.
+// zel-icudata-gen [--unless-sound] [--for=<kind>] <directory>: writes ICU's locale bundles, with phrase tables added,
+// to <directory>/<icudtNNl>. A kind is that of ICU's data, "ICU 72.1, little-endian", in case that is another ICU's.
 
 #include "BundleList.h"
 #include "PhraseTables.h"
 #include "ResourceBundleWriter.h"
 #include "StockBundles.h"
 
+#include <array>
 #include <cerrno>
 #include <cstdlib>
 #include <exception>
@@ -13,7 +14,12 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <optional>
+#include <string>
+#include <string_view>
 #include <system_error>
+#include <unicode/uversion.h>
+#include <vector>
 
 namespace {
 
@@ -124,19 +130,57 @@ bool isSound(const fs::path& bundles)
     return BundleList::problemOf(bundles).empty() && BundleList::hasPool(bundles);
 }
 
+struct Options
+{
+    bool unlessSound = false;
+    std::string kind;
+    fs::path directory;
+};
+
+std::optional<Options> parse(const std::vector<std::string>& arguments)
+{
+    constexpr std::string_view forKind = "--for=";
+    Options options;
+    for (const std::string& argument : arguments) {
+        if (argument == "--unless-sound") {
+            options.unlessSound = true;
+        } else if (argument.rfind(forKind, 0) == 0) {
+            options.kind = argument.substr(forKind.size());
+        } else if (options.directory.empty()) {
+            options.directory = argument;
+        } else {
+            return std::nullopt;
+        }
+    }
+    return options.directory.empty() ? std::nullopt : std::make_optional(std::move(options));
+}
+
+std::string kindOfData()
+{
+    UVersionInfo version = {};
+    std::array<char, U_MAX_VERSION_STRING_LENGTH> text{};
+    u_getVersion(version);
+    u_versionToString(version, text.data());
+    return std::string("ICU ") + text.data() + (U_IS_BIG_ENDIAN != 0 ? ", big-endian" : ", little-endian");
+}
+
 int run(const std::vector<std::string>& arguments)
 {
-    const bool unlessSound = arguments.size() == 2 && arguments.front() == "--unless-sound";
-    if (arguments.size() != (unlessSound ? 2 : 1)) {
-        std::cerr << "usage: zel-icudata-gen [--unless-sound] <directory>\n";
+    const auto options = parse(arguments);
+    if (!options) {
+        std::cerr << "usage: zel-icudata-gen [--unless-sound] [--for=<kind>] <directory>\n";
+        return EXIT_FAILURE;
+    }
+    if (!options->kind.empty() && options->kind != kindOfData()) {
+        std::cerr << "zel-icudata-gen: the build needs data of " << options->kind << "; this generator has that of "
+                  << kindOfData() << '\n';
         return EXIT_FAILURE;
     }
     // The data to copy is ICU's own, whatever data the person who builds uses otherwise.
     unsetenv("ICU_DATA"); // NOLINT(concurrency-mt-unsafe): the only thread
-    const fs::path directory = arguments.back();
     std::string error;
-    const bool isNeeded = !unlessSound || !isSound(directory / U_ICUDATA_NAME);
-    if (isNeeded && !generate(directory, error)) {
+    const bool isNeeded = !options->unlessSound || !isSound(options->directory / U_ICUDATA_NAME);
+    if (isNeeded && !generate(options->directory, error)) {
         std::cerr << "zel-icudata-gen: " << error << " (this is ICU " U_ICU_VERSION "; ICU 72 to 78 are supported)\n";
         return EXIT_FAILURE;
     }
