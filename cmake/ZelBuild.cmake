@@ -24,6 +24,11 @@ if(PROJECT_IS_TOP_LEVEL AND NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYP
     set(CMAKE_BUILD_TYPE RelWithDebInfo CACHE STRING "Build type" FORCE)
 endif()
 
+if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+    # Else stat() fails for large inode numbers, and times end in 2038.
+    add_compile_definitions(_FILE_OFFSET_BITS=64 _TIME_BITS=64)
+endif()
+
 add_library(zel_warnings INTERFACE)
 target_compile_options(zel_warnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion)
 if(CMAKE_UNITY_BUILD)

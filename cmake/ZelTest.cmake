@@ -7,6 +7,11 @@ else()
     find_package(Qt6 REQUIRED COMPONENTS Test)
 endif()
 
+set(ZEL_TEST_TIMEOUT 300)
+if(CMAKE_CROSSCOMPILING)
+    set(ZEL_TEST_TIMEOUT 1800) # under an emulator
+endif()
+
 function(zel_add_test name)
     add_executable(tst_${name} tst_${name}.cpp ${ARGN})
     target_include_directories(tst_${name} PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}")
@@ -16,7 +21,7 @@ function(zel_add_test name)
         set_source_files_properties(tst_${name}.cpp PROPERTIES COMPILE_OPTIONS -Wno-conversion)
     endif()
     add_test(NAME ${name} COMMAND tst_${name} ${ZEL_TEST_FUNCTIONS})
-    set_tests_properties(${name} PROPERTIES TIMEOUT 300)
+    set_tests_properties(${name} PROPERTIES TIMEOUT ${ZEL_TEST_TIMEOUT})
     if(ZEL_SANITIZE MATCHES thread)
         # Qt, ICU and the C library are not instrumented: the sanitizer cannot see their locks and atomics.
         set_tests_properties(${name} PROPERTIES ENVIRONMENT "TSAN_OPTIONS=ignore_noninstrumented_modules=1")

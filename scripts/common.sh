@@ -19,31 +19,30 @@ fail() {
     exit 1
 }
 
-# build_dir PRESET: where a preset is built.
+# build_dir PRESET: where a preset is built, for another kind of machine after prepare_target.
 build_dir() {
-    case $1 in
-    dev) echo build ;;
-    *) echo "build-$1" ;;
-    esac
+    local directory=build-$1${target:+-$target}
+    echo "${directory/#build-dev/build}"
 }
 
 # configure PRESET: warnings are errors only where the caller exports ZEL_WERROR=ON, as CI does with its one compiler.
 configure() {
     local output
-    output=$(cmake --preset "$1" "-DZEL_WERROR=${ZEL_WERROR:-OFF}" 2>&1) || { printf '%s\n' "$output" >&2; fail "cannot configure preset $1"; }
+    output=$(cmake --preset "$1" -B "$(build_dir "$1")" "${target_options[@]}" "-DZEL_WERROR=${ZEL_WERROR:-OFF}" 2>&1) ||
+        { printf '%s\n' "$output" >&2; fail "cannot configure preset $1"; }
 }
 
 # build PRESET [TARGET...]: configures and builds; silent on success except for progress on a terminal.
 build() {
-    local preset=$1 targets=() output
+    local preset=$1 targets=() output command
     shift
     [ $# -eq 0 ] || targets=(--target "$@")
     configure "$preset"
+    command=(cmake --build "$(build_dir "$preset")" --parallel "$(nproc)" "${targets[@]}")
     if [ -t 1 ]; then
-        cmake --build --preset "$preset" --parallel "$(nproc)" "${targets[@]}"
+        "${command[@]}"
     else
-        output=$(cmake --build --preset "$preset" --parallel "$(nproc)" "${targets[@]}" 2>&1) ||
-            { printf '%s\n' "$output" >&2; fail "cannot build preset $preset"; }
+        output=$("${command[@]}" 2>&1) || { printf '%s\n' "$output" >&2; fail "cannot build preset $preset"; }
     fi
 }
 
@@ -52,4 +51,77 @@ sources() {
     git ls-files --cached --others --exclude-standard --deduplicate -- '*.cpp' '*.h' | while IFS= read -r file; do
         [ ! -e "$file" ] || printf '%s\n' "$file"
     done
+}
+
+cache=${XDG_CACHE_HOME:-$HOME/.cache}/zel-i18n
+
+# debian_mirror: the one that this machine's apt uses.
+debian_mirror() {
+    # shellcheck disable=SC2016
+    apt-get indextargets --format '$(REPO_URI)' 'Created-By: Packages' 'Origin: Debian' 'Label: Debian' | sed 1q
+}
+
+# register_package PACKAGE DIRECTORY: what dpkg-shlibdeps needs to know of a package that was unpacked into a directory.
+register_package() {
+    local dpkg=$2/var/lib/dpkg name file
+    name=$(dpkg-deb --field "$1" Package)
+    [ "$(dpkg-deb --field "$1" Multi-Arch)" != same ] || name+=:$(dpkg-deb --field "$1" Architecture)
+    dpkg-deb --field "$1" | sed '$a Status: install ok installed\n' >>"$dpkg/status"
+    dpkg-deb --fsys-tarfile "$1" | tar --list | sed 's|^\.||; s|/$||' >"$dpkg/info/$name.list"
+    for file in shlibs symbols; do
+        dpkg-deb --info "$1" "$file" >"$dpkg/info/$name.$file" 2>/dev/null || rm "$dpkg/info/$name.$file"
+    done
+}
+
+# unpack_debian DIRECTORY RELEASE ARCHITECTURE PACKAGE...: unpacks packages and all that they depend on, once. Nothing
+# is installed, and this machine's own apt is asked for the mirror only.
+unpack_debian() {
+    local directory=$1 release=$2 architecture=$3 contents="${*:2}" apt=$1.apt package options mirror
+    shift 3
+    [ "$(cat "$directory/contents" 2>/dev/null)" != "$contents" ] || return 0
+    mirror=$(debian_mirror)
+    [ -n "$mirror" ] || fail "this machine's apt knows no Debian mirror; run apt-get update"
+    echo "Unpacking packages of $release for $architecture in $directory"
+    rm -rf "$directory" "$apt"
+    mkdir -p "$apt"/{state/lists,cache/archives}/partial "$directory"/usr/{bin,lib,sbin} "$directory/var/lib/dpkg/info"
+    ln -s usr/bin usr/lib usr/sbin "$directory"
+    touch "$apt/status"
+    echo "deb [signed-by=/usr/share/keyrings/debian-archive-keyring.gpg] $mirror $release main" >"$apt/sources.list"
+    options=(-qq -o "Dir::State=$apt/state" -o "Dir::State::status=$apt/status" -o "Dir::Cache=$apt/cache"
+        -o "Dir::Etc::sourcelist=$apt/sources.list" -o Dir::Etc::sourceparts=- -o APT::Sandbox::User=root
+        -o "APT::Architecture=$architecture" -o "APT::Architectures=$architecture")
+    apt-get "${options[@]}" update
+    apt-get "${options[@]}" install --no-install-recommends --download-only -y "$@" >/dev/null
+    for package in "$apt"/cache/archives/*.deb; do
+        dpkg-deb --fsys-tarfile "$package" | tar --extract --keep-directory-symlink --directory "$directory"
+        register_package "$package" "$directory"
+    done
+    rm -rf "$apt"
+    echo "$contents" >"$directory/contents"
+}
+
+target=
+target_options=()
+
+# prepare_target ARCHITECTURE: what follows builds for that one. Brings its packages of this machine's release, and the
+# emulator; that of Debian 13, as Qt starts programs in a way that older ones do not know.
+prepare_target() {
+    local release
+    scripts/bootstrap build cross
+    release=$(. /etc/os-release && echo "$VERSION_CODENAME")
+    target=$1
+    sysroot=$cache/sysroot-$release-$1
+    emulator=$cache/emulator/usr/bin/qemu-$1
+    unpack_debian "$cache/emulator" trixie "$(dpkg --print-architecture)" qemu-user
+    unpack_debian "$sysroot" "$release" "$1" \
+        libc6-dev "libstdc++-$(g++ -dumpversion)-dev" qt6-base-dev libicu-dev icu-devtools tzdata
+    target_options=(--toolchain "cmake/toolchains/$1.cmake" "-DCMAKE_SYSROOT=$sysroot"
+        -DCMAKE_UNITY_BUILD=ON -DCMAKE_UNITY_BUILD_BATCH_SIZE=0
+        "-DCMAKE_CROSSCOMPILING_EMULATOR=$emulator;-L;$sysroot"
+        -DQT_HOST_PATH=/usr "-DQT_HOST_PATH_CMAKE_DIR=$(pkg-config --variable=libdir Qt6Core)/cmake")
+}
+
+# on_target COMMAND...: runs a command where each program that it starts may be one of the target's.
+on_target() {
+    proot -q "$emulator -L $sysroot" "$@"
 }

@@ -49,6 +49,13 @@ std::atomic<int> looksToTear{0}; // at the region, of which the last finds it to
 constexpr std::size_t longestStep = 1024;
 std::atomic<int> stepsToLive{-1}; // in a process that writes and is to be killed
 
+// The C library's names of these where files and times need more than 32 bits.
+#if _TIME_BITS == 64 && __TIMESIZE == 32
+#define LARGE(name) "__" name "64_time64"
+#else
+#define LARGE(name) name
+#endif
+
 template <typename Function>
 Function systemFunction(const char* name)
 {
@@ -104,7 +111,7 @@ QMetaObject::Connection tryToConnect(const QObject* sender, const char* signal, 
 // A file system whose times have no fractions of a second.
 extern "C" Q_DECL_EXPORT int stat(const char* file, struct stat* status) noexcept
 {
-    static const auto look = systemFunction<int (*)(const char*, struct stat*)>("stat");
+    static const auto look = systemFunction<int (*)(const char*, struct stat*)>(LARGE("stat"));
     if (looksToTear > 0 && QByteArray(file).endsWith("/pps/system/locale") && --looksToTear == 0) {
         ::truncate(file, 0);
     }
@@ -115,7 +122,7 @@ extern "C" Q_DECL_EXPORT int stat(const char* file, struct stat* status) noexcep
 
 extern "C" Q_DECL_EXPORT int fstat(int fd, struct stat* status) noexcept
 {
-    static const auto look = systemFunction<int (*)(int, struct stat*)>("fstat");
+    static const auto look = systemFunction<int (*)(int, struct stat*)>(LARGE("fstat"));
     const int result = look(fd, status);
     cutTimes(*status);
     return result;

@@ -1,0 +1,4 @@
+# 64-bit ARM.
+set(CMAKE_SYSTEM_PROCESSOR aarch64)
+set(zelTriplet aarch64-linux-gnu)
+include("${CMAKE_CURRENT_LIST_DIR}/common.cmake")

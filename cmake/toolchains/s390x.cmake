@@ -1,0 +1,4 @@
+# A big-endian machine, for what depends on the order of bytes.
+set(CMAKE_SYSTEM_PROCESSOR s390x)
+set(zelTriplet s390x-linux-gnu)
+include("${CMAKE_CURRENT_LIST_DIR}/common.cmake")
