@@ -341,15 +341,30 @@ private Q_SLOTS:
         QCOMPARE(relative.finish().status, 0);
     }
 
-    void endsQuietlyWhenNobodyReads()
+    void pipes_data()
     {
+        const NamedRow<QString, QString> row;
+        row("ends quietly when nobody reads",
+            R"(yes 2012-05-16 | "$0" relative - --locale en --anchor 2012-05-16 | head -n 1; echo ${PIPESTATUS[1]})",
+            "in 0 minutes\n0\n");
+        row("complains in the order of the lines",
+            R"(printf '2012-05-16\nyesterday\n2012-05-17\n' | "$0" format yMMMd - --locale en_US 2>&1 | cut -c 1-27)",
+            "May 16, 2012\nzel-i18n: line 2: 'yesterda\nMay 17, 2012\n");
+        // A terminal is made for standard error alone.
+        row("shows how far a file is read",
+            R"(cd "$TMPDIR" && echo 0.5 >values && "$0" percent - --locale en_US <values 2>errors >texts
+               script -qec "$0 percent - --locale en_US <values >texts" /dev/null | tr '\r\033' '<^'; cat errors texts)",
+            QStringLiteral("<^[K[%1]   0 % <^[K[%2] 100 % <^[K50%\n")
+                .arg(QString(40, QLatin1Char('.')), QString(40, QLatin1Char('#'))));
+    }
+
+    void pipes()
+    {
+        const auto [line, output] = cells<QString, QString>();
         const SettingsRoot root;
-        const QString line =
-            QStringLiteral("yes 2012-05-16 | \"$0\" relative - --locale en --anchor 2012-05-16 | head -n 1; "
-                           "echo ${PIPESTATUS[1]}");
         Child shell(QStringLiteral("bash"), {QStringLiteral("-c"), line, QStringLiteral(ZEL_TOOL)});
         const Result result = shell.finish();
-        QCOMPARE(result.output, QStringLiteral("in 0 minutes\n0\n"));
+        QCOMPARE(result.output, output);
         QCOMPARE(result.errors, QString());
     }
 

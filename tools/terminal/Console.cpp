@@ -12,6 +12,7 @@
 #include <QtCore/QJsonDocument>
 #include <sys/ioctl.h>
 #include <sys/signalfd.h>
+#include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
 
@@ -116,6 +117,15 @@ int Console::read(char* target, int size)
             throw Failure(QStringLiteral("cannot read standard input: ") + errorText(errno));
         }
     }
+}
+
+qint64 Console::inputSize() const
+{
+    struct stat file = {};
+    if (::fstat(STDIN_FILENO, &file) != 0 || !S_ISREG(file.st_mode)) {
+        return 0;
+    }
+    return file.st_size - ::lseek(STDIN_FILENO, 0, SEEK_CUR);
 }
 
 void Console::waitFor(int descriptor, short events) const

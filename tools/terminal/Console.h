@@ -44,6 +44,9 @@ public:
     /** Reads what is there, and waits only where nothing is. Answers the number of bytes, 0 at the end. */
     int read(char* target, int size);
 
+    /** The bytes that are left to read in a file, as it is now; 0 for any other input. */
+    qint64 inputSize() const;
+
     /** Readable when a signal asks the program to end. */
     int signalDescriptor() const { return m_signals; }
 

@@ -17,6 +17,13 @@ std::string_view withoutCarriageReturn(std::string_view line)
 
 } // namespace
 
+LineReader::LineReader(Console& console) : m_console(console)
+{
+    if (const qint64 size = console.inputSize(); size > 0 && !console.isTerminal()) {
+        m_progress.emplace(size);
+    }
+}
+
 ExitStatus LineReader::forEach(Console& console, const std::function<void(std::string_view)>& handler)
 {
     ExitStatus status = Worked;
@@ -25,16 +32,19 @@ ExitStatus LineReader::forEach(Console& console, const std::function<void(std::s
         try {
             handler(*line);
         } catch (const Failure& failure) {
-            complain(console, reader.number(), failure);
+            reader.complain(reader.number(), failure);
             status = NoAnswer;
         }
     }
     return status;
 }
 
-void LineReader::complain(Console& console, qlonglong number, const Failure& failure)
+void LineReader::complain(qlonglong number, const Failure& failure)
 {
-    console.complain(QStringLiteral("line %1: ").arg(number) + failure.text());
+    if (m_progress) {
+        m_progress->erase();
+    }
+    m_console.complain(QStringLiteral("line %1: ").arg(number) + failure.text());
 }
 
 std::optional<std::string_view> LineReader::next()
@@ -63,8 +73,12 @@ void LineReader::fill()
     std::copy(m_buffer.data() + m_begin, m_buffer.data() + m_end, m_buffer.data());
     m_end -= std::exchange(m_begin, 0);
     m_console.flush();
+    if (m_progress) {
+        m_progress->show(m_read);
+    }
     const int count = m_console.read(m_buffer.data() + m_end, static_cast<int>(m_buffer.size() - m_end));
     m_end += static_cast<std::size_t>(count);
+    m_read += count;
     m_finished = count == 0;
 }
 

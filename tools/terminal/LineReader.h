@@ -2,6 +2,7 @@
 #define ZEL_TOOL_LINEREADER_H
 
 #include "terminal/Failure.h"
+#include "terminal/ProgressBar.h"
 #include <array>
 #include <functional>
 #include <optional>
@@ -13,18 +14,19 @@ class Console;
 
 /**
  * Standard input line by line, in the same memory however much it is. Everything written so far is flushed before more
- * is waited for, so that a pipe that is fed slowly answers line by line.
+ * is waited for, so that a pipe that is fed slowly answers line by line. A file that is read for another file or a pipe
+ * has a progress bar.
  */
 class LineReader
 {
 public:
-    explicit LineReader(Console& console) : m_console(console) {}
+    explicit LineReader(Console& console);
 
     /** Hands each line to the handler. One for which it fails is reported and passed over. */
     static ExitStatus forEach(Console& console, const std::function<void(std::string_view)>& handler);
 
     /** Reports what is wrong with a line. */
-    static void complain(Console& console, qlonglong number, const Failure& failure);
+    void complain(qlonglong number, const Failure& failure);
 
     /**
      * The next line without its end, valid until the next call; nothing at the end of the input. Of a line that is
@@ -43,6 +45,8 @@ private:
     void fill();
 
     Console& m_console;
+    std::optional<ProgressBar> m_progress;
+    qint64 m_read = 0;
     std::array<char, 65536> m_buffer{};
     std::size_t m_begin = 0;
     std::size_t m_end = 0;

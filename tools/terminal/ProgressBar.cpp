@@ -2,6 +2,7 @@
 
 #include <cstdio>
 #include <unistd.h>
+#include <utility>
 
 namespace zel::tool {
 
@@ -12,26 +13,25 @@ constexpr const char* eraseLine = "\r\033[K";
 
 } // namespace
 
-ProgressBar::ProgressBar(int total) : m_visible(::isatty(STDERR_FILENO) == 1), m_total(total) {}
+ProgressBar::ProgressBar(qint64 total) : m_visible(::isatty(STDERR_FILENO) == 1), m_total(total) {}
 
-ProgressBar::~ProgressBar()
-{
-    if (m_visible) {
-        std::fputs(eraseLine, stderr); // NOLINT(cert-err33-c): there is nowhere else to complain
-    }
-}
-
-void ProgressBar::step(const QString& name)
+void ProgressBar::show(qint64 done, const QString& name)
 {
     if (!m_visible) {
         return;
     }
-    const int filled = m_total == 0 ? width : m_done * width / m_total;
-    const QString bar = QString(filled, QLatin1Char('#')).leftJustified(width, QLatin1Char('.'));
+    const int percent = m_total == 0 ? 100 : static_cast<int>(done * 100 / m_total);
+    const QString bar = QString(percent * width / 100, QLatin1Char('#')).leftJustified(width, QLatin1Char('.'));
     // NOLINTNEXTLINE(cert-err33-c): there is nowhere else to complain
-    std::fprintf(stderr, "%s[%s] %3d %% %s", eraseLine, qPrintable(bar), m_total == 0 ? 100 : m_done * 100 / m_total,
-                 qPrintable(name));
-    ++m_done;
+    std::fprintf(stderr, "%s[%s] %3d %% %s", eraseLine, qPrintable(bar), percent, qPrintable(name));
+    m_drawn = true;
+}
+
+void ProgressBar::erase()
+{
+    if (std::exchange(m_drawn, false)) {
+        std::fputs(eraseLine, stderr); // NOLINT(cert-err33-c): there is nowhere else to complain
+    }
 }
 
 } // namespace zel::tool

@@ -9,17 +9,24 @@ namespace zel::tool {
 class ProgressBar
 {
 public:
-    explicit ProgressBar(int total);
-    ~ProgressBar();
+    explicit ProgressBar(qint64 total);
+    ~ProgressBar() { erase(); }
     Q_DISABLE_COPY(ProgressBar)
 
-    /** One more is about to be done. */
-    void step(const QString& name);
+    /** Shows that one more is about to be done. */
+    void step(const QString& name) { show(m_done++, name); }
+
+    /** Shows how much is done. */
+    void show(qint64 done, const QString& name = {});
+
+    /** Makes room for a line; the next show() draws the bar again. */
+    void erase();
 
 private:
     bool m_visible;
-    int m_total;
-    int m_done = 0;
+    bool m_drawn = false;
+    qint64 m_total;
+    qint64 m_done = 0;
 };
 
 } // namespace zel::tool

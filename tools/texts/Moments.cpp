@@ -40,28 +40,33 @@ ExitStatus Moments::formatLines(Console& console, const Formatter& formatter, co
     LineReader reader(console);
     QList<QDateTime> moments;
     QList<qlonglong> lines;
-    const auto attempt = [&](qlonglong line, const auto& action) {
-        try {
-            action();
-        } catch (const Failure& failure) {
-            LineReader::complain(console, line, failure);
-            status = NoAnswer;
-        }
+    const auto complain = [&](qlonglong line, const Failure& failure) {
+        reader.complain(line, failure);
+        status = NoAnswer;
     };
-    while (const auto line = reader.next()) {
-        attempt(reader.number(), [&] {
-            moments.append(m_reader.read(*line));
-            lines.append(reader.number());
-        });
-        if (reader.hasLine()) {
-            continue;
-        }
+    const auto writeBatch = [&] {
         const QStringList texts = formatter(moments);
         for (int i = 0; i < moments.size(); ++i) {
-            attempt(lines[i], [&] { writer(moments[i], texts[i]); });
+            try {
+                writer(moments[i], texts[i]);
+            } catch (const Failure& failure) {
+                complain(lines[i], failure);
+            }
         }
         moments.clear();
         lines.clear();
+    };
+    while (const auto line = reader.next()) {
+        try {
+            moments.append(m_reader.read(*line));
+            lines.append(reader.number());
+        } catch (const Failure& failure) {
+            writeBatch();
+            complain(reader.number(), failure);
+        }
+        if (!reader.hasLine()) {
+            writeBatch();
+        }
     }
     return status;
 }
