@@ -1,6 +1,7 @@
 #include "bridge/Locale.h"
 
 #include "bridge/Diagnostic.h"
+#include "bridge/IcuCall.h"
 #include <QtCore/QByteArray>
 #include <unicode/errorcode.h>
 #include <zel/icu/DataDirectory.h>
@@ -29,11 +30,9 @@ icu::Locale Locale::toICU(const QLocale& locale)
     icu::ErrorCode status;
     icuLocale.setKeywordValue("calendar", "gregorian", status);
     if (status.isFailure()) {
-        Diagnostic::write(QtWarningMsg, "Error in calling",
-                          "icu::Locale::setKeywordValue( const char *, const char *, UErrorCode & )", ":",
-                          status.errorName());
-        Diagnostic::write(QtWarningMsg, "static icu::Locale zel::utility::i18n::Locale::toICU(const QLocale&)",
-                          "could not set gregorian calendar on", icuLocale.getName(), "locale");
+        IcuCall{"icu::Locale::setKeywordValue( const char *, const char *, UErrorCode & )", IcuCall::Spaced}.report(
+            status, "static icu::Locale zel::utility::i18n::Locale::toICU(const QLocale&)",
+            "could not set gregorian calendar on", icuLocale.getName(), "locale");
     }
     return icuLocale;
 }

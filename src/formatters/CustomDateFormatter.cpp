@@ -2,6 +2,7 @@
 
 #include "bridge/DateTime.h"
 #include "bridge/Diagnostic.h"
+#include "bridge/IcuCall.h"
 #include "bridge/Locale.h"
 #include "bridge/String.h"
 #include "formatters/CustomDateFormatter_p.h"
@@ -16,17 +17,6 @@
 namespace zel::utility::i18n {
 
 namespace {
-
-/** Reports a failed ICU call, or one that returned nothing, and what could not be done for it. */
-void reportFailure(const char* call, const icu::ErrorCode& status, const char* signature, const char* consequence)
-{
-    if (status.isFailure()) {
-        Diagnostic::write(QtWarningMsg, "Error in calling", call, ":", status.errorName());
-    } else {
-        Diagnostic::write(QtWarningMsg, call, "returned a NULL pointer without setting an error code!");
-    }
-    Diagnostic::write(QtWarningMsg, signature, consequence);
-}
 
 constexpr const char* formatSignature =
     "QString zel::utility::i18n::CustomDateFormatter::format(const QDateTime&) const";
@@ -49,8 +39,9 @@ QString textOf(UDate date, const icu::SimpleDateFormat& formatter)
     icu::UnicodeString text;
     formatter.format(icu::Formattable(date), text, status);
     if (status.isFailure()) {
-        reportFailure("icu::SimpleDateFormat::format( UDate, icu::UnicodeString &, UErrorCode & )", status,
-                      formatSignature, "failed to format date/time");
+        constexpr IcuCall call = {"icu::SimpleDateFormat::format( UDate, icu::UnicodeString &, UErrorCode & )",
+                                  IcuCall::Spaced};
+        call.report(status, formatSignature, "failed to format date/time");
         return {};
     }
     return String::toQt(text);
@@ -128,23 +119,27 @@ void CustomDateFormatterPrivate::updateFormatter() const
     const std::unique_ptr<icu::DateTimePatternGenerator> generator(
         icu::DateTimePatternGenerator::createInstance(icuLocale, status));
     if (status.isFailure() || !generator) {
-        reportFailure("icu::DateTimePatternGenerator::createInstance( const icu::Locale &, UErrorCode & )", status,
-                      signature, "could not instantiate  the pattern generator");
+        constexpr IcuCall call = {"icu::DateTimePatternGenerator::createInstance( const icu::Locale &, UErrorCode & )",
+                                  IcuCall::Spaced};
+        call.report(status, signature, "could not instantiate  the pattern generator");
         return;
     }
     // Before the clock is read, so that no change between the two is missed.
     installClockFormatIfNeeded(true);
     const icu::UnicodeString pattern = generator->getBestPattern(icuSkeleton(), status);
     if (status.isFailure()) {
-        reportFailure("icu::DateTimePatternGenerator::getBestPattern( const icu::UnicodeString &, UErrorCode & )",
-                      status, signature, "could not parse the skeleton");
+        constexpr IcuCall call = {
+            "icu::DateTimePatternGenerator::getBestPattern( const icu::UnicodeString &, UErrorCode & )",
+            IcuCall::Spaced};
+        call.report(status, signature, "could not parse the skeleton");
         return;
     }
     auto created = std::make_unique<icu::SimpleDateFormat>(pattern, icuLocale, status);
     if (status.isFailure()) {
-        reportFailure("icu::SimpleDateFormat::SimpleDateFormat( const icu::UnicodeString &, const icu::Locale &, "
-                      "UErrorCode & )",
-                      status, signature, "could not instantiate the date format");
+        constexpr IcuCall call = {"icu::SimpleDateFormat::SimpleDateFormat( const icu::UnicodeString &, const "
+                                  "icu::Locale &, UErrorCode & )",
+                                  IcuCall::Spaced};
+        call.report(status, signature, "could not instantiate the date format");
         return;
     }
     // An update that a message handler started during this one is the newer one.

@@ -1,7 +1,7 @@
 #include "patterns/DatePattern.h"
 
 #include "bridge/DateTime.h"
-#include "bridge/Diagnostic.h"
+#include "bridge/IcuCall.h"
 #include "bridge/Locale.h"
 #include "bridge/String.h"
 #include <memory>
@@ -25,20 +25,13 @@ std::unique_ptr<icu::DateTimePatternGenerator> createGenerator(const icu::Locale
     icu::ErrorCode status;
     std::unique_ptr<icu::DateTimePatternGenerator> generator(
         icu::DateTimePatternGenerator::createInstance(locale, status));
-    if (status.isSuccess() && generator) {
-        return generator;
+    if (status.isFailure() || !generator) {
+        constexpr IcuCall call = {"icu::DateTimePatternGenerator::createInstance( const icu::Locale &, UErrorCode & )",
+                                  IcuCall::Joined, QtWarningMsg, QtDebugMsg};
+        call.report(status, patternSignature, "could not instantiate icu::DateTimePatternGenerator");
+        return nullptr;
     }
-    if (status.isFailure()) {
-        Diagnostic::write(
-            QtWarningMsg,
-            "Error in calling icu::DateTimePatternGenerator::createInstance( const icu::Locale &, UErrorCode & ):",
-            status.errorName());
-    } else {
-        Diagnostic::write(QtWarningMsg, "icu::DateTimePatternGenerator::createInstance( const icu::Locale &, "
-                                        "UErrorCode & ) returned a NULL pointer without setting an error code!");
-    }
-    Diagnostic::write(QtDebugMsg, patternSignature, "could not instantiate icu::DateTimePatternGenerator");
-    return nullptr;
+    return generator;
 }
 
 } // namespace
@@ -52,12 +45,10 @@ QString DatePattern::patternFromSkeleton(const QString& skeleton, const QLocale&
     icu::ErrorCode status;
     const icu::UnicodeString pattern = generator->getBestPattern(String::toICU(skeleton), status);
     if (status.isFailure()) {
-        Diagnostic::write(
-            QtWarningMsg,
-            "Error in calling icu::DateTimePatternGenerator::getBestPattern( const icu::UnicodeString &, UErrorCode & "
-            "):",
-            status.errorName());
-        Diagnostic::write(QtDebugMsg, patternSignature, "could not parse the skeleton");
+        constexpr IcuCall call = {
+            "icu::DateTimePatternGenerator::getBestPattern( const icu::UnicodeString &, UErrorCode & )",
+            IcuCall::Joined, QtWarningMsg, QtDebugMsg};
+        call.report(status, patternSignature, "could not parse the skeleton");
         return {};
     }
     return String::toQt(pattern);
@@ -68,22 +59,17 @@ QString DatePattern::formatFromPattern(const QString& pattern, const QDateTime& 
     icu::ErrorCode status;
     icu::SimpleDateFormat format(String::toICU(pattern), Locale::toICU(locale), status);
     if (status.isFailure()) {
-        Diagnostic::write(QtWarningMsg,
-                          "Error in calling icu::SimpleDateFormat::SimpleDateFormat( const icu::UnicodeString &, const "
-                          "icu::Locale &, UErrorCode & ):",
-                          status.errorName());
-        Diagnostic::write(QtWarningMsg, formatSignature, "could not instantiate date formatter");
+        constexpr IcuCall call = {"icu::SimpleDateFormat::SimpleDateFormat( const icu::UnicodeString &, const "
+                                  "icu::Locale &, UErrorCode & )"};
+        call.report(status, formatSignature, "could not instantiate date formatter");
         return {};
     }
     format.adoptTimeZone(icu::TimeZone::getGMT()->clone());
     icu::UnicodeString text;
     format.format(icu::Formattable(DateTime::wallClock(dateTime)), text, status);
     if (status.isFailure()) {
-        Diagnostic::write(
-            QtWarningMsg,
-            "Error in calling icu::SimpleDateFormat::format( UDate, icu::UnicodeString &, UErrorCode & ):",
-            status.errorName());
-        Diagnostic::write(QtWarningMsg, formatSignature, "failed to format date/time");
+        constexpr IcuCall call = {"icu::SimpleDateFormat::format( UDate, icu::UnicodeString &, UErrorCode & )"};
+        call.report(status, formatSignature, "failed to format date/time");
         return {};
     }
     return String::toQt(text);

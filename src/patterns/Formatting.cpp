@@ -1,6 +1,7 @@
 #include <zel/utility/i18n/Formatting.h>
 
 #include "bridge/Diagnostic.h"
+#include "bridge/IcuCall.h"
 #include "bridge/Locale.h"
 #include "bridge/PatternText.h"
 #include "bridge/String.h"
@@ -32,11 +33,9 @@ icu::Locale getICULocale(const QLocale& locale)
     icu::ErrorCode status;
     icuLocale.setKeywordValue("calendar", "gregorian", status);
     if (status.isFailure()) {
-        Diagnostic::write(QtWarningMsg,
-                          "Error in calling icu::Locale::setKeywordValue( const char *, const char *, UErrorCode & ):",
-                          status.errorName());
-        Diagnostic::write(QtWarningMsg, "zel::utility::i18n::getICULocale could not set gregorian calendar on",
-                          icuLocale.getName(), "locale");
+        IcuCall{"icu::Locale::setKeywordValue( const char *, const char *, UErrorCode & )"}.report(
+            status, "zel::utility::i18n::getICULocale could not set gregorian calendar on", icuLocale.getName(),
+            "locale");
     }
     return icuLocale;
 }

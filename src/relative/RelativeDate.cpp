@@ -2,6 +2,7 @@
 
 #include "bridge/DateTime.h"
 #include "bridge/Diagnostic.h"
+#include "bridge/IcuCall.h"
 #include "bridge/String.h"
 #include <memory>
 #include <QtCore/QLatin1Char>
@@ -78,29 +79,21 @@ std::unique_ptr<icu::Calendar> adoptCalendar(icu::Calendar* created, const icu::
                                              const char* signature)
 {
     std::unique_ptr<icu::Calendar> calendar(created);
-    constexpr const char* consequence = "failed to instantiate a calendar";
-    if (status.isFailure()) {
-        Diagnostic::write(
-            QtWarningMsg,
-            "Error in calling icu::Calendar::createInstance( icu::TimeZone *, UErrorCode & ):", status.errorName());
-        Diagnostic::write(QtWarningMsg, signature, consequence);
-        return nullptr;
+    if (status.isSuccess() && calendar) {
+        return calendar;
     }
-    if (!calendar) {
-        Diagnostic::write(QtWarningMsg, "icu::Calendar::createInstance( icu::TimeZone *, UErrorCode & ) returned a "
-                                        "NULL pointer without setting an error code!");
-        Diagnostic::write(QtDebugMsg, signature, consequence);
-    }
-    return calendar;
+    const IcuCall call = {"icu::Calendar::createInstance( icu::TimeZone *, UErrorCode & )", IcuCall::Joined,
+                          QtWarningMsg, status.isFailure() ? QtWarningMsg : QtDebugMsg};
+    call.report(status.get(), signature, "failed to instantiate a calendar");
+    return nullptr;
 }
 
 bool setTime(icu::Calendar& calendar, const QDateTime& dateTime, icu::ErrorCode& status, const char* signature)
 {
     calendar.setTime(DateTime::wallClock(dateTime), status);
     if (status.isFailure()) {
-        Diagnostic::write(QtWarningMsg,
-                          "Error in calling icu::Calendar::setTime( UDate, UErrorCode & ):", status.errorName());
-        Diagnostic::write(QtWarningMsg, signature, "failed to set up a calendar");
+        IcuCall{"icu::Calendar::setTime( UDate, UErrorCode & )"}.report(status, signature,
+                                                                        "failed to set up a calendar");
         return false;
     }
     return true;

@@ -1,6 +1,7 @@
 #include "resources/NumericResourceAccessor.h"
 
 #include "bridge/Diagnostic.h"
+#include "bridge/IcuCall.h"
 #include "bridge/Locale.h"
 #include "bridge/String.h"
 #include <memory>
@@ -67,9 +68,8 @@ bool NumericResourceAccessor::cacheResource(const icu::ResourceBundle& table)
         const icu::UnicodeString phrase = table.getStringEx(QByteArray::number(count).constData(), status);
         if (status.isFailure()) {
             if (status.get() != U_MISSING_RESOURCE_ERROR) {
-                Diagnostic::write(QtWarningMsg, "Error in calling",
-                                  "icu::ResourceBundle::getStringEx( const char *, UErrorCode & )", ":",
-                                  status.errorName());
+                IcuCall{"icu::ResourceBundle::getStringEx( const char *, UErrorCode & )", IcuCall::Spaced}.report(
+                    status);
             }
             return false;
         }

@@ -1,6 +1,7 @@
 #include "resources/PluralResourceAccessor.h"
 
 #include "bridge/Diagnostic.h"
+#include "bridge/IcuCall.h"
 #include "bridge/Locale.h"
 #include "bridge/String.h"
 #include <string>
@@ -24,16 +25,13 @@ template <typename T>
 std::unique_ptr<T> adopt(T* created, icu::ErrorCode& status, const char* factory, const char* consequence)
 {
     std::unique_ptr<T> object(created);
-    if (status.isFailure()) {
-        Diagnostic::write(QtCriticalMsg, "Error in calling", factory, ":", status.errorName());
-        Diagnostic::write(QtCriticalMsg, constructorSignature, consequence);
-        status.reset();
-        object.reset();
-    } else if (!object) {
-        Diagnostic::write(QtWarningMsg, factory, "returned a NULL pointer without setting an error code!");
-        Diagnostic::write(QtWarningMsg, constructorSignature, consequence);
+    if (status.isSuccess() && object) {
+        return object;
     }
-    return object;
+    const QtMsgType severity = status.isFailure() ? QtCriticalMsg : QtWarningMsg;
+    IcuCall{factory, IcuCall::Spaced, severity, severity}.report(status, constructorSignature, consequence);
+    status.reset();
+    return nullptr;
 }
 
 std::string toUtf8(const icu::UnicodeString& text)
@@ -49,9 +47,7 @@ bool succeeded(UErrorCode status, const Items&... items)
     if (U_SUCCESS(status)) {
         return true;
     }
-    Diagnostic::write(QtWarningMsg, "Error in calling icu::ResourceBundle::getStringEx( const char *, UErrorCode & ):",
-                      u_errorName(status));
-    Diagnostic::write(QtWarningMsg, formatSignature, items...);
+    IcuCall{"icu::ResourceBundle::getStringEx( const char *, UErrorCode & )"}.report(status, formatSignature, items...);
     return false;
 }
 

@@ -1,6 +1,7 @@
 #include "resources/ResourceAccessor.h"
 
 #include "bridge/Diagnostic.h"
+#include "bridge/IcuCall.h"
 #include <unicode/errorcode.h>
 #include <zel/icu/DataDirectory.h>
 
@@ -37,10 +38,8 @@ icu::ResourceBundle* ResourceAccessor::initResource(const icu::Locale& locale, c
             return nullptr;
         }
         if (status.isFailure()) {
-            Diagnostic::write(QtWarningMsg, "Error in calling",
-                              "icu::ResourceBundle::get( const char *, UErrorCode & )", ":", status.errorName());
-            Diagnostic::write(QtWarningMsg, signature, "failed to access resource key", key, "in locale",
-                              locale.getName());
+            IcuCall{"icu::ResourceBundle::get( const char *, UErrorCode & )", IcuCall::Spaced}.report(
+                status, signature, "failed to access resource key", key, "in locale", locale.getName());
             return nullptr;
         }
     }

@@ -1,0 +1,49 @@
+#ifndef ZEL_UTILITY_I18N_BRIDGE_ICUCALL_H
+#define ZEL_UTILITY_I18N_BRIDGE_ICUCALL_H
+
+#include "bridge/Diagnostic.h"
+#include <QtCore/QByteArray>
+#include <unicode/utypes.h>
+
+namespace zel::utility::i18n {
+
+/**
+ * The one way to report a failed ICU call: a message with its error, or that it returned no object, and one with what
+ * follows from that.
+ *
+ * @code
+ * if (status.isFailure()) {
+ *     IcuCall{"icu::Calendar::setTime( UDate, UErrorCode & )"}.report(status, signature, "failed to set up a
+ * calendar");
+ * }
+ * @endcode
+ */
+struct IcuCall
+{
+    /** How the first message goes on behind the call: "f(): U_ERROR" or "f() : U_ERROR". */
+    enum Spelling { Joined, Spaced };
+
+    const char* name;
+    Spelling spelling = Joined;
+    QtMsgType failure = QtWarningMsg;
+    QtMsgType consequence = QtWarningMsg;
+
+    /** The items are those of the second message; without one there is none. */
+    template <typename... Items>
+    void report(UErrorCode status, const Items&... items) const
+    {
+        if (U_SUCCESS(status)) {
+            Diagnostic::write(failure, name, "returned a NULL pointer without setting an error code!");
+        } else {
+            const QByteArray call = QByteArray(name) + (spelling == Joined ? ":" : " :");
+            Diagnostic::write(failure, "Error in calling", call.constData(), u_errorName(status));
+        }
+        if constexpr (sizeof...(items) > 0) {
+            Diagnostic::write(consequence, items...);
+        }
+    }
+};
+
+} // namespace zel::utility::i18n
+
+#endif
