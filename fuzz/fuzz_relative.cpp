@@ -1,16 +1,15 @@
 // Calls the setters of a relative date formatter in any order and compares each text with a plain model: which step of
 // the ladder a moment is on is read off the calendar, and the words are those of ICU's own formatters.
 
+#include "MomentInput.h"
 #include "Require.h"
 #include "support/SettingsRoot.h"
 
 #include "bridge/Locale.h"
 #include "bridge/String.h"
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
-#include <fuzzer/FuzzedDataProvider.h>
 #include <map>
 #include <memory>
 #include <unicode/dtptngen.h>
@@ -23,14 +22,13 @@ using namespace zel::utility::i18n;
 
 namespace {
 
-constexpr std::array<const char*, 12> locales{"en_US", "de_DE", "fr_CA", "ja_JP", "zh_TW", "ar_EG",
-                                              "th_TH", "fa_IR", "hi_IN", "ko_KR", "pl_PL", "he_IL"};
-constexpr std::array<int, 5> clocks{ClockFormat::ApplyUserFormat, ClockFormat::ApplyLocaleFormat,
-                                    ClockFormat::Use12hourClock, ClockFormat::Use24hourClock, 7};
-constexpr std::array<int, 3> types{RelativeDateFormat::TimeCritical, RelativeDateFormat::NonTimeCritical, 99};
+using inputs::clocks;
+using inputs::hour;
+using inputs::locales;
+using inputs::minute;
+using inputs::types;
 
-constexpr qint64 minute = 60'000;
-constexpr qint64 hour = 60 * minute;
+constexpr int firstYear = 1600; // from then on ICU and Qt have the same calendar
 
 /** ICU's objects for a locale; they take milliseconds to make. */
 struct Words
@@ -136,31 +134,6 @@ struct Model
     }
 };
 
-// In all years in which ICU and Qt have the same calendar, under any offset, and often near another moment.
-QDateTime momentFrom(FuzzedDataProvider& input, const QDateTime& other)
-{
-    static const QDateTime first(QDate(1600, 1, 1), QTime(0, 0), Qt::UTC);
-    constexpr qint64 range = qint64{8000} * 365 * 24 * hour;
-    constexpr qint64 near = 5 * 24 * hour;
-    constexpr int farthest = 14 * 3600;
-    QDateTime moment;
-    switch (input.ConsumeIntegralInRange(0, 3)) {
-    case 0:
-        moment = first.addMSecs(input.ConsumeIntegralInRange<qint64>(0, range));
-        break;
-    case 1:
-        moment = other.toUTC().addMSecs(input.ConsumeIntegralInRange<qint64>(-near, near));
-        break;
-    case 2:
-        moment = other.toUTC().addMSecs(input.ConsumeIntegralInRange<qint64>(-100, 100) * minute);
-        break;
-    default:
-        return {};
-    }
-    const int offset = input.ConsumeBool() ? input.ConsumeIntegralInRange(-farthest, farthest) : 0;
-    return moment.toOffsetFromUtc(offset);
-}
-
 /** A formatter and its model, and whether it says when it changes. */
 class Pair
 {
@@ -185,10 +158,10 @@ public:
             setClock(input.PickValueInArray(clocks));
             break;
         case 3:
-            setAnchor(momentFrom(input, m_model.anchor));
+            setAnchor(inputs::moment(input, m_model.anchor, firstYear));
             break;
         default:
-            const QDateTime moment = momentFrom(input, m_model.anchor);
+            const QDateTime moment = inputs::moment(input, m_model.anchor, firstYear);
             m_model.requireText(m_formatter.format(moment), moment);
         }
         ZEL_REQUIRE(m_formatter.type() == static_cast<RelativeDateFormat::Type>(m_model.type));
