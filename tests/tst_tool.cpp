@@ -164,7 +164,11 @@ private Q_SLOTS:
         row("format|y|--device|region=de_DE,region=fr_FR", 2,
             "region was given more than once; see 'zel-i18n format --help'");
 
-        row("gallery", 2, "no file given with --html or --tsv; see 'zel-i18n gallery --help'");
+        row("gallery", 2, "no file given with --html, --tsv or --compare; see 'zel-i18n gallery --help'");
+        row("gallery|--html|-", 2, "--html takes the name of a file; see 'zel-i18n gallery --help'");
+        row("gallery|--compare|x|--tsv|-", 2,
+            "--compare writes to standard output, so --tsv takes the name of a file; see 'zel-i18n gallery --help'");
+        row("gallery|--compare|/dev/null", 1, "'/dev/null' is not a table written with --tsv");
         row("gallery|--tsv|x|--device|region=de_DE", 2,
             "--device makes no difference here; see 'zel-i18n gallery --help'");
 
@@ -182,7 +186,6 @@ private Q_SLOTS:
         row("format|foo!", 1, "'foo!' is not a skeleton such as yMMMd or hm");
         row("format|y|--device|hour-format=13", 1, "hour-format is 12 or 24, not '13'");
         row("format|y|--device|time-zone=Mars/Base", 1, "unknown time zone 'Mars/Base'");
-        row("gallery|--tsv|-", 2, "--tsv takes the name of a file, not '-'; see 'zel-i18n gallery --help'");
         row("device|get|region", 1, "region is not set");
         for (const char* const moment : {"@-62135596800.001", "@253402300800", "@99999999999999999999"}) {
             row(QByteArray("format|y|").append(moment).constData(), 1,
@@ -622,22 +625,56 @@ private Q_SLOTS:
              {"de_DE\t12-hour clock\ttime\tshort\th:mm AP\t10:30 PM\t\n",
               "de_DE\t24-hour clock\ttime\tshort\thh:mm\t22:30\t\n",
               "de_DE\t24-hour clock\tcustom\tyMMMMEEEEdhm\tyMMMMEEEEdhm\tMittwoch, 16. Mai 2012 um 22:30\t\n",
+              "de_DE\t24-hour clock\tpercentage\t0.256\t\t25,6\u00a0%\t\n",
+              "ar_EG\t12-hour clock\trelative, minutes\t11 minutes before\t\tقبل ١١ دقيقة\t\n",
+              "de_DE\t24-hour clock\trelative, on 1 January, natural wording\t31 minutes before\t\tgestern, 23:59\t\n",
               "de_DE\t24-hour clock\trelative, time-critical\t1 day before\t\tgestern, 10:30\t\n"}) {
             QVERIFY2(table.contains(row), row);
         }
         QVERIFY(table.contains("\tQt's own pattern: ICU's has a field that Qt lacks\n"));
         QVERIFY(table.contains("has encountered an unsupported time format!\n"));
-        QCOMPARE(table.count('\n'), 1 + 4 * 2 * (12 + 1 + 12 + 9));
+        QCOMPARE(table.count('\n'), 1 + 4 * 2 * (12 + 1 + 3 + 12 + 9 + 13 + 3 + 3));
 
         const QString piped = run("gallery|--locale|de_DE|--tsv|/dev/stdout").output;
         QVERIFY2(piped.startsWith(QLatin1String("locale\tclock\t")), qPrintable(piped));
+        QCOMPARE(run("gallery|--locale|de_DE|--locale|th_TH|--locale|sq_AL|--locale|ar_EG|--tsv|-").output.toUtf8(),
+                 table);
 
         const QByteArray page = textOf(file + QStringLiteral(".html"));
         QVERIFY(page.contains("<section id=\"ar_EG\" lang=\"ar-EG\" dir=rtl>"));
         QVERIFY(page.contains("<section id=\"de_DE\" lang=\"de-DE\" dir=ltr>"));
-        QVERIFY(page.contains("<tr class=mark>"));
+        QVERIFY(page.contains("<tr class=\"mark\">"));
         QVERIFY(page.contains("<bdi>1 year before</bdi>")); // otherwise "year before 1" from right to left
         QVERIFY(page.contains("Qt's own pattern: ICU's has"));
+    }
+
+    void galleryComparesWithAnOlderTable()
+    {
+        QByteArray older = run("gallery|--tsv|-|--locale|de_DE|--locale|en_US").output.toUtf8();
+        const QString page = m_temporary.filePath("page.html");
+        QFile file(m_temporary.filePath("older.tsv"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        older.replace("gestern, 10:30", "damals, 10:30").replace("\t50", "\t5O").replace("\thh:mm\t", "\tHH:mm\t");
+        QVERIFY(file.write(older.replace("en_US\t12-hour clock\tcustom", "en_US\t12-hour clock\tother")) > 0);
+        file.close();
+        const QByteArray line =
+            "gallery|--locale|en_US|--locale|de_DE|--locale|sv|--compare|" + file.fileName().toUtf8();
+        const QString figures = QStringLiteral("3 locales, 0 of them with a mark\n"
+                                               "3 of 223 texts differ, in 2 of 2 locales\n"
+                                               "  relative, time-critical  1\n"
+                                               "  time                     2\n"
+                                               "1 text not in the older table\n"
+                                               "1 locale not in the older table: sv\n");
+        QCOMPARE(
+            run(line.constData()).output,
+            QStringLiteral("en_US, 24-hour clock, time, short\n  before  22:30  (HH:mm)\n  now     22:30  (hh:mm)\n"
+                           "de_DE, 24-hour clock, time, short\n  before  22:30  (HH:mm)\n  now     22:30  (hh:mm)\n"
+                           "de_DE, 24-hour clock, relative, time-critical, 1 day before\n"
+                           "  before  damals, 10:30\n  now     gestern, 10:30\n") +
+                figures);
+        QCOMPARE(run((line + "|--html|" + page.toUtf8()).constData()).output, figures);
+        QVERIFY(textOf(page).contains("<td>gestern, 10:30<del><bdi>before: </bdi>damals, 10:30</del>"));
+        QVERIFY(run((line + "|--json").constData()).output.contains(QLatin1String("\"time\":2}")));
     }
 
 private:

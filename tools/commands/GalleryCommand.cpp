@@ -1,23 +1,16 @@
 #include "commands/Commands.h"
 
 #include "Arguments.h"
-#include "device/Assignments.h"
-#include "device/Device.h"
-#include "device/ThrowAwayDevice.h"
-#include "gallery/GalleryEntry.h"
-#include "gallery/GalleryPage.h"
-#include "gallery/GalleryTable.h"
-#include "LocaleName.h"
+#include "gallery/Gallery.h"
+#include "gallery/GalleryComparison.h"
+#include "gallery/GallerySummary.h"
 #include "terminal/Console.h"
-#include "terminal/ProgressBar.h"
-#include <algorithm>
-#include <QtCore/QCoreApplication>
-#include <QtCore/QElapsedTimer>
+#include "terminal/Failure.h"
+#include <memory>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QSaveFile>
 #include <unicode/uloc.h>
-#include <zel/utility/i18n/Formatting.h>
 
 namespace zel::tool {
 
@@ -33,98 +26,16 @@ QStringList localesOfIcu()
 }
 
 // A locale that only ICU knows is shown as such where all are, but is a mistake where it was asked for.
-QList<GalleryEntry> entriesFor(const Arguments& arguments)
+QStringList localesFor(const Arguments& arguments)
 {
+    if (!arguments.has(QStringLiteral("locale"))) {
+        return localesOfIcu();
+    }
     QStringList names;
-    if (arguments.has(QStringLiteral("locale"))) {
-        for (const NamedLocale& locale : arguments.locales()) {
-            names.append(locale.name);
-        }
-    } else {
-        names = localesOfIcu();
-    }
-    QList<GalleryEntry> entries;
-    for (const QString& name : names) {
-        entries.append({name, {}});
-    }
-    return entries;
-}
-
-/** A change of the device reaches the library through the event loop. */
-void useClock(const QString& clock)
-{
-    constexpr int patience = 5000;
-    Device::set({{Assignments::hourFormat(), clock}}, {});
-    const auto follows = [twelve = clock == QLatin1String("12")] {
-        const QString pattern = zel::utility::i18n::timeFormat(QLocale::c(), zel::utility::i18n::DateFormat::Short);
-        return pattern.contains(QLatin1String("AP"), Qt::CaseInsensitive) == twelve;
-    };
-    QElapsedTimer timer;
-    timer.start();
-    while (!follows()) {
-        if (timer.elapsed() > patience) {
-            throw Failure(QStringLiteral("the library does not follow the clock of the device"));
-        }
-        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 50);
-    }
-}
-
-/** Adds the rows under the clock that the device has now. */
-void fill(QList<GalleryEntry>& entries, ProgressBar& progress, const Console& console)
-{
-    for (GalleryEntry& entry : entries) {
-        if (const int signal = console.takeSignal(); signal != 0) {
-            throw Console::Interrupted{signal};
-        }
-        progress.step(entry.locale);
-        if (const auto locale = zel::system::LocaleName::find(entry.locale)) {
-            // The region of a device that has none set is that of the environment, and this costs no file.
-            qputenv("LC_ALL", entry.locale.toLatin1());
-            entry.clocks.append(GalleryEntry::rows(*locale));
-        }
-    }
-}
-
-/** Fills the entries, and returns the names of the clocks. */
-QStringList fill(QList<GalleryEntry>& entries, const Console& console)
-{
-    const ThrowAwayDevice device(QStringLiteral("time-zone=UTC"));
-    const QStringList clocks = {QStringLiteral("12"), QStringLiteral("24")};
-    ProgressBar progress(static_cast<int>(entries.size() * clocks.size()));
-    QStringList names;
-    for (const QString& clock : clocks) {
-        useClock(clock);
-        fill(entries, progress, console);
-        names.append(clock + QStringLiteral("-hour clock"));
+    for (const NamedLocale& locale : arguments.locales()) {
+        names.append(locale.name);
     }
     return names;
-}
-
-bool isMarked(const GalleryEntry& entry)
-{
-    const auto hasNotes = [](const GalleryRow& row) { return !row.notes.isEmpty(); };
-    return entry.clocks.isEmpty() ||
-           std::any_of(entry.clocks.begin(), entry.clocks.end(),
-                       [&](const QList<GalleryRow>& rows) { return std::any_of(rows.begin(), rows.end(), hasNotes); });
-}
-
-QByteArray page(const QList<GalleryEntry>& entries, const QStringList& clocks)
-{
-    const auto marked = std::count_if(entries.begin(), entries.end(), &isMarked);
-    QByteArray html = GalleryPage::begin(static_cast<int>(entries.size()), static_cast<int>(marked));
-    for (const GalleryEntry& entry : entries) {
-        html += GalleryPage::section(entry, clocks);
-    }
-    return html + GalleryPage::end();
-}
-
-QByteArray table(const QList<GalleryEntry>& entries, const QStringList& clocks)
-{
-    QByteArray text = GalleryTable::header();
-    for (const GalleryEntry& entry : entries) {
-        text += GalleryTable::lines(entry, clocks);
-    }
-    return text;
 }
 
 // A file is replaced in one step. A device or a pipe stays what it is and is written to.
@@ -141,13 +52,34 @@ void write(const QString& path, const QByteArray& contents)
     }
 }
 
-QString fileOf(const Arguments& arguments, const QString& option)
+const QString standardOutput = QStringLiteral("-");
+
+void requireUsage(bool condition, const QString& reason)
 {
-    QString file = arguments.value(option);
-    if (file == QLatin1String("-")) {
-        throw Failure::usage(QStringLiteral("--%1 takes the name of a file, not '-'").arg(option));
+    if (!condition) {
+        throw Failure::usage(reason);
     }
-    return file;
+}
+
+void requireUsage(const Arguments& arguments)
+{
+    const auto isFile = [&](const char* option) {
+        const QString file = arguments.value(QLatin1String(option));
+        return !file.isEmpty() && file != standardOutput;
+    };
+    const QStringList words = arguments.positional();
+    requireUsage(words.isEmpty(),
+                 quoted(words.value(0)) + QStringLiteral(" is no option; name a file with --html or --tsv"));
+    requireUsage(arguments.has(QStringLiteral("html")) || arguments.has(QStringLiteral("tsv")) ||
+                     arguments.has(QStringLiteral("compare")),
+                 QStringLiteral("no file given with --html, --tsv or --compare"));
+    for (const char* const option : {"html", "compare"}) {
+        requireUsage(!arguments.has(QLatin1String(option)) || isFile(option),
+                     QStringLiteral("--%1 takes the name of a file").arg(QLatin1String(option)));
+    }
+    requireUsage(!arguments.has(QStringLiteral("compare")) || arguments.value(QStringLiteral("tsv")) != standardOutput,
+                 QStringLiteral("--compare writes to standard output, so --tsv takes the name of a file"));
+    requireUsage(!arguments.has(QStringLiteral("device")), QStringLiteral("--device makes no difference here"));
 }
 
 // `gallery`: everything that depends on the locale, for every locale, on one page.
@@ -165,58 +97,70 @@ CommandHelp GalleryCommand::help() const
 {
     return {QStringLiteral("gallery"), QString(), QStringLiteral("Show every locale on one page."),
             QStringLiteral("Writes one page that shows, for every locale of ICU or for those given, all patterns\n"
-                           "with a text for each, a custom date, and the ladders of relative dates, under both\n"
-                           "clocks. Where the library had to fall back or wrote a message, the row is marked and\n"
-                           "says so. The page is one HTML file that needs nothing beside itself; at the end of its\n"
-                           "address, '#filter=de' shows only the locales of which a word begins with 'de'.\n\n"
-                           "The same as tab-separated text is for comparing two versions of ICU or of the library.\n"
-                           "Moments and time zone are always the same, and no setting of the device matters."),
+                           "with a text for each, a custom date, percentages, and relative dates in both wordings,\n"
+                           "under both clocks. Where the library had to fall back or wrote a message, the row is\n"
+                           "marked and says so. The page is one HTML file that needs nothing beside itself. Its\n"
+                           "filter shows the locales of which a word begins with what is typed, and keeps it at\n"
+                           "the end of the address, as in '#filter=de'.\n\n"
+                           "--tsv writes the same as tab-separated text. --compare reads such a table of an older\n"
+                           "ICU or library, marks each text on the page that differs, with both texts, and\n"
+                           "writes how many there are of each kind. Without --html and --tsv it also writes the\n"
+                           "texts. Moments and time zone are always the same, and no setting of the device\n"
+                           "matters."),
             QStringLiteral("gallery --html gallery.html\n"
                            "gallery --html gallery.html --locale ar_EG --locale de_DE\n"
-                           "gallery --tsv icu-72.tsv")};
+                           "gallery --tsv icu-72.tsv\n"
+                           "gallery --compare icu-72.tsv --html changes.html\n"
+                           "gallery --tsv - --locale de_DE | grep percentage")};
 }
 
 QList<QCommandLineOption> GalleryCommand::options() const
 {
-    return {{QStringLiteral("html"), QStringLiteral("Write the page into this file."), QStringLiteral("FILE")},
-            {QStringLiteral("tsv"), QStringLiteral("Write tab-separated text into this file."), QStringLiteral("FILE")},
-            {QStringLiteral("locale"),
-             QStringLiteral("A locale, instead of all that ICU has. May be given several\ntimes."),
-             QStringLiteral("L")}};
+    return {
+        {QStringLiteral("html"), QStringLiteral("Write the page into this file."), QStringLiteral("FILE")},
+        {QStringLiteral("tsv"),
+         QStringLiteral("Write tab-separated text into this file; '-' is standard\noutput, with nothing else on it."),
+         QStringLiteral("FILE")},
+        {QStringLiteral("compare"), QStringLiteral("Compare with a table that --tsv has written."),
+         QStringLiteral("FILE")},
+        {QStringLiteral("locale"),
+         QStringLiteral("A locale, instead of all that ICU has. May be given several\ntimes."), QStringLiteral("L")}};
 }
 
 ExitStatus GalleryCommand::run(const Arguments& arguments, Console& console) const
 {
-    const QString html = fileOf(arguments, QStringLiteral("html"));
-    const QString tsv = fileOf(arguments, QStringLiteral("tsv"));
-    if (!arguments.positional().isEmpty()) {
-        throw Failure::usage(quoted(arguments.positional().first()) +
-                             QStringLiteral(" is no option; name a file with --html or --tsv"));
+    requireUsage(arguments);
+    const QString html = arguments.value(QStringLiteral("html"));
+    const QString tsv = arguments.value(QStringLiteral("tsv"));
+    std::unique_ptr<GalleryComparison> comparison;
+    if (arguments.has(QStringLiteral("compare"))) {
+        comparison = std::make_unique<GalleryComparison>(arguments.value(QStringLiteral("compare")));
     }
-    if (html.isEmpty() && tsv.isEmpty()) {
-        throw Failure::usage(QStringLiteral("no file given with --html or --tsv"));
+    Gallery gallery(localesFor(arguments), console);
+    if (comparison) {
+        gallery.compareWith(*comparison);
+        if (arguments.has(QStringLiteral("locale"))) {
+            comparison->forgetOthers();
+        }
     }
-    if (arguments.has(QStringLiteral("device"))) {
-        throw Failure::usage(QStringLiteral("--device makes no difference here"));
-    }
-    QList<GalleryEntry> entries = entriesFor(arguments);
-    const QStringList clocks = fill(entries, console);
     if (!html.isEmpty()) {
-        write(html, page(entries, clocks));
+        write(html, gallery.page());
+    }
+    if (tsv == standardOutput) {
+        console.line(QString::fromUtf8(gallery.table().chopped(1)));
+        return Worked;
     }
     if (!tsv.isEmpty()) {
-        write(tsv, table(entries, clocks));
+        write(tsv, gallery.table());
     }
-    const auto marked = static_cast<int>(std::count_if(entries.begin(), entries.end(), &isMarked));
     if (arguments.json()) {
-        console.json(
-            {{QStringLiteral("locales"), static_cast<int>(entries.size())}, {QStringLiteral("marked"), marked}});
-    } else {
-        console.line(QStringLiteral("%1 %2, %3 of them with a mark")
-                         .arg(entries.size())
-                         .arg(QLatin1String(entries.size() == 1 ? "locale" : "locales"))
-                         .arg(marked));
+        console.json(GallerySummary::json(gallery, comparison.get()));
+        return Worked;
     }
+    if (html.isEmpty() && tsv.isEmpty()) {
+        GallerySummary::writeDifferences(gallery, console);
+    }
+    GallerySummary::write(gallery, comparison.get(), console);
     return Worked;
 }
 

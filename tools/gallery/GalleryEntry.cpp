@@ -4,6 +4,7 @@
 #include "texts/Format.h"
 #include "texts/Ladder.h"
 #include <zel/utility/i18n/CustomDateFormatter.h>
+#include <zel/utility/i18n/Formatting.h>
 #include <zel/utility/i18n/RelativeDateFormatter.h>
 
 namespace zel::tool {
@@ -13,11 +14,39 @@ namespace {
 using zel::utility::i18n::CustomDateFormatter;
 using zel::utility::i18n::RelativeDateFormatter;
 namespace RelativeDateFormat = zel::utility::i18n::RelativeDateFormat;
+namespace RelativeDateWording = zel::utility::i18n::RelativeDateWording;
 
 // In the evening, when the clocks differ, and in a zone that is the same everywhere.
 QDateTime moment()
 {
     return QDateTime::fromString(QStringLiteral("2012-05-16T22:30Z"), Qt::ISODate);
+}
+
+// One for each plural category of any language.
+QList<Rung> minutes()
+{
+    QList<Rung> before;
+    QList<Rung> after;
+    for (const int count : {1, 2, 3, 5, 11, 21}) {
+        const QString name =
+            QStringLiteral("%1 %2 %3").arg(count).arg(QLatin1String(count == 1 ? "minute" : "minutes"));
+        before.prepend({name.arg(QLatin1String("before")), Ladder::exampleAnchor().addSecs(-60 * count)});
+        after.append({name.arg(QLatin1String("after")), Ladder::exampleAnchor().addSecs(60 * count)});
+    }
+    return before + QList<Rung>{{QStringLiteral("0 minutes"), Ladder::exampleAnchor()}} + after;
+}
+
+QDateTime newYear()
+{
+    return {QDate(2013, 1, 1), QTime(0, 30)};
+}
+
+// Where the wordings differ.
+QList<Rung> aroundNewYear()
+{
+    return {{QStringLiteral("2 days before"), newYear().addDays(-2)},
+            {QStringLiteral("31 minutes before"), newYear().addSecs(-31 * 60)},
+            {QStringLiteral("0 minutes"), newYear()}};
 }
 
 /** Collects rows, each with the messages that came up while it was made. */
@@ -34,24 +63,29 @@ public:
                 notes.prepend(QStringLiteral("Qt's own pattern: ICU's has a field that Qt lacks"));
             }
             m_messages.take();
-            m_rows.append({format.kind(), format.length(), pattern, text, notes});
+            m_rows.append({format.kind(), format.length(), {pattern, text}, notes, {}});
         }
     }
 
     void addCustom(const QString& skeleton)
     {
         const QString text = CustomDateFormatter(skeleton).format(moment());
-        m_rows.append({QStringLiteral("custom"), skeleton, skeleton, text, m_messages.take()});
+        m_rows.append({QStringLiteral("custom"), skeleton, {skeleton, text}, m_messages.take(), {}});
     }
 
-    void addLadder(const QLocale& locale, RelativeDateFormat::Type type, const QString& group)
+    void addPercentages(const QLocale& locale)
     {
-        RelativeDateFormatter formatter(type);
-        formatter.setLocale(locale);
-        formatter.setAnchorTime(Ladder::exampleAnchor());
-        for (const Rung& rung : Ladder::rungs(type, Ladder::exampleAnchor())) {
+        for (const double value : {0.256, -0.5, 12.5}) {
+            const QString text = zel::utility::i18n::toPercentageString(locale, value, 1, 0);
+            m_rows.append({QStringLiteral("percentage"), QString::number(value), {{}, text}, m_messages.take(), {}});
+        }
+    }
+
+    void addRelative(const QString& group, const RelativeDateFormatter& formatter, const QList<Rung>& rungs)
+    {
+        for (const Rung& rung : rungs) {
             const QString text = formatter.format(rung.moment);
-            m_rows.append({group, rung.distance, {}, text, m_messages.take()});
+            m_rows.append({group, rung.distance, {{}, text}, m_messages.take(), {}});
         }
     }
 
@@ -64,7 +98,7 @@ private:
 
 bool looksTheSame(const GalleryRow& one, const GalleryRow& other)
 {
-    return one.pattern == other.pattern && one.text == other.text && one.notes == other.notes;
+    return one.now == other.now && one.notes == other.notes && one.before == other.before;
 }
 
 } // namespace
@@ -74,8 +108,23 @@ QList<GalleryRow> GalleryEntry::rows(const QLocale& locale)
     Rows rows;
     rows.addFormats(locale);
     rows.addCustom(QStringLiteral("yMMMMEEEEdhm"));
-    rows.addLadder(locale, RelativeDateFormat::TimeCritical, QStringLiteral("relative, time-critical"));
-    rows.addLadder(locale, RelativeDateFormat::NonTimeCritical, QStringLiteral("relative, non-time-critical"));
+    rows.addPercentages(locale);
+    const QDateTime anchor = Ladder::exampleAnchor();
+    RelativeDateFormatter timeCritical(RelativeDateFormat::TimeCritical);
+    RelativeDateFormatter nonTimeCritical(RelativeDateFormat::NonTimeCritical);
+    for (RelativeDateFormatter* const formatter : {&timeCritical, &nonTimeCritical}) {
+        formatter->setLocale(locale);
+        formatter->setAnchorTime(anchor);
+    }
+    rows.addRelative(QStringLiteral("relative, time-critical"), timeCritical,
+                     Ladder::rungs(RelativeDateFormat::TimeCritical, anchor));
+    rows.addRelative(QStringLiteral("relative, non-time-critical"), nonTimeCritical,
+                     Ladder::rungs(RelativeDateFormat::NonTimeCritical, anchor));
+    rows.addRelative(QStringLiteral("relative, minutes"), timeCritical, minutes());
+    timeCritical.setAnchorTime(newYear());
+    rows.addRelative(QStringLiteral("relative, on 1 January, exact wording"), timeCritical, aroundNewYear());
+    timeCritical.setWording(RelativeDateWording::Natural);
+    rows.addRelative(QStringLiteral("relative, on 1 January, natural wording"), timeCritical, aroundNewYear());
     return rows.all();
 }
 

@@ -13,8 +13,11 @@ class GalleryPage
 public:
     GalleryPage() = delete;
 
-    /** @param locales how many there are on the page, and of how many of them texts are marked */
-    static QByteArray begin(int locales, int marked);
+    /**
+     * @param locales how many there are on the page, and of how many of them texts are marked
+     * @param isCompared whether rows know what an older table has
+     */
+    static QByteArray begin(int locales, int marked, bool isCompared);
     /** @param clocks the names of the clocks */
     static QByteArray section(const GalleryEntry& entry, const QStringList& clocks);
     static QByteArray end();

@@ -8,16 +8,20 @@ namespace {
 
 QByteArray line(QStringList cells)
 {
-    for (QString& cell : cells) {
-        std::replace_if(
-            cell.begin(), cell.end(),
-            [](QChar c) { return c == QLatin1Char('\t') || c == QLatin1Char('\n') || c == QLatin1Char('\r'); },
-            QLatin1Char(' '));
-    }
+    std::transform(cells.begin(), cells.end(), cells.begin(), &GalleryTable::cell);
     return cells.join(QLatin1Char('\t')).toUtf8() + '\n';
 }
 
 } // namespace
+
+QString GalleryTable::cell(QString text)
+{
+    const auto separates = [](QChar c) {
+        return c == QLatin1Char('\t') || c == QLatin1Char('\n') || c == QLatin1Char('\r');
+    };
+    std::replace_if(text.begin(), text.end(), separates, QLatin1Char(' '));
+    return text;
+}
 
 QByteArray GalleryTable::header()
 {
@@ -30,7 +34,7 @@ QByteArray GalleryTable::lines(const GalleryEntry& entry, const QStringList& clo
     QByteArray lines;
     for (int clock = 0; clock < entry.clocks.size(); ++clock) {
         for (const GalleryRow& row : entry.clocks[clock]) {
-            lines += line({entry.locale, clocks[clock], row.group, row.name, row.pattern, row.text,
+            lines += line({entry.locale, clocks[clock], row.group, row.name, row.now.pattern, row.now.text,
                            row.notes.join(QLatin1String("; "))});
         }
     }

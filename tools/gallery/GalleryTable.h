@@ -16,6 +16,12 @@ public:
     static QByteArray header();
     /** @param clocks the names of the clocks */
     static QByteArray lines(const GalleryEntry& entry, const QStringList& clocks);
+
+    /** The cells of one line: locale, clock, group, name, pattern, text, notes. */
+    enum Column { Locale, Clock, Group, Name, Pattern, Text, Notes };
+
+    /** A text as it stands in a cell: without tabs and line ends. */
+    static QString cell(QString text);
 };
 
 } // namespace zel::tool

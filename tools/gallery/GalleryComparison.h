@@ -1,0 +1,53 @@
+#ifndef ZEL_TOOL_GALLERYCOMPARISON_H
+#define ZEL_TOOL_GALLERYCOMPARISON_H
+
+#include "gallery/GalleryEntry.h"
+#include <QtCore/QHash>
+#include <QtCore/QMap>
+#include <QtCore/QSet>
+#include <QtCore/QStringList>
+
+namespace zel::tool {
+
+/** What reads otherwise than in an older table of the gallery. */
+class GalleryComparison
+{
+public:
+    /** @param file a GalleryTable; a Failure where it is none */
+    explicit GalleryComparison(const QString& file);
+
+    /** Gives each row that differs what the older table has, and counts. @param clocks the names of the clocks */
+    void mark(QList<GalleryEntry>& entries, const QStringList& clocks);
+    /** Called where not all locales were asked for: the others are not gone. */
+    void forgetOthers() { m_olderLocales.clear(); }
+
+    int locales() const { return m_locales; } ///< that are in both
+    int texts() const { return m_texts; }     ///< that are in both
+    int newTexts() const { return m_newTexts; }
+    QStringList newLocales() const { return m_newLocales; }
+    /** Those of the older table that were not among the entries. */
+    QStringList goneLocales() const;
+    int differentLocales() const { return m_differentLocales; }
+    int differentTexts() const;
+    /** How many texts differ in each group that has some. */
+    QMap<QString, int> differences() const { return m_differences; }
+
+private:
+    void mark(GalleryEntry& entry, const QStringList& clocks);
+    /** Whether a row differs, which is given what the older table has then. */
+    bool mark(GalleryRow& row, const QString& place);
+
+    QHash<QString, GalleryText> m_older; ///< by place: locale, clock, group and name
+    QSet<QString> m_olderLocales;
+
+    int m_locales = 0;
+    int m_texts = 0;
+    int m_newTexts = 0;
+    int m_differentLocales = 0;
+    QStringList m_newLocales;
+    QMap<QString, int> m_differences;
+};
+
+} // namespace zel::tool
+
+#endif
