@@ -19,7 +19,7 @@ namespace RelativeDateWording = zel::utility::i18n::RelativeDateWording;
 // In the evening, when the clocks differ, and in a zone that is the same everywhere.
 QDateTime moment()
 {
-    return QDateTime::fromString(QStringLiteral("2012-05-16T22:30Z"), Qt::ISODate);
+    return QDateTime::fromString(QStringLiteral("2012-09-03T22:30Z"), Qt::ISODate);
 }
 
 // One for each plural category of any language.
