@@ -10,6 +10,9 @@
 #include "relative/RelativeDateValidity.h"
 #include "relative/RelativeDistance.h"
 #include "resources/NowWord.h"
+#include "settings/ClockSetting.h"
+#include "settings/RegionNotifier.h"
+#include "settings/TimeZoneSetting.h"
 #include <algorithm>
 #include <iterator>
 #include <QtCore/QPointer>
@@ -277,6 +280,18 @@ QDateTime RelativeDateFormatter::validUntil(const QDateTime& dateTime) const
 {
     return RelativeDateValidity(d->table, d->wording).until(d->anchorTime, dateTime);
 }
+
+// NOLINTBEGIN(clang-analyzer-cplusplus.NewDeleteLeaks): the formatter is their parent
+bool RelativeDateFormatter::connectToSettings(QObject* receiver, const char* member)
+{
+    if (!connect(new ClockSetting(this), SIGNAL(changed()), receiver, member) ||
+        !connect(new TimeZoneSetting(this), SIGNAL(changed()), receiver, member)) {
+        return false;
+    }
+    new RegionNotifier(receiver, member, this);
+    return true;
+}
+// NOLINTEND(clang-analyzer-cplusplus.NewDeleteLeaks)
 
 void RelativeDateFormatter::setAnchorTime(const QDateTime& anchorTime)
 {

@@ -146,6 +146,17 @@ public:
      */
     QDateTime validUntil(const QDateTime& dateTime) const;
 
+    /**
+     * Calls a slot or signal of a receiver whenever the user's clock, region or time zone changes, for as long as both
+     * live: what this library wrote before may be out of date. The formatter itself stays as it is. Calls come through
+     * the event loop of the formatter's thread.
+     *
+     * @param receiver the object to call
+     * @param member the slot or signal without arguments, in SLOT() or SIGNAL()
+     * @return false, with a message by Qt, if the receiver has no such member
+     */
+    bool connectToSettings(QObject* receiver, const char* member);
+
     ZEL_UTILITY_I18N_SIGNALS
     /** Anchor, locale, clock, wording or type changed: format texts again. Emitted on the calling thread. */
     Q_SIGNAL void changed();
