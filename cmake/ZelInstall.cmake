@@ -32,7 +32,7 @@ set(qtVersion "${Qt${ZEL_QT_MAJOR}Core_VERSION_MAJOR}.${Qt${ZEL_QT_MAJOR}Core_VE
 install(EXPORT ZelUtilityI18nTargets NAMESPACE Zel:: DESTINATION "${packageDirectory}" COMPONENT development)
 configure_package_config_file("${CMAKE_CURRENT_LIST_DIR}/ZelUtilityI18nConfig.cmake.in"
     "${PROJECT_BINARY_DIR}/ZelUtilityI18nConfig.cmake"
-    INSTALL_DESTINATION "${packageDirectory}" NO_SET_AND_CHECK_MACRO)
+    INSTALL_DESTINATION "${packageDirectory}" PATH_VARS ZEL_QML_INSTALL_DIR NO_SET_AND_CHECK_MACRO)
 write_basic_package_version_file("${PROJECT_BINARY_DIR}/ZelUtilityI18nConfigVersion.cmake"
     COMPATIBILITY SameMajorVersion)
 install(FILES

@@ -1,48 +1,58 @@
-import QtQuick 2.15
+import QtQuick
+import QtQuick.Window
+import Zel.Utility.I18n
 
-// Moments as they are told from now. A tap tells them in days only, and back again.
-Column {
-    id: messages
+// Ten thousand messages. Each shows when it came, and shows it anew when that reads differently.
+Window {
+    id: window
 
-    required property QtObject formatter
-    property date now: new Date()
-    property var received: [5, 180, 1440].map(minutes => new Date(now.getTime() - minutes * 60000))
-    property int changes: 0
-    readonly property string text: received.map(moment => textOf(moment, changes)).join(" | ")
-
-    // An invokable method. What it answers has changed when the formatter says so.
-    function textOf(moment, changes) {
-        return formatter.format(moment);
+    readonly property date opened: {
+        const now = new Date();
+        now.setSeconds(0, 0);
+        return now;
     }
 
-    // A property, and a slot: another type begins with the current time.
-    function changeType() {
-        formatter.type = formatter.type === 1 ? 2 : 1;
-        formatter.setAnchorTime(now);
+    // Is told each text that is shown, and each that has changed.
+    property var printer: null
+
+    // In minutes: 5 minutes, 3 hours, a day, and further back from row to row.
+    function age(row: int): int {
+        return row < 2 ? [5, 180][row] : 1440 + (row - 2) * 37;
     }
 
-    onNowChanged: formatter.setAnchorTime(now)
+    width: 360
+    height: 480
+    visible: true
+    title: "Messages"
 
-    Connections {
-        target: messages.formatter
-        function onChanged() {
-            ++messages.changes;
-        }
-    }
-    Timer {
-        interval: 60000
-        running: true
-        repeat: true
-        onTriggered: messages.formatter.applyCurrentTimeAsAnchor()
-    }
-    TapHandler {
-        onTapped: messages.changeType()
-    }
-    Repeater {
-        model: messages.received
-        Text {
-            required property date modelData
-            text: messages.textOf(modelData, messages.changes)
+    ListView {
+        id: messages
+
+        anchors.fill: parent
+        model: 10000
+        delegate: Item {
+            id: message
+
+            required property int index
+
+            width: messages.width
+            height: 32
+
+            RelativeDate {
+                id: received
+
+                moment: new Date(window.opened.getTime() - window.age(message.index) * 60000)
+                onTextChanged: window.printer?.print(message.index, received.text)
+            }
+            Text {
+                anchors { left: parent.left; leftMargin: 12; verticalCenter: parent.verticalCenter }
+                text: "Message " + (message.index + 1)
+            }
+            Text {
+                anchors { right: parent.right; rightMargin: 12; verticalCenter: parent.verticalCenter }
+                text: received.text
+                color: "gray"
+            }
         }
     }
 }

@@ -1,90 +1,153 @@
-// A list of messages whose times grow older, and follow the clock and the region of the device while it is shown.
+// A list of ten thousand messages whose times grow older, and follow the settings of the user while it is shown.
 //
-// usage: example_messages [--at MOMENT] [--step SECONDS] [--print]
-#include <QtCore/QCommandLineParser>
+// usage: example_messages [--print]      (also prints the first texts, and each when it changes)
+#include <algorithm>
+#include <QtCore/QAbstractListModel>
 #include <QtCore/QTextStream>
 #include <QtCore/QTimer>
 #include <QtWidgets/QApplication>
-#include <QtWidgets/QTreeWidget>
+#include <QtWidgets/QListView>
+#include <QtWidgets/QStyledItemDelegate>
 #include <zel/utility/i18n/RelativeDateFormatter.h>
 
 using namespace zel::utility::i18n;
 
 namespace {
 
-class MessageList : public QTreeWidget
+constexpr int rows = 10000;
+constexpr int printedRows = 3;
+
+/** The moments at which the messages came: 5 minutes, 3 hours, a day, and further back from row to row. */
+class MessageModel : public QAbstractListModel
 {
 public:
-    explicit MessageList(const QDateTime& now) : m_received{now.addSecs(-300), now.addSecs(-10800), now.addDays(-1)}
-    {
-        setHeaderLabels({QStringLiteral("Message"), QStringLiteral("Received")});
-        for (const char* text : {"Lunch?", "Minutes of the meeting", "Your parcel has arrived"}) {
-            addTopLevelItem(new QTreeWidgetItem({QString::fromUtf8(text)}));
-        }
-        refresh(now);
-    }
+    int rowCount(const QModelIndex& /*parent*/) const override { return rows; }
 
-    // What came five minutes ago will have come yesterday some time, and the user may choose another clock or region.
-    // A new formatter takes both as they are now. True if a text has changed by that.
-    bool refresh(const QDateTime& now)
+    QVariant data(const QModelIndex& index, int role) const override
     {
-        const QStringList before = texts();
-        RelativeDateFormatter formatter(RelativeDateFormat::TimeCritical);
-        formatter.setAnchorTime(now);
-        for (int row = 0; row < m_received.size(); ++row) {
-            topLevelItem(row)->setText(1, formatter.format(m_received.at(row)));
+        if (role != Qt::DisplayRole) {
+            return {};
         }
-        return texts() != before;
-    }
-
-    QStringList texts() const
-    {
-        QStringList texts;
-        for (int row = 0; row < topLevelItemCount(); ++row) {
-            texts.append(topLevelItem(row)->text(1));
-        }
-        return texts;
+        const int row = index.row();
+        const int minutes = row == 0 ? 5 : row == 1 ? 180 : 1440 + (row - 2) * 37;
+        return m_opened.addSecs(-60LL * minutes);
     }
 
 private:
-    QList<QDateTime> m_received;
+    static QDateTime startOfMinute(const QDateTime& time) { return time.addMSecs(-(time.toMSecsSinceEpoch() % 60000)); }
+
+    QDateTime m_opened = startOfMinute(QDateTime::currentDateTime());
 };
 
-void print(const MessageList& list)
+/** Shows moments relative to now, and paints again when one that is shown reads differently. */
+class DateDelegate : public QStyledItemDelegate
 {
-    QTextStream(stdout) << list.texts().join(QStringLiteral(" | ")) << '\n';
-}
+    Q_OBJECT
+
+public:
+    explicit DateDelegate(QAbstractItemView* view) : QStyledItemDelegate(view), m_view(view)
+    {
+        m_formatter.setWording(RelativeDateWording::Natural);
+        m_timer.setSingleShot(true);
+        m_ready = connect(&m_timer, SIGNAL(timeout()), this, SLOT(renew())) &&
+                  m_formatter.connectToSettings(this, SLOT(followSettings()));
+    }
+
+    bool isReady() const { return m_ready; }
+
+    // Called for the rows that are shown.
+    QString displayText(const QVariant& value, const QLocale& /*locale*/) const override
+    {
+        const QDateTime moment = value.toDateTime();
+        const QDateTime validUntil = m_formatter.validUntil(moment);
+        if (validUntil.isValid()) {
+            wakeUpIn(QDateTime::currentDateTime().msecsTo(validUntil));
+        }
+        return m_formatter.format(moment);
+    }
+
+    Q_SIGNAL void renewed();
+
+private Q_SLOTS:
+    void renew()
+    {
+        m_formatter.applyCurrentTimeAsAnchor();
+        m_view->viewport()->update();
+        wakeUpIn(longestWait);
+        Q_EMIT renewed();
+    }
+
+    // The user's clock is read again when it is set again.
+    void followSettings()
+    {
+        m_formatter.applyUserRegionLocale();
+        m_formatter.setClockFormat(ClockFormat::ApplyLocaleFormat);
+        m_formatter.setClockFormat(ClockFormat::ApplyUserFormat);
+        renew();
+    }
+
+private:
+    static constexpr qint64 longestWait = 60000; // the clock of the system may be set meanwhile
+
+    void wakeUpIn(qint64 time) const
+    {
+        if (!m_timer.isActive() || time < m_timer.remainingTime()) {
+            m_timer.start(static_cast<int>(std::clamp<qint64>(time, 0, longestWait)));
+        }
+    }
+
+    QAbstractItemView* m_view;
+    RelativeDateFormatter m_formatter{RelativeDateFormat::TimeCritical};
+    mutable QTimer m_timer;
+    bool m_ready = false;
+};
+
+/** Prints the texts of the first rows that are other ones than before. */
+class Printer : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Printer(const QListView& view, const DateDelegate& delegate) : m_view(view), m_delegate(delegate) {}
+
+public Q_SLOTS:
+    void print()
+    {
+        m_texts.resize(printedRows);
+        for (int row = 0; row < printedRows; ++row) {
+            const QVariant moment = m_view.model()->index(row, 0).data();
+            const QString text = m_delegate.displayText(moment, m_view.locale());
+            if (text != m_texts.at(row)) {
+                m_texts[row] = text;
+                QTextStream(stdout) << row + 1 << ": " << text << '\n';
+            }
+        }
+    }
+
+private:
+    const QListView& m_view;
+    const DateDelegate& m_delegate;
+    QVector<QString> m_texts;
+};
 
 } // namespace
 
 int main(int argc, char* argv[])
 {
     const QApplication application(argc, argv);
-    QCommandLineParser options;
-    options.addOptions({{QStringLiteral("at"), QStringLiteral("Start at this time."), QStringLiteral("MOMENT")},
-                        {QStringLiteral("step"), QStringLiteral("Let a second last this long."),
-                         QStringLiteral("SECONDS"), QStringLiteral("1")},
-                        {QStringLiteral("print"), QStringLiteral("Also print the times, whenever one changes.")}});
-    options.addHelpOption();
-    options.process(application);
-
-    QDateTime now = QDateTime::fromString(options.value(QStringLiteral("at")), Qt::ISODate);
-    now = now.isValid() ? now : QDateTime::currentDateTime();
-    const int step = options.value(QStringLiteral("step")).toInt();
-    const bool printing = options.isSet(QStringLiteral("print"));
-
-    MessageList list(now);
+    MessageModel model;
+    QListView list;
+    list.setUniformItemSizes(true);
+    list.setModel(&model);
+    DateDelegate delegate(&list);
+    list.setItemDelegate(&delegate);
     list.show();
-    if (printing) {
-        print(list);
+    Printer printer(list, delegate);
+    if (QApplication::arguments().contains(QStringLiteral("--print"))) {
+        printer.print();
+        QObject::connect(&delegate, SIGNAL(renewed()), &printer, SLOT(print()));
     }
-    QTimer timer;
-    QObject::connect(&timer, &QTimer::timeout, [&] {
-        now = now.addSecs(step);
-        if (list.refresh(now) && printing) {
-            print(list);
-        }
-    });
-    timer.start(1000);
-    return QApplication::exec();
+    return delegate.isReady() ? QApplication::exec() : 1;
 }
+
+#include "messages.moc"

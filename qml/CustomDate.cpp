@@ -1,0 +1,27 @@
+#include "CustomDate.h"
+
+#include "Timekeeper.h"
+
+namespace zel::utility::i18n::qml {
+
+void CustomDate::setSkeleton(const QString& skeleton)
+{
+    if (skeleton != m_skeleton) {
+        m_skeleton = skeleton;
+        Q_EMIT skeletonChanged();
+        renewWithOtherSource();
+        Q_EMIT validChanged();
+    }
+}
+
+bool CustomDate::isValid()
+{
+    return timekeeper() != nullptr && static_cast<CustomDateSource&>(source()).isValid();
+}
+
+std::shared_ptr<TextSource> CustomDate::createSource()
+{
+    return timekeeper()->customDates(m_skeleton);
+}
+
+} // namespace zel::utility::i18n::qml

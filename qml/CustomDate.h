@@ -1,0 +1,47 @@
+#ifndef ZEL_QML_CUSTOMDATE_H
+#define ZEL_QML_CUSTOMDATE_H
+
+#include "DateText.h"
+
+namespace zel::utility::i18n::qml {
+
+/**
+ * A moment formatted by an ICU skeleton for the user's region, clock and time zone, which are followed.
+ *
+ * @code
+ * CustomDate { id: day; skeleton: "yMMMd"; moment: model.date }
+ * Label { text: day.text } // "May 16, 2012"
+ * @endcode
+ */
+class CustomDate : public zel::utility::i18n::qml::DateText // in full for the type registration of Qt 6.4
+{
+    Q_OBJECT
+    QML_ELEMENT
+
+    /** The fields to show, in any order: letters of an ICU date/time skeleton. Default: "", and the text is empty. */
+    Q_PROPERTY(QString skeleton READ skeleton WRITE setSkeleton NOTIFY skeletonChanged FINAL)
+    /** Whether a pattern could be made of the skeleton; if not, the text is empty. */
+    Q_PROPERTY(bool valid READ isValid NOTIFY validChanged FINAL)
+
+public:
+    using DateText::DateText;
+
+    QString skeleton() const { return m_skeleton; }
+    void setSkeleton(const QString& skeleton);
+
+    bool isValid();
+
+Q_SIGNALS:
+    void skeletonChanged();
+    void validChanged();
+
+protected:
+    std::shared_ptr<TextSource> createSource() override;
+
+private:
+    QString m_skeleton;
+};
+
+} // namespace zel::utility::i18n::qml
+
+#endif

@@ -1,0 +1,19 @@
+#include "CustomDateSource.h"
+
+namespace zel::utility::i18n::qml {
+
+QList<DatedText> CustomDateSource::texts(const QList<QDateTime>& moments, const QDateTime& /*anchor*/)
+{
+    QList<DatedText> result;
+    result.reserve(moments.size());
+    if (isValid()) {
+        for (const QString& text : m_formatter.formatAll(moments)) {
+            result.append({text});
+        }
+    } else {
+        result.resize(moments.size());
+    }
+    return result;
+}
+
+} // namespace zel::utility::i18n::qml

@@ -1,0 +1,149 @@
+#include "DateText.h"
+
+#include "Timekeeper.h"
+#include "Visibility.h"
+#include <utility>
+
+namespace zel::utility::i18n::qml {
+
+DateText::DateText(QObject* parent) : QObject(parent) {}
+
+DateText::~DateText()
+{
+    if (m_timekeeper) {
+        m_timekeeper->remove(this);
+    }
+}
+
+void DateText::setMoment(const QDateTime& moment)
+{
+    if (moment == m_moment) {
+        return;
+    }
+    m_moment = moment.toUTC();
+    m_sourceMoment = {};
+    Q_EMIT momentChanged();
+    renew();
+}
+
+QString DateText::text()
+{
+    if (m_isStale && m_timekeeper) {
+        m_timekeeper->renewLater(this);
+        m_timekeeper->renewWaiting();
+    }
+    return m_text;
+}
+
+void DateText::setActive(bool active)
+{
+    m_requestedActive = active;
+    applyActive(active);
+}
+
+void DateText::resetActive()
+{
+    m_requestedActive.reset();
+    onVisibilityChanged();
+}
+
+void DateText::componentComplete()
+{
+    m_timekeeper = Timekeeper::of(this);
+    if (m_timekeeper == nullptr) {
+        return;
+    }
+    m_timekeeper->add(this);
+    onVisibilityChanged();
+    renewWithOtherSource();
+}
+
+TextSource& DateText::source()
+{
+    if (!m_source) {
+        m_source = createSource();
+    }
+    return *m_source;
+}
+
+QDateTime DateText::sourceMoment()
+{
+    if (!m_sourceMoment.isValid()) {
+        m_sourceMoment = prepared(moment());
+    }
+    return m_sourceMoment;
+}
+
+// A change of settings may be one of the time zone.
+void DateText::forgetSource()
+{
+    m_source.reset();
+    m_sourceMoment = {};
+}
+
+void DateText::receive(const DatedText& text)
+{
+    const bool isOtherText = std::exchange(m_text, text.text) != text.text;
+    const bool isOtherTime = std::exchange(m_validUntil, text.validUntil) != text.validUntil;
+    if (std::exchange(m_isStale, false)) {
+        return;
+    }
+    const QPointer<DateText> alive(this);
+    if (isOtherTime) {
+        onValidityChanged();
+    }
+    if (isOtherText && alive) {
+        Q_EMIT textChanged();
+    }
+}
+
+Timekeeper* DateText::timekeeper() const
+{
+    return m_timekeeper;
+}
+
+void DateText::renew()
+{
+    if (m_timekeeper) {
+        m_isStale = true;
+        m_timekeeper->renewLater(this);
+        onValidityChanged();
+        Q_EMIT textChanged();
+    }
+}
+
+void DateText::renewWithOtherSource()
+{
+    forgetSource();
+    renew();
+}
+
+// The item is looked for when somebody wants to know, and not before the element has its place.
+void DateText::onVisibilityChanged()
+{
+    if (m_requestedActive || !m_timekeeper) {
+        return;
+    }
+    if (m_visibility == nullptr) {
+        m_visibility = new Visibility(this);
+        if (!connect(m_visibility, SIGNAL(changed()), this, SLOT(onVisibilityChanged()))) {
+            return;
+        }
+    }
+    applyActive(m_visibility->isShown());
+}
+
+// Texts that grew old meanwhile are renewed together.
+void DateText::applyActive(bool active)
+{
+    if (active == m_isActive) {
+        return;
+    }
+    m_isActive = active;
+    if (active && m_timekeeper) {
+        m_timekeeper->renewLater(this);
+    }
+    Q_EMIT activeChanged();
+}
+
+} // namespace zel::utility::i18n::qml

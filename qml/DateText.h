@@ -1,0 +1,99 @@
+#ifndef ZEL_QML_DATETEXT_H
+#define ZEL_QML_DATETEXT_H
+
+#include "TextSource.h"
+#include <memory>
+#include <optional>
+#include <QtCore/QDateTime>
+#include <QtCore/QObject>
+#include <QtCore/QPointer>
+#include <QtQml/QQmlParserStatus>
+#include <QtQml/qqmlregistration.h>
+
+namespace zel::utility::i18n::qml {
+
+class Timekeeper;
+class Visibility;
+
+/** What RelativeDate and CustomDate have in common: a moment, and its text, which is kept up to date. */
+class DateText : public QObject, public QQmlParserStatus
+{
+    Q_OBJECT
+    Q_INTERFACES(QQmlParserStatus)
+    QML_ANONYMOUS
+    Q_DISABLE_COPY_MOVE(DateText)
+
+    /** The moment to format, shown in local time. Default: none, and the text is empty. */
+    Q_PROPERTY(QDateTime moment READ moment WRITE setMoment NOTIFY momentChanged FINAL)
+    /** The text of the moment. */
+    Q_PROPERTY(QString text READ text NOTIFY textChanged FINAL)
+    /**
+     * Whether the text is renewed when time passes. Default: while the item around this element is visible and its
+     * window is neither hidden nor minimised. An inactive element costs nothing; it is renewed once it is active again.
+     */
+    Q_PROPERTY(bool active READ isActive WRITE setActive RESET resetActive NOTIFY activeChanged FINAL)
+
+public:
+    explicit DateText(QObject* parent = nullptr);
+    ~DateText() override;
+
+    QDateTime moment() const { return m_moment.toLocalTime(); }
+    void setMoment(const QDateTime& moment);
+
+    QString text();
+
+    bool isActive() const { return m_isActive; }
+    void setActive(bool active);
+    void resetActive();
+
+    void classBegin() override {}
+    void componentComplete() override;
+
+    // For the timekeeper.
+    TextSource& source();
+    bool hasMoment() const { return m_moment.isValid(); }
+    QDateTime sourceMoment();
+    virtual QDateTime fixedAnchor() const { return {}; }
+    qint64 dueTime() const { return fixedAnchor().isValid() ? DatedText::never : m_validUntil; }
+    void receive(const DatedText& text);
+    void forgetSource();
+
+Q_SIGNALS:
+    void momentChanged();
+    void textChanged();
+    void activeChanged();
+
+protected:
+    virtual std::shared_ptr<TextSource> createSource() = 0;
+    /** The moment, in local time, as the source takes it. */
+    virtual QDateTime prepared(const QDateTime& moment) const { return moment; }
+    virtual void onValidityChanged() {}
+
+    /** What the text is made from, or only the moment, is another one. */
+    void renew();
+    void renewWithOtherSource();
+
+    /** Null until the element is complete. */
+    Timekeeper* timekeeper() const;
+
+private Q_SLOTS:
+    void onVisibilityChanged();
+
+private:
+    void applyActive(bool active);
+
+    QDateTime m_moment; // in UTC: the same instant in whatever time zone the system will be
+    QDateTime m_sourceMoment;
+    QString m_text;
+    qint64 m_validUntil = DatedText::never;
+    bool m_isStale = true; // readers know, and have not asked since
+    bool m_isActive = true;
+    std::optional<bool> m_requestedActive;
+    Visibility* m_visibility = nullptr;
+    std::shared_ptr<TextSource> m_source;
+    QPointer<Timekeeper> m_timekeeper;
+};
+
+} // namespace zel::utility::i18n::qml
+
+#endif

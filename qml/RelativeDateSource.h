@@ -1,0 +1,47 @@
+#ifndef ZEL_QML_RELATIVEDATESOURCE_H
+#define ZEL_QML_RELATIVEDATESOURCE_H
+
+#include "TextSource.h"
+#include <zel/utility/i18n/RelativeDateFormatter.h>
+
+namespace zel::utility::i18n::qml {
+
+/** What decides, besides the moment and the anchor, how a relative date reads. */
+struct RelativeDateStyle
+{
+    RelativeDateFormat::Type table = RelativeDateFormat::TimeCritical;
+    QLocale locale;
+    ClockFormat::Type clockFormat = ClockFormat::ApplyUserFormat;
+    RelativeDateWording::Type wording = RelativeDateWording::Natural;
+
+    bool operator==(const RelativeDateStyle& other) const;
+};
+
+/** The texts of relative dates in one style. */
+class RelativeDateSource : public TextSource
+{
+public:
+    explicit RelativeDateSource(const RelativeDateStyle& style);
+
+    const RelativeDateStyle& key() const { return m_style; }
+
+    /**
+     * What a clock on the wall shows at a moment, as a time in UTC. The formatter compares such readings only, and in
+     * UTC they are cheap. The time zone comes in again where a reading is turned into a time.
+     */
+    static QDateTime reading(const QDateTime& dateTime);
+
+    /** The moments are readings, the anchor is a time. A change of the local clock's offset is not counted in. */
+    QList<DatedText> texts(const QList<QDateTime>& moments, const QDateTime& anchor) override;
+
+    /** The answer of RelativeDateFormatter::validUntil(). */
+    QDateTime validUntil(const QDateTime& moment, const QDateTime& anchor);
+
+private:
+    RelativeDateStyle m_style;
+    RelativeDateFormatter m_formatter;
+};
+
+} // namespace zel::utility::i18n::qml
+
+#endif

@@ -1,0 +1,76 @@
+#include "SystemClock.h"
+
+#include <QtCore/QLoggingCategory>
+#include <QtCore/QSocketNotifier>
+#ifdef Q_OS_LINUX
+#include <ctime>
+#include <sys/timerfd.h>
+#include <unistd.h>
+#endif
+
+namespace zel::utility::i18n::qml {
+
+#ifdef Q_OS_LINUX
+
+namespace {
+
+constexpr std::time_t distantFuture = 32503680000; // 1 January 3000: only a clock that is set makes the timer readable
+
+} // namespace
+
+SystemClock::SystemClock(QObject* parent)
+    : QObject(parent),
+      m_timer(::timerfd_create(CLOCK_REALTIME, TFD_NONBLOCK | TFD_CLOEXEC))
+{
+    if (!watch()) {
+        return;
+    }
+    m_notifier = std::make_unique<QSocketNotifier>(m_timer, QSocketNotifier::Read);
+    if (!connect(m_notifier.get(), SIGNAL(activated(QSocketDescriptor, QSocketNotifier::Type)), this,
+                 SLOT(onReadable()))) {
+        m_notifier.reset();
+    }
+}
+
+SystemClock::~SystemClock()
+{
+    m_notifier.reset();
+    if (m_timer != -1) {
+        ::close(m_timer);
+    }
+}
+
+bool SystemClock::watch() const
+{
+    itimerspec time = {};
+    time.it_value.tv_sec = distantFuture;
+    return m_timer != -1 &&
+           ::timerfd_settime(m_timer, TFD_TIMER_ABSTIME | TFD_TIMER_CANCEL_ON_SET, &time, nullptr) == 0;
+}
+
+void SystemClock::onReadable()
+{
+    std::uint64_t expirations = 0;
+    [[maybe_unused]] const ssize_t size = ::read(m_timer, &expirations, sizeof(expirations)); // fails with ECANCELED
+    if (!watch()) {
+        m_notifier->setEnabled(false);
+    }
+    Q_EMIT changed();
+}
+
+#else
+
+SystemClock::SystemClock(QObject* parent) : QObject(parent), m_timer(-1) {}
+
+SystemClock::~SystemClock() = default;
+
+bool SystemClock::watch() const
+{
+    return false;
+}
+
+void SystemClock::onReadable() {}
+
+#endif
+
+} // namespace zel::utility::i18n::qml

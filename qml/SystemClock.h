@@ -1,0 +1,40 @@
+#ifndef ZEL_QML_SYSTEMCLOCK_H
+#define ZEL_QML_SYSTEMCLOCK_H
+
+#include <memory>
+#include <QtCore/QObject>
+
+QT_BEGIN_NAMESPACE
+class QSocketNotifier;
+QT_END_NAMESPACE
+
+namespace zel::utility::i18n::qml {
+
+/** Announces that the clock of the system was set, or that the system was suspended and is awake again. */
+class SystemClock : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(SystemClock)
+
+public:
+    explicit SystemClock(QObject* parent);
+    ~SystemClock() override;
+
+    /** False where the system does not announce this: whoever waits for a time has to look at the clock meanwhile. */
+    bool isWatched() const { return m_notifier != nullptr; }
+
+    Q_SIGNAL void changed();
+
+private Q_SLOTS:
+    void onReadable();
+
+private:
+    bool watch() const;
+
+    int m_timer;
+    std::unique_ptr<QSocketNotifier> m_notifier;
+};
+
+} // namespace zel::utility::i18n::qml
+
+#endif

@@ -1,0 +1,34 @@
+#ifndef ZEL_QML_TEXTSOURCE_H
+#define ZEL_QML_TEXTSOURCE_H
+
+#include <limits>
+#include <QtCore/QDateTime>
+#include <QtCore/QList>
+#include <QtCore/QString>
+
+namespace zel::utility::i18n::qml {
+
+/** A text, and the time in ms since the epoch at which it may be another one. */
+struct DatedText
+{
+    static constexpr qint64 never = std::numeric_limits<qint64>::max();
+
+    QString text;
+    qint64 validUntil = never;
+};
+
+/** Makes the texts of all elements that share its settings. */
+class TextSource
+{
+public:
+    TextSource() = default;
+    virtual ~TextSource() = default;
+    Q_DISABLE_COPY_MOVE(TextSource)
+
+    /** The texts of many moments as of an anchor time, in order. */
+    virtual QList<DatedText> texts(const QList<QDateTime>& moments, const QDateTime& anchor) = 0;
+};
+
+} // namespace zel::utility::i18n::qml
+
+#endif

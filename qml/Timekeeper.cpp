@@ -1,0 +1,164 @@
+#include "Timekeeper.h"
+
+#include "DateText.h"
+#include <algorithm>
+#include <map>
+#include <QtCore/QPointer>
+#include <QtCore/QTimeZone>
+#include <QtQml/QQmlEngine>
+#include <utility>
+
+namespace zel::utility::i18n::qml {
+
+namespace {
+
+// In ms. A clock that nobody watches may be set while the timer runs.
+constexpr qint64 longestWait = 86400000;
+constexpr qint64 longestWaitUnwatched = 60000;
+
+/** A transition of the time zone, or the next one where that is past; both in ms since the epoch. */
+qint64 later(qint64 transition, qint64 now)
+{
+    if (transition > now) {
+        return transition;
+    }
+    const QDateTime time = QDateTime::fromMSecsSinceEpoch(now, Qt::UTC);
+    const QDateTime next = QTimeZone::systemTimeZone().nextTransition(time).atUtc;
+    return next.isValid() ? next.toMSecsSinceEpoch() : DatedText::never;
+}
+
+} // namespace
+
+Timekeeper* Timekeeper::of(const QObject* object)
+{
+    QQmlEngine* const engine = qmlEngine(object);
+    if (engine == nullptr) {
+        return nullptr;
+    }
+    auto* const existing = engine->findChild<Timekeeper*>(QString(), Qt::FindDirectChildrenOnly);
+    return existing != nullptr ? existing : new Timekeeper(engine);
+}
+
+Timekeeper::Timekeeper(QObject* parent)
+    : QObject(parent),
+      m_settings(RelativeDateFormat::TimeCritical),
+      m_clock(nullptr)
+{
+    m_timer.setSingleShot(true);
+    m_timer.setTimerType(Qt::PreciseTimer);
+    const bool connected = connect(&m_timer, SIGNAL(timeout()), this, SLOT(onTimeout())) &&
+                           connect(&m_clock, SIGNAL(changed()), this, SLOT(renewAll())) &&
+                           m_settings.connectToSettings(this, SLOT(onSettingsChanged()));
+    if (!connected) {
+        qCritical("Zel.Utility.I18n cannot follow the time and the settings");
+    }
+}
+
+void Timekeeper::renewLater(DateText* element)
+{
+    if (m_waiting.isEmpty()) {
+        QMetaObject::invokeMethod(this, "renewWaiting", Qt::QueuedConnection);
+    }
+    m_waiting.insert(element);
+}
+
+void Timekeeper::renewWaiting()
+{
+    renew(std::exchange(m_waiting, {}).values());
+}
+
+void Timekeeper::onTimeout()
+{
+    const qint64 now = QDateTime::currentMSecsSinceEpoch();
+    const bool isTransition = std::exchange(m_transition, later(m_transition, now)) <= now;
+    m_next = DatedText::never;
+    QList<DateText*> due;
+    for (DateText* const element : std::as_const(m_elements)) {
+        if (!element->isActive()) {
+            continue;
+        }
+        if (isTransition || element->dueTime() <= now) {
+            due.append(element);
+        } else {
+            schedule(element->dueTime());
+        }
+    }
+    renew(due);
+}
+
+void Timekeeper::onSettingsChanged()
+{
+    m_settings.applyUserRegionLocale();
+    m_relative.clear();
+    m_custom.clear();
+    m_transition = 0;
+    for (DateText* const element : std::as_const(m_elements)) {
+        element->forgetSource();
+    }
+    renew(m_elements.values());
+    Q_EMIT settingsChanged();
+}
+
+void Timekeeper::renewAll()
+{
+    m_transition = 0;
+    onTimeout();
+}
+
+void Timekeeper::renew(const QList<DateText*>& elements)
+{
+    struct Batch
+    {
+        QDateTime anchor;
+        QList<QDateTime> moments;
+        QList<DateText*> elements;
+    };
+    const QDateTime now = QDateTime::currentDateTime();
+    if (m_transition == 0) {
+        m_transition = later(0, now.toMSecsSinceEpoch());
+    }
+    // Everything is computed before anybody hears of it: listeners may change or delete elements.
+    QList<std::pair<QPointer<DateText>, DatedText>> results;
+    results.reserve(elements.size());
+    std::map<std::pair<TextSource*, qint64>, Batch> batches;
+    for (DateText* const element : elements) {
+        if (!element->hasMoment()) {
+            results.append({element, DatedText()});
+            continue;
+        }
+        const QDateTime anchor = element->fixedAnchor();
+        TextSource& source = element->source();
+        Batch& batch = batches[{&source, anchor.isValid() ? anchor.toMSecsSinceEpoch() : DatedText::never}];
+        batch.anchor = anchor.isValid() ? anchor : now;
+        batch.moments.append(element->sourceMoment());
+        batch.elements.append(element);
+    }
+    for (const auto& [key, batch] : batches) {
+        const QList<DatedText> texts = key.first->texts(batch.moments, batch.anchor);
+        for (qsizetype i = 0; i < texts.size(); ++i) {
+            results.append({batch.elements.at(i), texts.at(i)});
+        }
+    }
+    for (const auto& [element, text] : std::as_const(results)) {
+        if (element) {
+            element->receive(text);
+        }
+        if (element && element->isActive()) {
+            schedule(element->dueTime());
+        }
+    }
+}
+
+void Timekeeper::schedule(qint64 time)
+{
+    const qint64 next = std::min(time, m_transition);
+    if (time == DatedText::never || next >= m_next) {
+        return;
+    }
+    m_next = next;
+    const qint64 wait = m_next - QDateTime::currentMSecsSinceEpoch();
+    m_timer.start(
+        static_cast<int>(std::clamp<qint64>(wait, 0, m_clock.isWatched() ? longestWait : longestWaitUnwatched)));
+}
+
+} // namespace zel::utility::i18n::qml

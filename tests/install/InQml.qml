@@ -1,0 +1,7 @@
+import QtQml
+import Zel.Utility.I18n
+
+RelativeDate {
+    anchor: new Date(2012, 4, 16, 10, 30)
+    moment: new Date(2012, 4, 16, 10, 25)
+}
