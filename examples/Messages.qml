@@ -2,22 +2,15 @@ import QtQuick
 import QtQuick.Window
 import Zel.Utility.I18n
 
-// Ten thousand messages. Each shows when it came, and shows it anew when that reads differently.
+// Ten thousand messages. Each shows when it came, and renews that text when it changes.
 Window {
     id: window
 
-    readonly property date opened: {
-        const now = new Date();
-        now.setSeconds(0, 0);
-        return now;
-    }
-
-    // Is told each text that is shown, and each that has changed.
-    property var printer: null
-
-    // In minutes: 5 minutes, 3 hours, a day, and further back from row to row.
-    function age(row: int): int {
-        return row < 2 ? [5, 180][row] : 1440 + (row - 2) * 37;
+    // 5 minutes, 3 hours and a day before the present minute, and further back from row to row.
+    function receivedMoments(): var {
+        const now = new Date().setSeconds(0, 0);
+        const minutes = row => row < 2 ? [5, 180][row] : 1440 + (row - 2) * 37;
+        return Array.from({ length: 10000 }, (_, row) => new Date(now - minutes(row) * 60000));
     }
 
     width: 360
@@ -26,23 +19,23 @@ Window {
     title: "Messages"
 
     ListView {
-        id: messages
-
         anchors.fill: parent
-        model: 10000
+        model: window.receivedMoments()
         delegate: Item {
             id: message
 
             required property int index
+            required property date modelData
+            readonly property bool isPrinted: index < 3 && [...Qt.application.arguments].includes("--print")
 
-            width: messages.width
+            width: ListView.view.width
             height: 32
 
             RelativeDate {
                 id: received
 
-                moment: new Date(window.opened.getTime() - window.age(message.index) * 60000)
-                onTextChanged: window.printer?.print(message.index, received.text)
+                moment: message.modelData
+                onTextChanged: if (message.isPrinted) console.log(message.index + 1 + ":", text)
             }
             Text {
                 anchors { left: parent.left; leftMargin: 12; verticalCenter: parent.verticalCenter }

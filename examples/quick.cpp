@@ -7,34 +7,24 @@
 
 namespace {
 
-constexpr int printedRows = 3;
-
-class Printer : public QObject
+/** Prints what QML writes with console.log(), and nothing else. */
+void print(QtMsgType /*type*/, const QMessageLogContext& context, const QString& text)
 {
-    Q_OBJECT
-
-public Q_SLOTS:
-    void print(int row, const QString& text)
-    {
-        if (row < printedRows) {
-            QTextStream(stdout) << row + 1 << ": " << text << '\n';
-        }
+    if (qstrcmp(context.category, "qml") == 0) {
+        QTextStream(stdout) << text << '\n';
     }
-};
+}
 
 } // namespace
 
 int main(int argc, char* argv[])
 {
     const QGuiApplication application(argc, argv);
-    Printer printer;
+    if (QGuiApplication::arguments().contains(QStringLiteral("--print"))) {
+        qInstallMessageHandler(print);
+    }
     QQmlApplicationEngine engine;
     engine.addImportPath(QStringLiteral(QML_IMPORT_PATH));
-    if (QGuiApplication::arguments().contains(QStringLiteral("--print"))) {
-        engine.setInitialProperties({{QStringLiteral("printer"), QVariant::fromValue<QObject*>(&printer)}});
-    }
     engine.load(QUrl(QStringLiteral("qrc:/qt/qml/Example/Messages.qml")));
     return engine.rootObjects().isEmpty() ? 1 : QGuiApplication::exec();
 }
-
-#include "quick.moc"
