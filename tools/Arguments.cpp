@@ -2,10 +2,10 @@
 
 #include "device/Assignments.h"
 #include "device/Device.h"
-#include "LocaleName.h"
 #include "terminal/Failure.h"
 #include "texts/MomentReader.h"
 #include <QtCore/QRegularExpression>
+#include <zel/system/LocaleName.h>
 
 namespace zel::tool {
 

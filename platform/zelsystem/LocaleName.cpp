@@ -1,4 +1,4 @@
-#include "LocaleName.h"
+#include <zel/system/LocaleName.h>
 
 #include <memory>
 #include <QtCore/QHash>

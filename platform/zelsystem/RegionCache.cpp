@@ -1,12 +1,12 @@
 #include "RegionCache.h"
 
-#include "LocaleName.h"
 #include <algorithm>
 #include <cstdlib>
 #include <mutex>
 #include <optional>
 #include <QtCore/QVariantMap>
 #include <utility>
+#include <zel/system/LocaleName.h>
 
 namespace zel::system {
 

@@ -2,10 +2,10 @@
 
 #include "bridge/Locale.h"
 
-#include "LocaleName.h"
 #include <memory>
 #include <mutex>
 #include <QtCore/QByteArray>
+#include <zel/system/LocaleName.h>
 
 namespace zel::utility::i18n {
 

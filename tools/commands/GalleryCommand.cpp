@@ -1,9 +1,12 @@
 #include "commands/Commands.h"
 
 #include "Arguments.h"
-#include "gallery/Gallery.h"
-#include "gallery/GalleryComparison.h"
-#include "gallery/GallerySummary.h"
+#include "device/Assignments.h"
+#include "device/Device.h"
+#include "device/ThrowAwayDevice.h"
+#include "gallery/GalleryEntry.h"
+#include "gallery/GalleryPage.h"
+#include "gallery/GalleryTable.h"
 #include "terminal/Console.h"
 #include "terminal/Failure.h"
 #include <memory>
@@ -11,6 +14,8 @@
 #include <QtCore/QFileInfo>
 #include <QtCore/QSaveFile>
 #include <unicode/uloc.h>
+#include <zel/system/LocaleName.h>
+#include <zel/utility/i18n/Formatting.h>
 
 namespace zel::tool {
 

@@ -1,9 +1,9 @@
 #include "device/Assignments.h"
 
-#include "LocaleName.h"
 #include "terminal/Failure.h"
 #include <memory>
 #include <unicode/timezone.h>
+#include <zel/system/LocaleName.h>
 
 namespace zel::tool {
 
