@@ -1,9 +1,9 @@
 // The desktop build on a message bus of its own, with a settings portal that behaves and others that do not.
 
 #include "bridge/Locale.h"
+#include "host/TimeZone.h"
 #include "settings/ClockSetting.h"
-#include "settings/HostClock.h"
-#include "settings/HostTimeZone.h"
+#include "settings/HostReporter.h"
 #include "settings/RegionNotifier.h"
 #include "support/Child.h"
 #include "support/MessageLog.h"
@@ -23,6 +23,7 @@
 #include <sys/un.h>
 #include <thread>
 #include <unistd.h>
+#include <zel/host/Settings.h>
 #include <zel/utility/i18n/CustomDateFormatter.h>
 
 using namespace zel::utility::i18n;
@@ -138,11 +139,11 @@ QStringList fallback(const QString& fault)
 }
 
 /** Makes a clock and says for how many milliseconds the caller had to wait for it. */
-qint64 makeClock(std::unique_ptr<HostClock>& clock)
+qint64 makeClock(std::unique_ptr<zel::host::Setting>& clock)
 {
     QElapsedTimer timer;
     timer.start();
-    clock = std::make_unique<HostClock>();
+    clock = zel::host::clock(&reportOfHost);
     return timer.elapsed();
 }
 
@@ -183,7 +184,7 @@ private Q_SLOTS:
         QVERIFY(bus.isReady() && (kind.isEmpty() || bus.startPortal(kind, value)));
         qputenv("LC_ALL", region);
         MessageLog log;
-        std::unique_ptr<HostClock> clock;
+        std::unique_ptr<zel::host::Setting> clock;
         const qint64 waited = makeClock(clock);
         QCOMPARE(clock->value().toInt(), hours);
         QCOMPARE(log.take(), messages);
@@ -208,7 +209,7 @@ private Q_SLOTS:
             qputenv("DBUS_SESSION_BUS_ADDRESS", address);
         }
         MessageLog log;
-        std::unique_ptr<HostClock> clock;
+        std::unique_ptr<zel::host::Setting> clock;
         const qint64 waited = makeClock(clock);
         QCOMPARE(clock->value(), QVariant(24));
         qputenv("LC_ALL", "en_US.UTF-8");
@@ -245,6 +246,17 @@ private Q_SLOTS:
         Bus bus;
         QVERIFY(bus.isReady());
         std::unique_ptr<Child> watch;
+        QByteArray losses;
+        const auto lose = [&](const char* what) {
+            if (watch) {
+                losses += fallback(QStringLiteral("the %1 has gone").arg(QLatin1String(what)))
+                              .first()
+                              .replace(QLatin1String("warning"), QLatin1String("zel-i18n"))
+                              .trimmed()
+                              .toUtf8() +
+                          '\n';
+            }
+        };
         for (const QString& step : steps.split('|')) {
             const QString action = step.section(QLatin1Char('='), 0, 0);
             if (action.startsWith(QLatin1String("portal "))) {
@@ -259,8 +271,10 @@ private Q_SLOTS:
                 bus.hide(action.mid(5));
             } else if (action == QLatin1String("stop portal")) {
                 bus.portal().stop();
+                lose("settings portal");
             } else if (action == QLatin1String("stop bus")) {
                 bus.stop();
+                lose("session bus");
             } else if (action == QLatin1String("start bus")) {
                 bus.start();
             }
@@ -272,7 +286,7 @@ private Q_SLOTS:
                 QCOMPARE(action == QLatin1String("watch") && line != expected ? watch->line() : line, expected);
             }
         }
-        QCOMPARE(watch->errors(), QByteArray()); // it hears of changes and does not have to poll
+        QCOMPARE(watch->errors(), losses); // it hears of changes and does not have to poll
     }
 
     void followsOnEveryThread()
@@ -376,7 +390,7 @@ private Q_SLOTS:
             QFile::remove(link);
             return QFile::link(QString::fromLatin1(target), link);
         };
-        HostTimeZone zone(link);
+        zel::host::TimeZone zone(&reportOfHost, link);
         const std::unique_ptr<QObject> listener = zone.listen();
         QSignalSpy changes(&zone, SIGNAL(changed()));
         QTRY_COMPARE(changes.size(), 1); // it has begun to watch
@@ -395,7 +409,7 @@ private Q_SLOTS:
         }
         // Without a directory to watch
         MessageLog log;
-        HostTimeZone nowhere(QStringLiteral("/nowhere/localtime"));
+        zel::host::TimeZone nowhere(&reportOfHost, QStringLiteral("/nowhere/localtime"));
         const std::unique_ptr<QObject> poll = nowhere.listen();
         QSignalSpy looks(&nowhere, SIGNAL(changed()));
         QTRY_VERIFY(looks.size() >= 2);

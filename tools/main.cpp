@@ -1,4 +1,3 @@
-#include "device/Device.h"
 #include "Program.h"
 #include "terminal/Console.h"
 #include "terminal/Utf8Environment.h"
@@ -17,9 +16,7 @@ using zel::tool::Program;
 
 void writeMessage(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& text)
 {
-    if (!zel::tool::Device::isUnset(text)) {
-        std::fprintf(stderr, "zel-i18n: %s\n", zel::tool::printable(text.trimmed()).toUtf8().constData());
-    }
+    std::fprintf(stderr, "zel-i18n: %s\n", zel::tool::printable(text.trimmed()).toUtf8().constData());
 }
 
 // Not QCoreApplication::arguments(), which decodes by the locale.

@@ -113,4 +113,15 @@ QLocale LocaleName::closest(const QString& name)
     return exact ? *exact : QLocale(name);
 }
 
+// In the order in which the C library looks at them.
+const char* LocaleName::variable()
+{
+    for (const char* const variable : {"LC_ALL", "LC_TIME", "LANG"}) {
+        if (!qEnvironmentVariableIsEmpty(variable)) {
+            return variable;
+        }
+    }
+    return nullptr;
+}
+
 } // namespace zel::system

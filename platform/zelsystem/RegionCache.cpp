@@ -17,13 +17,8 @@ constexpr const char* objectPath = "/pps/system/locale";
 // As the C library chooses the locale for times; empty for its own.
 const char* posixLocaleName()
 {
-    for (const char* const variable : {"LC_ALL", "LC_TIME", "LANG"}) {
-        const char* const name = std::getenv(variable);
-        if (name != nullptr && *name != '\0') {
-            return name;
-        }
-    }
-    return "";
+    const char* const variable = LocaleName::variable();
+    return variable == nullptr ? "" : std::getenv(variable);
 }
 
 // A value as a message shows it: on one line, and not too much of it.

@@ -47,7 +47,8 @@ ClockFormat::Type ClockSetting::clockFormat()
 
 PpsManager* ClockSetting::getPpsManager()
 {
-    return SharedReader<ClockSetting>::get(mutex::getPpsManager, pps::path, pps::map, pps::key);
+    return SharedReader<ClockSetting>::get(mutex::getPpsManager, pps::path, pps::map, pps::key,
+                                           PpsManager::HostSetting::Clock);
 }
 
 } // namespace zel::utility::i18n

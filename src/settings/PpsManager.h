@@ -36,7 +36,16 @@ public:
      * @param map the name of the object with a leading "@"
      * @param key the name of the attribute
      */
-    PpsManager(const char* path, const char* map, const char* key, QObject* parent);
+    PpsManager(const char* path, const char* map, const char* key, QObject* parent)
+        : PpsManager(path, map, key, HostSetting::None, parent)
+    {
+    }
+
+    /** What a Linux host has in the place of an attribute. */
+    enum class HostSetting { None, Clock, TimeZone };
+
+    /** The same for a build that follows a Linux host; the device platform needs the three strings only. */
+    PpsManager(const char* path, const char* map, const char* key, HostSetting host, QObject* parent);
     ~PpsManager() override;
 
     const char* path() const { return m_path; }

@@ -1,10 +1,10 @@
 #ifndef ZEL_UTILITY_I18N_SETTINGS_PPSMANAGERSOURCE_H
 #define ZEL_UTILITY_I18N_SETTINGS_PPSMANAGERSOURCE_H
 
-#include "settings/HostSetting.h"
 #include "settings/PpsManager.h"
 #include <memory>
 #include <mutex>
+#include <zel/host/Setting.h>
 
 namespace zel::utility::i18n {
 
@@ -12,10 +12,10 @@ namespace zel::utility::i18n {
 class PpsManager::Source
 {
 public:
-    Source(const char* path, const char* key);
+    explicit Source(HostSetting host);
 
     /** Null where the host has no such setting. */
-    const std::unique_ptr<HostSetting> setting;
+    const std::unique_ptr<zel::host::Setting> setting;
 
     std::mutex mutex; // for the way of a value from the setting to the manager
 };

@@ -4,11 +4,9 @@
 
 #include "bridge/DeferredMessages.h"
 #include "bridge/Diagnostic.h"
-#include "settings/ChosenSetting.h"
-#include "settings/HostClock.h"
-#include "settings/HostTimeZone.h"
+#include "settings/HostReporter.h"
 #include "settings/PpsManagerSource.h"
-#include <QtCore/QLatin1String>
+#include <zel/host/Settings.h>
 
 namespace zel::utility::i18n {
 
@@ -17,30 +15,26 @@ namespace {
 constexpr const char* constructorSignature =
     "zel::utility::i18n::PpsManager::PpsManager(const char*, const char*, const char*, QObject*)";
 
-std::unique_ptr<HostSetting> settingFor(QLatin1String path, QLatin1String key)
+std::unique_ptr<zel::host::Setting> settingFor(PpsManager::HostSetting setting)
 {
-    if (ChosenSetting::isInUse()) {
-        return std::make_unique<ChosenSetting>(key);
-    }
-    if (path == QLatin1String("/pps/system/settings") && key == QLatin1String("hourFormat")) {
-        return std::make_unique<HostClock>();
-    }
-    if (path == QLatin1String("/pps/services/confstr/_CS_TIMEZONE") && key == QLatin1String("_CS_TIMEZONE")) {
-        return std::make_unique<HostTimeZone>();
+    switch (setting) {
+    case PpsManager::HostSetting::None:
+        break;
+    case PpsManager::HostSetting::Clock:
+        return zel::host::clock(&reportOfHost);
+    case PpsManager::HostSetting::TimeZone:
+        return zel::host::timeZone(&reportOfHost);
     }
     return nullptr;
 }
 
 } // namespace
 
-PpsManager::Source::Source(const char* path, const char* key)
-    : setting(settingFor(QLatin1String(path), QLatin1String(key)))
-{
-}
+PpsManager::Source::Source(HostSetting host) : setting(settingFor(host)) {}
 
-PpsManager::PpsManager(const char* path, const char* map, const char* key, QObject* parent)
+PpsManager::PpsManager(const char* path, const char* map, const char* key, HostSetting host, QObject* parent)
     : QObject(parent),
-      m_source(std::make_unique<Source>(path, key)),
+      m_source(std::make_unique<Source>(host)),
       m_path(path),
       m_map(map),
       m_key(key)

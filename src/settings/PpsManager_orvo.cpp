@@ -30,7 +30,7 @@ public:
     QByteArray failure;      // what was last reported
 };
 
-PpsManager::PpsManager(const char* path, const char* map, const char* key, QObject* parent)
+PpsManager::PpsManager(const char* path, const char* map, const char* key, HostSetting /*host*/, QObject* parent)
     : QObject(parent),
       m_source(std::make_unique<Source>(QString::fromLatin1(path), this)),
       m_path(path),

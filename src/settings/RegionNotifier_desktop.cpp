@@ -1,14 +1,19 @@
-// Changes of the region, heard from the application.
+// Changes of the region, heard from the Linux host.
 
 #include "settings/RegionNotifier.h"
 
-#include "settings/LocaleChangeFilter.h"
+#include "settings/HostReporter.h"
+#include <zel/host/Settings.h>
 
 namespace zel::utility::i18n {
 
 RegionNotifier::RegionNotifier(QObject* receiver, const char* member, QObject* parent) : QObject(parent)
 {
-    LocaleChangeFilter::call(receiver, member, this);
+    QObject* const region = zel::host::region(&reportOfHost).release();
+    region->setParent(this);
+    Diagnostic::checkConnection(connect(region, SIGNAL(changed()), receiver, member),
+                                "zel::utility::i18n::RegionNotifier::RegionNotifier(QObject*, const char*, QObject*)",
+                                "zel::host::Setting::changed()");
 }
 
 } // namespace zel::utility::i18n

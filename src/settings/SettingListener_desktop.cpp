@@ -29,7 +29,7 @@ SettingListener::~SettingListener() = default;
 void SettingListener::listen()
 {
     m_source.reset();
-    if (HostSetting* const setting = m_manager->m_source->setting.get()) {
+    if (zel::host::Setting* const setting = m_manager->m_source->setting.get()) {
         m_source = std::make_unique<Source>(setting->listen());
     }
 }

@@ -20,7 +20,8 @@ public:
     SharedReader() = delete;
 
     /** The one reader; null on a thread that is just creating it, and when the process has destroyed it. */
-    static PpsManager* get(QRecursiveMutex& mutex, const char* path, const char* map, const char* key)
+    static PpsManager* get(QRecursiveMutex& mutex, const char* path, const char* map, const char* key,
+                           PpsManager::HostSetting host)
     {
         const DeferredMessages messages;
         const QMutexLocker locker(&mutex);
@@ -30,7 +31,7 @@ public:
             return nullptr;
         }
         creating = true;
-        static Reader ppsManager(path, map, key);
+        static Reader ppsManager(path, map, key, host);
         creating = false;
         return &ppsManager;
     }
@@ -70,7 +71,8 @@ private:
     class Reader : public PpsManager
     {
     public:
-        Reader(const char* path, const char* map, const char* key) : PpsManager(path, map, key, nullptr)
+        Reader(const char* path, const char* map, const char* key, HostSetting host)
+            : PpsManager(path, map, key, host, nullptr)
         {
             moveToThread(nullptr);
         }

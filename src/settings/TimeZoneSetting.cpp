@@ -33,7 +33,8 @@ QString TimeZoneSetting::timeZone()
 
 PpsManager* TimeZoneSetting::getPpsManager()
 {
-    return SharedReader<TimeZoneSetting>::get(mutex::getPpsManager, pps::path, pps::map, pps::key);
+    return SharedReader<TimeZoneSetting>::get(mutex::getPpsManager, pps::path, pps::map, pps::key,
+                                              PpsManager::HostSetting::TimeZone);
 }
 
 } // namespace zel::utility::i18n

@@ -2,6 +2,7 @@
 
 #include "Arguments.h"
 #include "device/Device.h"
+#include "device/LibrarySettings.h"
 #include "device/OtherRegion.h"
 #include "texts/Answers.h"
 #include "texts/Moments.h"
@@ -55,6 +56,7 @@ ExitStatus FormatCommand::run(const Arguments& arguments, Console& console) cons
     Device::requireReadable();
     const Moments moments(words.mid(1), MomentReader(MomentReader::Kept));
     const OtherRegion region(arguments);
+    readSettings();
     const zel::utility::i18n::CustomDateFormatter formatter(skeleton);
     if (!formatter.isValid()) {
         throw Failure(QStringLiteral("no pattern for the skeleton ") + quoted(skeleton));

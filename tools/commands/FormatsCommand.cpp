@@ -2,6 +2,7 @@
 
 #include "Arguments.h"
 #include "device/Device.h"
+#include "device/LibrarySettings.h"
 #include "terminal/Console.h"
 #include "terminal/Table.h"
 #include "texts/Format.h"
@@ -93,6 +94,7 @@ ExitStatus FormatsCommand::run(const Arguments& arguments, Console& console) con
     }
     const QList<NamedLocale> locales = arguments.locales();
     Device::requireReadable();
+    readClock();
     const MomentReader reader(MomentReader::Kept);
     const QDateTime moment = arguments.moment(QStringLiteral("at"), reader, reader.now());
     bool first = true;

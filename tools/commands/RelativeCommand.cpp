@@ -2,6 +2,7 @@
 
 #include "Arguments.h"
 #include "device/Device.h"
+#include "device/LibrarySettings.h"
 #include "terminal/Console.h"
 #include "terminal/Table.h"
 #include "texts/Answers.h"
@@ -260,6 +261,7 @@ QList<QCommandLineOption> RelativeCommand::options() const
 ExitStatus RelativeCommand::run(const Arguments& arguments, Console& console) const
 {
     Device::requireReadable();
+    readSettings();
     return arguments.has(QStringLiteral("table")) ? writeLadders(arguments, console) : writeMoments(arguments, console);
 }
 

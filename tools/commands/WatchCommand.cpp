@@ -2,6 +2,7 @@
 
 #include "Arguments.h"
 #include "device/Device.h"
+#include "device/LibrarySettings.h"
 #include "device/OtherRegion.h"
 #include "terminal/Console.h"
 #include "texts/LiveText.h"
@@ -51,6 +52,7 @@ ExitStatus WatchCommand::run(const Arguments& arguments, Console& console) const
     const auto moment =
         words.size() == 2 ? std::make_optional(MomentReader(MomentReader::Kept).read(words.at(1))) : std::nullopt;
     const OtherRegion region(arguments);
+    readSettings();
     try {
         LiveText(skeleton, moment, console, arguments.json()).run();
     } catch (const Console::Interrupted&) {

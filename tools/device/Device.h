@@ -46,12 +46,6 @@ public:
     /** Becomes, for this process, the same device with another region. What changes is kept in a directory. */
     static void useRegion(const QString& name, const QString& directory);
 
-    /**
-     * Whether a message says no more than that a setting has never been made, which is nothing to worry about on a
-     * host: defaults apply.
-     */
-    static bool isUnset(const QString& message);
-
     /** The state of the settings, and each setting with its source. */
     static QList<Finding> examine();
 };

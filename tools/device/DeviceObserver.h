@@ -1,7 +1,7 @@
 #ifndef ZEL_TOOL_DEVICEOBSERVER_H
 #define ZEL_TOOL_DEVICEOBSERVER_H
 
-#include <QtCore/QList>
+#include "device/Assignments.h"
 #include <QtCore/QMap>
 #include <QtCore/QObject>
 #include <QtCore/QString>
@@ -17,6 +17,9 @@ class DeviceObserver : public QObject
 public:
     explicit DeviceObserver(QObject* parent = nullptr);
     ~DeviceObserver() override;
+
+    /** The clock that the device was seen with last: 12 or 24. */
+    int clock() const { return m_values.value(Assignments::hourFormat()) == QLatin1String("24") ? 24 : 12; }
 
 Q_SIGNALS:
     void changed();

@@ -1,43 +1,37 @@
-// Changes of the host's settings, as the library hears of them.
+// Changes of the host's settings.
 
 #include "device/Assignments.h"
-#include "device/Device.h"
 #include "device/DeviceObserver.h"
-#include "settings/ClockSetting.h"
-#include "settings/RegionNotifier.h"
-#include "settings/TimeZoneSetting.h"
 #include "terminal/Failure.h"
+#include <zel/host/Settings.h>
 
 namespace zel::tool {
 
-namespace {
-
-QMap<QString, QString> valuesNow()
+// These are beside the library's: each of the two has a connection of its own to the session bus.
+DeviceObserver::DeviceObserver(QObject* parent) : QObject(parent)
 {
-    QMap<QString, QString> values;
-    for (const QString& key : Assignments::keys()) {
-        values[key] = Device::get(key).value_or(QString());
-    }
-    return values;
-}
-
-} // namespace
-
-DeviceObserver::DeviceObserver(QObject* parent) : QObject(parent), m_values(valuesNow())
-{
-    namespace i18n = zel::utility::i18n;
-    for (const QObject* const setting :
-         std::initializer_list<QObject*>{new i18n::ClockSetting(this), new i18n::TimeZoneSetting(this)}) {
-        requireConnection(connect(setting, SIGNAL(changed()), this, SLOT(look())));
-    }
-    new i18n::RegionNotifier(this, SLOT(look()), this);
+    const auto observe = [this](const QString& key, std::unique_ptr<zel::host::Setting> setting) {
+        requireConnection(connect(setting.get(), SIGNAL(changed()), this, SLOT(look())));
+        if (auto listener = setting->listen()) {
+            listener.release()->setParent(setting.get());
+        }
+        setting->setObjectName(key);
+        setting.release()->setParent(this);
+    };
+    observe(Assignments::hourFormat(), zel::host::clock(&zel::host::ignore));
+    observe(Assignments::timeZone(), zel::host::timeZone(&zel::host::ignore));
+    observe(Assignments::region(), zel::host::region(&zel::host::ignore));
+    look();
 }
 
 DeviceObserver::~DeviceObserver() = default;
 
 void DeviceObserver::look()
 {
-    const QMap<QString, QString> values = valuesNow();
+    QMap<QString, QString> values;
+    for (const auto* const setting : findChildren<zel::host::Setting*>()) {
+        values[setting->objectName()] = setting->value().toString();
+    }
     if (values != m_values) {
         m_values = values;
         Q_EMIT changed();

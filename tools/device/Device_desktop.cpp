@@ -1,24 +1,13 @@
 // The settings of a Linux host. They are the user's, so they are shown here and changed in the desktop.
 
-#include "bridge/Locale.h"
 #include "device/Assignments.h"
 #include "device/Device.h"
-#include "settings/ChosenSetting.h"
-#include "settings/ClockSetting.h"
-#include "settings/HostClock.h"
-#include "settings/HostTimeZone.h"
-#include "settings/TimeZoneSetting.h"
 #include "terminal/Failure.h"
+#include <zel/host/Settings.h>
 
 namespace zel::tool {
 
 namespace {
-
-using zel::utility::i18n::ChosenSetting;
-using zel::utility::i18n::ClockSetting;
-using zel::utility::i18n::HostClock;
-using zel::utility::i18n::HostTimeZone;
-using zel::utility::i18n::TimeZoneSetting;
 
 // The settings of this process, where it has its own.
 std::optional<QMap<QString, QString>> ownSettings;
@@ -35,15 +24,14 @@ QString advice(const QString& key)
     return ways.value(key);
 }
 
-QString regionSource()
+// What the host says about a setting, apart from what the library has heard of it.
+std::unique_ptr<zel::host::Setting> hostSetting(const QString& key, int portalTimeoutMs = zel::host::portalTimeoutMs)
 {
-    for (const char* const variable : {"LC_ALL", "LC_TIME", "LANG"}) {
-        if (!qEnvironmentVariableIsEmpty(variable)) {
-            return QLatin1String(variable) +
-                   QStringLiteral("; running programs see no change of the session's environment");
-        }
+    if (key == Assignments::hourFormat()) {
+        return zel::host::clock(&zel::host::ignore, portalTimeoutMs);
     }
-    return QStringLiteral("the default, as neither LC_ALL, LC_TIME nor LANG is set");
+    return key == Assignments::timeZone() ? zel::host::timeZone(&zel::host::ignore)
+                                          : zel::host::region(&zel::host::ignore);
 }
 
 void requireOwn(const QString& key)
@@ -55,14 +43,8 @@ void requireOwn(const QString& key)
 
 void takeOwnSettings()
 {
-    QMap<QString, QVariant> settings;
-    if (ownSettings->contains(Assignments::hourFormat())) {
-        settings[QStringLiteral("hourFormat")] = ownSettings->value(Assignments::hourFormat()).toInt();
-    }
-    if (ownSettings->contains(Assignments::timeZone())) {
-        settings[QStringLiteral("_CS_TIMEZONE")] = ownSettings->value(Assignments::timeZone());
-    }
-    ChosenSetting::choose(settings);
+    qputenv(zel::host::clockVariable, ownSettings->value(Assignments::hourFormat()).toUtf8());
+    qputenv(zel::host::timeZoneVariable, ownSettings->value(Assignments::timeZone()).toUtf8());
     if (ownSettings->contains(Assignments::region())) {
         qputenv("LC_ALL", ownSettings->value(Assignments::region()).toUtf8());
     }
@@ -74,10 +56,14 @@ Finding examineOwn(const QString& key)
     return {value ? Finding::Good : Finding::Note, key, value.value_or(QStringLiteral("not set")), {}};
 }
 
-Finding examineSetting(const QString& key, const QString& value, const QString& source)
+Finding examineSetting(const QString& key)
 {
+    // Nobody waits for a text here: long enough for a portal that is just being started.
+    constexpr int portalTimeoutMs = 5000;
+    const auto setting = hostSetting(key, portalTimeoutMs);
+    const QString value = setting->value().toString();
     return {value.isEmpty() ? Finding::Wrong : Finding::Good, key,
-            (value.isEmpty() ? QStringLiteral("unknown") : value) + QLatin1String(", from ") + source,
+            (value.isEmpty() ? QStringLiteral("unknown") : value) + QLatin1String(", from ") + setting->source(),
             value.isEmpty() ? advice(key) : QString()};
 }
 
@@ -88,14 +74,8 @@ std::optional<QString> Device::get(const QString& key)
     if (ownSettings) {
         return ownSettings->contains(key) ? std::make_optional(ownSettings->value(key)) : std::nullopt;
     }
-    if (key == Assignments::hourFormat()) {
-        return QString::number(ClockSetting::clockFormat());
-    }
-    if (key == Assignments::timeZone()) {
-        const QString id = TimeZoneSetting::timeZone();
-        return id.isEmpty() ? std::nullopt : std::make_optional(id);
-    }
-    return region().name();
+    const QString value = hostSetting(key)->value().toString();
+    return value.isEmpty() ? std::nullopt : std::make_optional(value);
 }
 
 void Device::set(const QMap<QString, QString>& values, Permissions /*permissions*/)
@@ -118,7 +98,7 @@ void Device::unset(const QStringList& keys)
 
 QLocale Device::region()
 {
-    return zel::utility::i18n::Locale::region();
+    return zel::host::regionNow();
 }
 
 void Device::requireReadable() {}
@@ -134,25 +114,13 @@ void Device::useRegion(const QString& name, const QString& /*directory*/)
     qputenv("LC_ALL", name.toUtf8());
 }
 
-bool Device::isUnset(const QString& message)
-{
-    // That the region's own clock applies is what a host without a desktop is for; 'doctor' tells why.
-    return message.contains(QLatin1String("HostClock::onAnswer()"));
-}
-
 QList<Finding> Device::examine()
 {
-    if (ownSettings) {
-        return {examineOwn(Assignments::hourFormat()), examineOwn(Assignments::timeZone()),
-                examineOwn(Assignments::region())};
+    QList<Finding> findings;
+    for (const QString& key : Assignments::keys()) {
+        findings.append(ownSettings ? examineOwn(key) : examineSetting(key));
     }
-    // Nobody waits for a text here: long enough for a portal that is just being started.
-    constexpr int portalTimeoutMs = 5000;
-    const HostClock clock(portalTimeoutMs);
-    const HostTimeZone zone;
-    return {examineSetting(Assignments::hourFormat(), clock.value().toString(), clock.source()),
-            examineSetting(Assignments::timeZone(), zone.value().toString(), zone.source()),
-            examineSetting(Assignments::region(), region().name(), regionSource())};
+    return findings;
 }
 
 } // namespace zel::tool

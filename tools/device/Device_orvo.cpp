@@ -232,16 +232,6 @@ void Device::useRegion(const QString& name, const QString& directory)
     set({{Assignments::region(), name}}, {});
 }
 
-bool Device::isUnset(const QString& message)
-{
-    const QStringList keys = Assignments::keys();
-    return std::any_of(keys.begin(), keys.end(), [&message](const QString& key) {
-        const QString path = placeOf(key).object;
-        return message.contains(QLatin1String("failed to read PPS at ") + path + QLatin1Char(' ')) &&
-               SettingsObject(path).state() == SettingsObject::Missing;
-    });
-}
-
 QList<Finding> Device::examine()
 {
     QList<Finding> findings = {examineRoot()};

@@ -1,6 +1,5 @@
 #include "terminal/Messages.h"
 
-#include "device/Device.h"
 #include <utility>
 
 namespace zel::tool {
@@ -12,9 +11,7 @@ QStringList Messages::take()
 
 void Messages::handle(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& text)
 {
-    if (!Device::isUnset(text)) {
-        s_taken.append(text.trimmed());
-    }
+    s_taken.append(text.trimmed());
 }
 
 } // namespace zel::tool

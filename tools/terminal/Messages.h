@@ -14,7 +14,7 @@ public:
     ~Messages() { qInstallMessageHandler(m_previous); }
     Q_DISABLE_COPY(Messages)
 
-    /** The messages since the last call, without those that only say that a setting has never been made. */
+    /** The messages since the last call. */
     QStringList take();
 
 private:

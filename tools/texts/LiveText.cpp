@@ -1,31 +1,28 @@
 #include "texts/LiveText.h"
 
+#include "device/LibrarySettings.h"
 #include "terminal/Console.h"
 #include "terminal/Failure.h"
+#include <zel/utility/i18n/CustomDateFormatter.h>
 
 namespace zel::tool {
 
-namespace {
-
-// The library hears of a change by itself. This is enough for it to have done so when the text is written.
-constexpr int turnOfTheLibrary = 100;
-
-} // namespace
+using zel::utility::i18n::CustomDateFormatter;
 
 LiveText::LiveText(const QString& skeleton, const std::optional<QDateTime>& moment, Console& console, bool json)
     : m_console(console),
       m_answers(console, json),
       m_moment(moment),
-      m_formatter(skeleton),
+      m_skeleton(skeleton),
       m_interrupted(console.signalDescriptor(), QSocketNotifier::Read)
 {
-    if (!m_formatter.isValid()) {
+    if (!CustomDateFormatter(skeleton).isValid()) {
         throw Failure(QStringLiteral("no pattern for the skeleton ") + quoted(skeleton));
     }
-    m_settled.setSingleShot(true);
-    m_settled.setInterval(turnOfTheLibrary);
-    requireConnection(connect(&m_observer, SIGNAL(changed()), &m_settled, SLOT(start())));
-    requireConnection(connect(&m_settled, SIGNAL(timeout()), this, SLOT(write())));
+    m_again.setSingleShot(true);
+    m_again.setInterval(5);
+    requireConnection(connect(&m_observer, SIGNAL(changed()), this, SLOT(onChange())));
+    requireConnection(connect(&m_again, SIGNAL(timeout()), this, SLOT(follow())));
     requireConnection(connect(&m_interrupted, SIGNAL(activated(int)), &m_loop, SLOT(quit())));
 }
 
@@ -40,10 +37,28 @@ void LiveText::run()
     }
 }
 
+void LiveText::onChange()
+{
+    m_sinceChange.start();
+    follow();
+}
+
+// The library hears of a change by itself, perhaps later. Time zone and region it reads for each text.
+void LiveText::follow()
+{
+    constexpr int patience = 5000;
+    if (libraryClock() != m_observer.clock() && m_sinceChange.elapsed() < patience) {
+        m_again.start();
+        return;
+    }
+    m_again.stop();
+    write();
+}
+
 void LiveText::write()
 try {
     const QDateTime moment = m_moment.value_or(QDateTime::currentDateTime());
-    m_answers.write(moment, m_formatter.format(moment));
+    m_answers.write(moment, CustomDateFormatter(m_skeleton).format(moment));
     m_console.flush();
 } catch (...) {
     // The event loop cannot be left by an exception.

@@ -6,11 +6,11 @@
 #include <exception>
 #include <optional>
 #include <QtCore/QDateTime>
+#include <QtCore/QElapsedTimer>
 #include <QtCore/QEventLoop>
 #include <QtCore/QObject>
 #include <QtCore/QSocketNotifier>
 #include <QtCore/QTimer>
-#include <zel/utility/i18n/CustomDateFormatter.h>
 
 namespace zel::tool {
 
@@ -29,15 +29,18 @@ public:
     void run();
 
 private Q_SLOTS:
+    void onChange();
+    void follow();
     void write();
 
 private:
     Console& m_console;
     const Answers m_answers;
     const std::optional<QDateTime> m_moment;
-    const zel::utility::i18n::CustomDateFormatter m_formatter;
+    const QString m_skeleton;
     DeviceObserver m_observer;
-    QTimer m_settled;
+    QElapsedTimer m_sinceChange;
+    QTimer m_again;
     QSocketNotifier m_interrupted;
     QEventLoop m_loop;
     std::exception_ptr m_failure;

@@ -21,6 +21,9 @@ public:
 
     /** The locale that comes closest to the name of a POSIX locale, at worst the C locale. */
     static QLocale closest(const QString& name);
+
+    /** The environment variable that names the process's POSIX locale for times; null where none does. */
+    static const char* variable();
 };
 
 } // namespace zel::system

@@ -1,27 +1,25 @@
-#ifndef ZEL_UTILITY_I18N_SETTINGS_HOSTCLOCK_H
-#define ZEL_UTILITY_I18N_SETTINGS_HOSTCLOCK_H
+#ifndef ZEL_HOST_CLOCK_H
+#define ZEL_HOST_CLOCK_H
 
-#include "settings/HostSetting.h"
-#include "settings/SettingsPortal.h"
+#include "SettingsPortal.h"
 #include <mutex>
 #include <optional>
 #include <QtCore/QLocale>
+#include <zel/host/Setting.h>
 
-namespace zel::utility::i18n {
+namespace zel::host {
 
 /**
  * The clock of the desktop, 12 or 24: what the settings portal says, and, as long as it does not say, the clock of the
  * region's own time pattern. The portal's silence is reported once, until it has answered again.
  */
-class HostClock : public HostSetting
+class Clock : public Setting
 {
     Q_OBJECT
 
 public:
-    /** Short enough for a caller to wait for less than 100 ms altogether. */
-    static constexpr int portalTimeoutMs = 80;
-
-    explicit HostClock(int timeoutMs = portalTimeoutMs);
+    /** Waits for the portal no longer than the timeout. */
+    Clock(Reporter reporter, int timeoutMs);
 
     QVariant value() const override;
     QString source() const override;
@@ -31,12 +29,16 @@ private Q_SLOTS:
     void onAnswer(const QVariant& answer, const QString& reason);
 
 private:
+    /** Takes what the portal says. Returns why it does not say, if that is to be reported. */
+    QString take(const QVariant& answer, const QString& reason);
+
     /** The clock of the region's time pattern. The pattern is looked up only when the region has changed. */
     int ownClock(const QLocale& region) const;
 
     /** Makes a portal whose answers are taken. */
     std::unique_ptr<SettingsPortal> ask(int timeoutMs);
 
+    const Reporter m_reporter;
     mutable std::mutex m_mutex; // for what is below
     bool m_reported = false;
     std::optional<int> m_chosen;
@@ -48,6 +50,6 @@ private:
     std::unique_ptr<SettingsPortal> m_portal;
 };
 
-} // namespace zel::utility::i18n
+} // namespace zel::host
 
 #endif

@@ -1,13 +1,14 @@
-#ifndef ZEL_UTILITY_I18N_SETTINGS_LINKWATCHER_H
-#define ZEL_UTILITY_I18N_SETTINGS_LINKWATCHER_H
+#ifndef ZEL_HOST_LINKWATCHER_H
+#define ZEL_HOST_LINKWATCHER_H
 
 #include <memory>
 #include <QtCore/QFileSystemWatcher>
 #include <QtCore/QObject>
 #include <QtCore/QString>
 #include <QtCore/QTimer>
+#include <zel/host/Setting.h>
 
-namespace zel::utility::i18n {
+namespace zel::host {
 
 /**
  * Hears, through the event loop of the thread that created it, when a symbolic link may have been replaced. Where its
@@ -19,7 +20,7 @@ class LinkWatcher : public QObject
     Q_DISABLE_COPY_MOVE(LinkWatcher)
 
 public:
-    explicit LinkWatcher(const QString& link);
+    LinkWatcher(const QString& link, Reporter reporter);
     ~LinkWatcher() override = default;
 
 Q_SIGNALS:
@@ -30,10 +31,11 @@ private Q_SLOTS:
 
 private:
     const QString m_link;
+    const Reporter m_reporter;
     std::unique_ptr<QFileSystemWatcher> m_watcher;
     QTimer m_poll; // where the directory cannot be watched
 };
 
-} // namespace zel::utility::i18n
+} // namespace zel::host
 
 #endif

@@ -1,9 +1,9 @@
-#ifndef ZEL_UTILITY_I18N_SETTINGS_LOCALECHANGEFILTER_H
-#define ZEL_UTILITY_I18N_SETTINGS_LOCALECHANGEFILTER_H
+#ifndef ZEL_HOST_LOCALECHANGEFILTER_H
+#define ZEL_HOST_LOCALECHANGEFILTER_H
 
-#include <QtCore/QObject>
+#include <zel/host/Setting.h>
 
-namespace zel::utility::i18n {
+namespace zel::host {
 
 /** Hears of the locale changes that the application hears of. It lives on the application's thread. */
 class LocaleChangeFilter : public QObject
@@ -13,7 +13,7 @@ class LocaleChangeFilter : public QObject
 
 public:
     /** Calls a signal or slot at every locale change, for as long as the owner lives. Any thread may call. */
-    static void call(QObject* receiver, const char* member, QObject* owner,
+    static void call(QObject* receiver, const char* member, QObject* owner, Reporter reporter,
                      Qt::ConnectionType type = Qt::AutoConnection);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -29,6 +29,6 @@ private:
     LocaleChangeFilter() = default;
 };
 
-} // namespace zel::utility::i18n
+} // namespace zel::host
 
 #endif

@@ -1,7 +1,7 @@
-#ifndef ZEL_UTILITY_I18N_SETTINGS_SETTINGSPORTAL_H
-#define ZEL_UTILITY_I18N_SETTINGS_SETTINGSPORTAL_H
+#ifndef ZEL_HOST_SETTINGSPORTAL_H
+#define ZEL_HOST_SETTINGSPORTAL_H
 
-#include "settings/BusProbe.h"
+#include "BusProbe.h"
 #include <memory>
 #include <QtCore/QObject>
 #include <QtCore/QString>
@@ -15,7 +15,7 @@
 class QDBusError;
 class QDeadlineTimer;
 
-namespace zel::utility::i18n {
+namespace zel::host {
 
 /**
  * One setting of the desktop, asked of the settings portal on the session bus and followed there, also when the portal
@@ -35,7 +35,7 @@ public:
      * @param group the namespace of the setting
      */
     static constexpr int later = 0;
-    SettingsPortal(const QString& group, const QString& key, int timeoutMs);
+    SettingsPortal(const QString& group, const QString& key, int timeoutMs, Reporter reporter);
     ~SettingsPortal() override;
 
     /** The setting; invalid as long as the portal does not answer. */
@@ -74,6 +74,7 @@ private:
     const QString m_group;
     const QString m_key;
     const bool m_tellsSilence;
+    const Reporter m_reporter;
     QString m_address;
     QVariant m_value;
     QString m_reason;
@@ -85,6 +86,6 @@ private:
     QTimer m_retry;
 };
 
-} // namespace zel::utility::i18n
+} // namespace zel::host
 
 #endif

@@ -1,14 +1,14 @@
-#include "settings/HostTimeZone.h"
+#include "TimeZone.h"
 
-#include "bridge/Diagnostic.h"
-#include "bridge/String.h"
-#include "settings/LinkWatcher.h"
+#include "Connection.h"
+#include "LinkWatcher.h"
 #include <QtCore/QFile>
 #include <QtCore/QStringList>
+#include <string>
 #include <sys/stat.h>
 #include <unicode/timezone.h>
 
-namespace zel::utility::i18n {
+namespace zel::host {
 
 namespace {
 
@@ -55,21 +55,23 @@ QString linkedId(const QString& link)
 QString idOf(const QByteArray& variable, const QString& link)
 {
     QString id = variable.isEmpty() ? linkedId(link) : withoutDirectory(QFile::decodeName(variable));
-    const std::unique_ptr<icu::TimeZone> zone(icu::TimeZone::createTimeZone(String::toICU(id)));
+    const std::unique_ptr<icu::TimeZone> zone(
+        icu::TimeZone::createTimeZone(icu::UnicodeString::fromUTF8(id.toStdString())));
     if (isKnown(*zone)) {
         return id;
     }
     // A rule such as "CET-1CEST" is no identifier, and a copied file has none. ICU finds a zone that keeps it.
     const std::unique_ptr<icu::TimeZone> host(icu::TimeZone::detectHostTimeZone());
     icu::UnicodeString hostId;
-    return host && isKnown(*host) ? String::toQt(host->getID(hostId)) : QString();
+    std::string text;
+    return host && isKnown(*host) ? QString::fromStdString(host->getID(hostId).toUTF8String(text)) : QString();
 }
 
 } // namespace
 
-HostTimeZone::HostTimeZone(const QString& link) : m_link(link) {}
+TimeZone::TimeZone(Reporter reporter, const QString& link) : m_reporter(reporter), m_link(link) {}
 
-QVariant HostTimeZone::value() const
+QVariant TimeZone::value() const
 {
     const QByteArray current = stamp();
     const std::lock_guard lock(m_mutex);
@@ -80,21 +82,21 @@ QVariant HostTimeZone::value() const
     return m_id;
 }
 
-QString HostTimeZone::source() const
+QString TimeZone::source() const
 {
     return qEnvironmentVariableIsEmpty("TZ") ? m_link : QStringLiteral("TZ");
 }
 
-std::unique_ptr<QObject> HostTimeZone::listen()
+std::unique_ptr<QObject> TimeZone::listen()
 {
-    auto watcher = std::make_unique<LinkWatcher>(m_link);
-    Diagnostic::checkConnection(
-        connect(watcher.get(), SIGNAL(changed()), this, SIGNAL(changed()), Qt::DirectConnection),
-        "std::unique_ptr<QObject> zel::utility::i18n::HostTimeZone::listen()", "LinkWatcher::changed()");
+    auto watcher = std::make_unique<LinkWatcher>(m_link, m_reporter);
+    checkConnection(m_reporter,
+                    connect(watcher.get(), SIGNAL(changed()), this, SIGNAL(changed()), Qt::DirectConnection),
+                    "std::unique_ptr<QObject> zel::utility::i18n::HostTimeZone::listen()", "LinkWatcher::changed()");
     return watcher;
 }
 
-QByteArray HostTimeZone::stamp() const
+QByteArray TimeZone::stamp() const
 {
     QByteArray stamp;
     const auto append = [&stamp](const auto& item) {
@@ -113,4 +115,4 @@ QByteArray HostTimeZone::stamp() const
     return stamp + qgetenv("TZ");
 }
 
-} // namespace zel::utility::i18n
+} // namespace zel::host

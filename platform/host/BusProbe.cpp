@@ -1,6 +1,6 @@
-#include "settings/BusProbe.h"
+#include "BusProbe.h"
 
-#include "bridge/Diagnostic.h"
+#include "Connection.h"
 #include <algorithm>
 #include <cerrno>
 #include <cstddef>
@@ -12,7 +12,7 @@
 #include <sys/un.h>
 #include <unistd.h>
 
-namespace zel::utility::i18n {
+namespace zel::host {
 
 namespace {
 
@@ -49,7 +49,7 @@ QString BusProbe::sessionAddress()
     return QFileInfo::exists(socket) ? QStringLiteral("unix:path=") + socket : QString();
 }
 
-BusProbe::BusProbe(const QString& address, QObject* parent) : QObject(parent)
+BusProbe::BusProbe(const QString& address, Reporter reporter, QObject* parent) : QObject(parent), m_reporter(reporter)
 {
     const QByteArray name = socketOf(address);
     if (address.isEmpty()) {
@@ -89,8 +89,8 @@ void BusProbe::startListening()
         return;
     }
     m_notifier = std::make_unique<QSocketNotifier>(m_socket, QSocketNotifier::Read);
-    Diagnostic::checkConnection(connect(m_notifier.get(), SIGNAL(activated(int)), this, SLOT(onReadable())),
-                                "void zel::utility::i18n::BusProbe::startListening()", "QSocketNotifier::activated()");
+    checkConnection(m_reporter, connect(m_notifier.get(), SIGNAL(activated(int)), this, SLOT(onReadable())),
+                    "void zel::utility::i18n::BusProbe::startListening()", "QSocketNotifier::activated()");
 }
 
 void BusProbe::onReadable()
@@ -118,4 +118,4 @@ void BusProbe::open(const QByteArray& name)
     }
 }
 
-} // namespace zel::utility::i18n
+} // namespace zel::host

@@ -1,6 +1,6 @@
-#include "settings/SettingsPortal.h"
+#include "SettingsPortal.h"
 
-#include "bridge/Diagnostic.h"
+#include "Connection.h"
 #include <algorithm>
 #include <atomic>
 #include <QtCore/QDeadlineTimer>
@@ -9,7 +9,7 @@
 #include <QtDBus/QDBusReply>
 #include <utility>
 
-namespace zel::utility::i18n {
+namespace zel::host {
 
 namespace {
 
@@ -99,18 +99,19 @@ bool isSilence(const QDBusError& error)
 
 } // namespace
 
-SettingsPortal::SettingsPortal(const QString& group, const QString& key, int timeoutMs)
+SettingsPortal::SettingsPortal(const QString& group, const QString& key, int timeoutMs, Reporter reporter)
     : m_group(group),
       m_key(key),
       m_tellsSilence(timeoutMs != later),
+      m_reporter(reporter),
       m_bus(QString()),
       m_retry(this)
 {
     // The slot's argument types are looked up by name, which Qt does not know before a type's first use.
     qRegisterMetaType<QDBusVariant>();
     m_retry.setSingleShot(true);
-    Diagnostic::checkConnection(connect(&m_retry, SIGNAL(timeout()), this, SLOT(retry())), constructor,
-                                "QTimer::timeout()");
+    checkConnection(m_reporter, connect(&m_retry, SIGNAL(timeout()), this, SLOT(retry())), constructor,
+                    "QTimer::timeout()");
     if (timeoutMs == later) {
         QMetaObject::invokeMethod(this, "retry", Qt::QueuedConnection);
         return;
@@ -135,7 +136,7 @@ SettingsPortal::~SettingsPortal()
 bool SettingsPortal::findBus()
 {
     m_address = BusProbe::sessionAddress(); // a bus may have been started since
-    m_probe = std::make_unique<BusProbe>(m_address, this);
+    m_probe = std::make_unique<BusProbe>(m_address, m_reporter, this);
     const QString reason = m_probe->reason();
     if (!reason.isEmpty()) {
         m_probe.reset();
@@ -148,9 +149,9 @@ bool SettingsPortal::findBus()
 void SettingsPortal::awaitBus()
 {
     // Queued: join() destroys the probe.
-    Diagnostic::checkConnection(
-        connect(m_probe.get(), SIGNAL(answered()), this, SLOT(onBusAnswered()), Qt::QueuedConnection), constructor,
-        "BusProbe::answered()");
+    checkConnection(m_reporter,
+                    connect(m_probe.get(), SIGNAL(answered()), this, SLOT(onBusAnswered()), Qt::QueuedConnection),
+                    constructor, "BusProbe::answered()");
     m_probe->listen();
 }
 
@@ -186,8 +187,8 @@ bool SettingsPortal::listen()
         m_bus.connect(busService(), busPath(), busService(), QStringLiteral("NameOwnerChanged"), {service()},
                       QStringLiteral("sss"), this, SLOT(onOwnerChanged(QString, QString, QString)));
     if (!isListening) {
-        Diagnostic::write(QtWarningMsg, "bool zel::utility::i18n::SettingsPortal::listen()",
-                          "cannot subscribe to the settings portal and polls it");
+        m_reporter(QtWarningMsg, QStringLiteral("bool zel::utility::i18n::SettingsPortal::listen() cannot subscribe to "
+                                                "the settings portal and polls it"));
     }
     return isListening;
 }
@@ -224,10 +225,11 @@ void SettingsPortal::ask(const QString& method)
     m_method = method;
     m_call = std::make_unique<QDBusPendingCallWatcher>(m_bus.asyncCall(question(method)), this);
     // Queued: onFinished() destroys the call.
-    Diagnostic::checkConnection(connect(m_call.get(), SIGNAL(finished(QDBusPendingCallWatcher*)), this,
-                                        SLOT(onFinished()), Qt::QueuedConnection),
-                                "void zel::utility::i18n::SettingsPortal::ask(const QString&)",
-                                "QDBusPendingCallWatcher::finished()");
+    checkConnection(m_reporter,
+                    connect(m_call.get(), SIGNAL(finished(QDBusPendingCallWatcher*)), this, SLOT(onFinished()),
+                            Qt::QueuedConnection),
+                    "void zel::utility::i18n::SettingsPortal::ask(const QString&)",
+                    "QDBusPendingCallWatcher::finished()");
 }
 
 void SettingsPortal::onFinished()
@@ -334,4 +336,4 @@ void SettingsPortal::retry()
     }
 }
 
-} // namespace zel::utility::i18n
+} // namespace zel::host

@@ -1,12 +1,13 @@
-#include "settings/LocaleChangeFilter.h"
+#include "LocaleChangeFilter.h"
 
-#include "bridge/Diagnostic.h"
+#include "Connection.h"
 #include <QtCore/QCoreApplication>
 #include <QtCore/QEvent>
 
-namespace zel::utility::i18n {
+namespace zel::host {
 
-void LocaleChangeFilter::call(QObject* receiver, const char* member, QObject* owner, Qt::ConnectionType type)
+void LocaleChangeFilter::call(QObject* receiver, const char* member, QObject* owner, Reporter reporter,
+                              Qt::ConnectionType type)
 {
     const QCoreApplication* const application = QCoreApplication::instance();
     if (application == nullptr) {
@@ -17,10 +18,10 @@ void LocaleChangeFilter::call(QObject* receiver, const char* member, QObject* ow
     filter->moveToThread(application->thread());
     constexpr const char* signature =
         "static void zel::utility::i18n::LocaleChangeFilter::call(QObject*, const char*, QObject*, Qt::ConnectionType)";
-    Diagnostic::checkConnection(connect(filter, SIGNAL(changed()), receiver, member, type), signature,
-                                "LocaleChangeFilter::changed()");
-    Diagnostic::checkConnection(connect(owner, SIGNAL(destroyed()), filter, SLOT(stop())), signature,
-                                "QObject::destroyed()");
+    checkConnection(reporter, connect(filter, SIGNAL(changed()), receiver, member, type), signature,
+                    "LocaleChangeFilter::changed()");
+    checkConnection(reporter, connect(owner, SIGNAL(destroyed()), filter, SLOT(stop())), signature,
+                    "QObject::destroyed()");
     QMetaObject::invokeMethod(filter, "start");
 }
 
@@ -51,4 +52,4 @@ bool LocaleChangeFilter::eventFilter(QObject* watched, QEvent* event)
     return QObject::eventFilter(watched, event);
 }
 
-} // namespace zel::utility::i18n
+} // namespace zel::host

@@ -1,22 +1,25 @@
-#ifndef ZEL_UTILITY_I18N_SETTINGS_HOSTSETTING_H
-#define ZEL_UTILITY_I18N_SETTINGS_HOSTSETTING_H
+#ifndef ZEL_HOST_SETTING_H
+#define ZEL_HOST_SETTING_H
 
 #include <memory>
 #include <QtCore/QObject>
 #include <QtCore/QString>
 #include <QtCore/QVariant>
 
-namespace zel::utility::i18n {
+namespace zel::host {
+
+/** Takes a message about the host, one line without a space at its end. It is called on any thread. */
+using Reporter = void (*)(QtMsgType type, const QString& text);
 
 /** A setting of the Linux host. All functions may be called on any thread. */
-class HostSetting : public QObject
+class Setting : public QObject
 {
     Q_OBJECT
-    Q_DISABLE_COPY_MOVE(HostSetting)
+    Q_DISABLE_COPY_MOVE(Setting)
 
 public:
-    HostSetting() = default;
-    ~HostSetting() override = default;
+    Setting() = default;
+    ~Setting() override = default;
 
     virtual QVariant value() const = 0;
 
@@ -34,6 +37,6 @@ Q_SIGNALS:
     void changed();
 };
 
-} // namespace zel::utility::i18n
+} // namespace zel::host
 
 #endif

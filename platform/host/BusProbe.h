@@ -1,12 +1,13 @@
-#ifndef ZEL_UTILITY_I18N_SETTINGS_BUSPROBE_H
-#define ZEL_UTILITY_I18N_SETTINGS_BUSPROBE_H
+#ifndef ZEL_HOST_BUSPROBE_H
+#define ZEL_HOST_BUSPROBE_H
 
 #include <memory>
 #include <QtCore/QObject>
 #include <QtCore/QSocketNotifier>
 #include <QtCore/QString>
+#include <zel/host/Setting.h>
 
-namespace zel::utility::i18n {
+namespace zel::host {
 
 /**
  * Tells whether there is somebody at the address of a message bus who answers. Qt D-Bus waits for half a minute for a
@@ -21,7 +22,7 @@ public:
     /** The address of the user's session bus; empty where there is none. */
     static QString sessionAddress();
 
-    BusProbe(const QString& address, QObject* parent);
+    BusProbe(const QString& address, Reporter reporter, QObject* parent);
     ~BusProbe() override;
 
     /** Why nobody can be asked; empty otherwise. */
@@ -44,11 +45,12 @@ private Q_SLOTS:
 private:
     void open(const QByteArray& name);
 
+    const Reporter m_reporter;
     int m_socket = -1;
     QString m_reason;
     std::unique_ptr<QSocketNotifier> m_notifier;
 };
 
-} // namespace zel::utility::i18n
+} // namespace zel::host
 
 #endif

@@ -1,0 +1,18 @@
+#include "EnvironmentSetting.h"
+
+#include <cstdlib>
+
+namespace zel::host {
+
+bool EnvironmentSetting::isInUse(const char* variable)
+{
+    return ::secure_getenv(variable) != nullptr;
+}
+
+QVariant EnvironmentSetting::value() const
+{
+    const QString text = qEnvironmentVariable(m_variable);
+    return text.isEmpty() ? QVariant() : QVariant(text);
+}
+
+} // namespace zel::host

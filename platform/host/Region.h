@@ -1,0 +1,27 @@
+#ifndef ZEL_HOST_REGION_H
+#define ZEL_HOST_REGION_H
+
+#include <QtCore/QLocale>
+#include <zel/host/Setting.h>
+
+namespace zel::host {
+
+/** The region locale: the one that the environment names for dates and times. */
+class Region : public Setting
+{
+    Q_OBJECT
+
+public:
+    explicit Region(Reporter reporter);
+
+    /** The region as the environment names it now. A name is read again only when it changes. */
+    static QLocale now();
+
+    QVariant value() const override { return now().name(); }
+    QString source() const override;
+    std::unique_ptr<QObject> listen() override { return nullptr; }
+};
+
+} // namespace zel::host
+
+#endif
