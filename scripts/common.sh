@@ -123,5 +123,5 @@ prepare_target() {
 
 # on_target COMMAND...: runs a command where each program that it starts may be one of the target's.
 on_target() {
-    proot -q "$emulator -L $sysroot" "$@"
+    QT_PLUGIN_PATH=$(echo "$sysroot"/usr/lib/*/qt6/plugins) proot -q "$emulator -L $sysroot" "$@"
 }

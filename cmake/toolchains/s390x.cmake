@@ -1,4 +1,5 @@
 # A big-endian machine, for what depends on the order of bytes.
 set(CMAKE_SYSTEM_PROCESSOR s390x)
 set(zelTriplet s390x-linux-gnu)
+set(ZEL_DEBIAN_ARCHITECTURE s390x)
 include("${CMAKE_CURRENT_LIST_DIR}/common.cmake")
