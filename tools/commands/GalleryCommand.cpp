@@ -1,13 +1,9 @@
 #include "commands/Commands.h"
 
 #include "Arguments.h"
-#include "device/Assignments.h"
-#include "device/Device.h"
-#include "device/LibrarySettings.h"
-#include "device/ThrowAwayDevice.h"
-#include "gallery/GalleryEntry.h"
-#include "gallery/GalleryPage.h"
-#include "gallery/GalleryTable.h"
+#include "gallery/Gallery.h"
+#include "gallery/GalleryComparison.h"
+#include "gallery/GallerySummary.h"
 #include "terminal/Console.h"
 #include "terminal/Failure.h"
 #include <memory>
@@ -15,7 +11,6 @@
 #include <QtCore/QFileInfo>
 #include <QtCore/QSaveFile>
 #include <unicode/uloc.h>
-#include <zel/system/LocaleName.h>
 
 namespace zel::tool {
 
@@ -37,62 +32,8 @@ QStringList localesFor(const Arguments& arguments)
         return localesOfIcu();
     }
     QStringList names;
-    if (arguments.has(QStringLiteral("locale"))) {
-        for (const NamedLocale& locale : arguments.locales()) {
-            names.append(locale.name);
-        }
-    } else {
-        names = localesOfIcu();
-    }
-    QList<GalleryEntry> entries;
-    for (const QString& name : names) {
-        entries.append({name, {}});
-    }
-    return entries;
-}
-
-/** A change of the device reaches the library through the event loop. */
-void useClock(const QString& clock)
-{
-    constexpr int patience = 5000;
-    Device::set({{Assignments::hourFormat(), clock}}, {});
-    QElapsedTimer timer;
-    timer.start();
-    while (libraryClock() != clock.toInt()) {
-        if (timer.elapsed() > patience) {
-            throw Failure(QStringLiteral("the library does not follow the clock of the device"));
-        }
-        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 50);
-    }
-}
-
-/** Adds the rows under the clock that the device has now. */
-void fill(QList<GalleryEntry>& entries, ProgressBar& progress, const Console& console)
-{
-    for (GalleryEntry& entry : entries) {
-        if (const int signal = console.takeSignal(); signal != 0) {
-            throw Console::Interrupted{signal};
-        }
-        progress.step(entry.locale);
-        if (const auto locale = zel::system::LocaleName::find(entry.locale)) {
-            // The region of a device that has none set is that of the environment, and this costs no file.
-            qputenv("LC_ALL", entry.locale.toLatin1());
-            entry.clocks.append(GalleryEntry::rows(*locale));
-        }
-    }
-}
-
-/** Fills the entries, and returns the names of the clocks. */
-QStringList fill(QList<GalleryEntry>& entries, const Console& console)
-{
-    const ThrowAwayDevice device(QStringLiteral("time-zone=UTC"));
-    const QStringList clocks = {QStringLiteral("12"), QStringLiteral("24")};
-    ProgressBar progress(static_cast<int>(entries.size() * clocks.size()));
-    QStringList names;
-    for (const QString& clock : clocks) {
-        useClock(clock);
-        fill(entries, progress, console);
-        names.append(clock + QStringLiteral("-hour clock"));
+    for (const NamedLocale& locale : arguments.locales()) {
+        names.append(locale.name);
     }
     return names;
 }

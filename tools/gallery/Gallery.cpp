@@ -2,18 +2,18 @@
 
 #include "device/Assignments.h"
 #include "device/Device.h"
+#include "device/LibrarySettings.h"
 #include "device/ThrowAwayDevice.h"
 #include "gallery/GalleryComparison.h"
 #include "gallery/GalleryPage.h"
 #include "gallery/GalleryTable.h"
-#include "LocaleName.h"
 #include "terminal/Console.h"
 #include "terminal/Failure.h"
 #include "terminal/ProgressBar.h"
 #include <algorithm>
 #include <QtCore/QCoreApplication>
 #include <QtCore/QElapsedTimer>
-#include <zel/utility/i18n/Formatting.h>
+#include <zel/system/LocaleName.h>
 
 namespace zel::tool {
 
@@ -24,13 +24,9 @@ void useClock(const QString& clock)
 {
     constexpr int timeout = 5000;
     Device::set({{Assignments::hourFormat(), clock}}, {});
-    const auto follows = [twelve = clock == QLatin1String("12")] {
-        const QString pattern = zel::utility::i18n::timeFormat(QLocale::c(), zel::utility::i18n::DateFormat::Short);
-        return pattern.contains(QLatin1String("AP"), Qt::CaseInsensitive) == twelve;
-    };
     QElapsedTimer timer;
     timer.start();
-    while (!follows()) {
+    while (libraryClock() != clock.toInt()) {
         if (timer.elapsed() > timeout) {
             throw Failure(QStringLiteral("the library does not follow the clock of the device"));
         }
