@@ -318,6 +318,14 @@ private Q_SLOTS:
         QCOMPARE(percentages.errors, QStringLiteral("zel-i18n: line 2: 'half' is not a number such as 0.256\n"));
         QCOMPARE(percentages.status, 1);
 
+        const Result objects = run("percent|-|--json|--locale|en_US", "0.5\nhalf\n");
+        QCOMPARE(objects.output,
+                 QStringLiteral(R"({"locale":"en_US","text":"50%","value":0.5})"
+                                "\n"
+                                R"({"error":"'half' is not a number such as 0.256","input":"half","line":2})"
+                                "\n"));
+        QCOMPARE(objects.errors, percentages.errors);
+
         const QByteArray longLine(300000, '1');
         const QByteArray input = "2012-05-16\r\nyesterday\n\n" + longLine + "\n2012-02-29T10:30\n2011-02-29";
         const Result result = run("format|yMMMd|-|--device|region=en_US", input);
@@ -331,6 +339,11 @@ private Q_SLOTS:
         QVERIFY(errors.at(2).size() < 200);
         QCOMPARE(errors.at(3), QStringLiteral("zel-i18n: line 6: '2011-02-29'") + reason);
         QCOMPARE(result.status, 1);
+        const QStringList ordered = run("relative|-|--json|--locale|en|--anchor|2012-05-16", "x\n2011-05-16\ny\n")
+                                        .output.split(QLatin1Char('\n'));
+        QVERIFY(ordered.at(0).contains(QLatin1String(R"("line":1)")));
+        QVERIFY(ordered.at(1).contains(QLatin1String("May 2011")));
+        QVERIFY(ordered.at(2).contains(QLatin1String(R"("line":3)")));
     }
 
     void answersLineByLine()

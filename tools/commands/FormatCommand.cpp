@@ -63,7 +63,7 @@ ExitStatus FormatCommand::run(const Arguments& arguments, Console& console) cons
     }
     const Answers answers(console, arguments.json());
     return moments.format(
-        console, [&](const QList<QDateTime>& list) { return formatter.formatAll(list); },
+        console, arguments.json(), [&](const QList<QDateTime>& list) { return formatter.formatAll(list); },
         [&](const QDateTime& moment, const QString& text) { answers.write(moment, text); });
 }
 

@@ -2,7 +2,7 @@
 
 #include "Arguments.h"
 #include "terminal/Console.h"
-#include "terminal/LineReader.h"
+#include "terminal/LineAnswers.h"
 #include <cmath>
 #include <zel/utility/i18n/Formatting.h>
 
@@ -78,8 +78,14 @@ ExitStatus PercentCommand::run(const Arguments& arguments, Console& console) con
     const int fewest = arguments.number(QStringLiteral("min"), 0, mostDigits);
     const int most = arguments.number(QStringLiteral("max"), fewest, mostDigits);
     const NamedLocale locale = arguments.locale();
-    const auto write = [&](double value) {
-        const QString text = zel::utility::i18n::toPercentageString(locale.locale, value, most, fewest);
+    const auto format = [&](const QList<double>& list) {
+        QStringList texts;
+        for (const double value : list) {
+            texts.append(zel::utility::i18n::toPercentageString(locale.locale, value, most, fewest));
+        }
+        return texts;
+    };
+    const auto write = [&](double value, const QString& text) {
         if (text.isNull()) {
             throw Failure(QStringLiteral("no percentages for the locale ") + quoted(locale.name));
         }
@@ -92,12 +98,14 @@ ExitStatus PercentCommand::run(const Arguments& arguments, Console& console) con
         }
     };
     if (fromInput) {
-        return LineReader::forEach(console, [&](std::string_view line) {
-            write(number(QString::fromUtf8(line.data(), static_cast<int>(line.size()))));
-        });
+        const auto read = [](std::string_view line) {
+            return number(QString::fromUtf8(line.data(), static_cast<int>(line.size())));
+        };
+        return LineAnswers(console, arguments.json()).run(read, format, write);
     }
-    for (const double value : values) {
-        write(value);
+    const QStringList texts = format(values);
+    for (int i = 0; i < values.size(); ++i) {
+        write(values[i], texts[i]);
     }
     return Worked;
 }

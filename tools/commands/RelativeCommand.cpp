@@ -96,7 +96,7 @@ ExitStatus writeMoments(const Arguments& arguments, Console& console)
     const Answers answers(console, arguments.json());
     const bool until = arguments.has(QStringLiteral("until"));
     return moments.format(
-        console, [&](const QList<QDateTime>& list) { return formatter->formatAll(list); },
+        console, arguments.json(), [&](const QList<QDateTime>& list) { return formatter->formatAll(list); },
         [&](const QDateTime& moment, const QString& text) {
             if (until) {
                 answers.write(moment, text, formatter->validUntil(moment));

@@ -17,36 +17,6 @@ std::string_view withoutCarriageReturn(std::string_view line)
 
 } // namespace
 
-LineReader::LineReader(Console& console) : m_console(console)
-{
-    if (const qint64 size = console.inputSize(); size > 0 && !console.isTerminal()) {
-        m_progress.emplace(size);
-    }
-}
-
-ExitStatus LineReader::forEach(Console& console, const std::function<void(std::string_view)>& handler)
-{
-    ExitStatus status = Worked;
-    LineReader reader(console);
-    while (const auto line = reader.next()) {
-        try {
-            handler(*line);
-        } catch (const Failure& failure) {
-            reader.complain(reader.number(), failure);
-            status = NoAnswer;
-        }
-    }
-    return status;
-}
-
-void LineReader::complain(qlonglong number, const Failure& failure)
-{
-    if (m_progress) {
-        m_progress->erase();
-    }
-    m_console.complain(QStringLiteral("line %1: ").arg(number) + failure.text());
-}
-
 std::optional<std::string_view> LineReader::next()
 {
     for (;;) {

@@ -1,11 +1,9 @@
 #ifndef ZEL_TOOL_LINEREADER_H
 #define ZEL_TOOL_LINEREADER_H
 
-#include "terminal/Failure.h"
-#include "terminal/ProgressBar.h"
 #include <array>
-#include <functional>
 #include <optional>
+#include <QtCore/QtGlobal>
 #include <string_view>
 
 namespace zel::tool {
@@ -22,15 +20,9 @@ class LineReader
 public:
     explicit LineReader(Console& console);
 
-    /** Hands each line to the handler. One for which it fails is reported and passed over. */
-    static ExitStatus forEach(Console& console, const std::function<void(std::string_view)>& handler);
-
-    /** Reports what is wrong with a line. */
-    void complain(qlonglong number, const Failure& failure);
-
     /**
-     * The next line without its end, valid until the next call; nothing at the end of the input. Of a line that is
-     * longer than any that makes sense, only the beginning.
+     * The next line without its end, nothing at the end of the input. Of a line that is longer than any that makes
+     * sense, only the beginning. Valid until a call that is made while hasLine() is false.
      */
     std::optional<std::string_view> next();
 

@@ -1,6 +1,6 @@
 #include "texts/Moments.h"
 
-#include "terminal/LineReader.h"
+#include "terminal/LineAnswers.h"
 
 namespace zel::tool {
 
@@ -22,53 +22,17 @@ Moments::Moments(const QStringList& words, const MomentReader& reader)
     }
 }
 
-ExitStatus Moments::format(Console& console, const Formatter& formatter, const Writer& writer) const
+ExitStatus Moments::format(Console& console, bool json, const Formatter& formatter, const Writer& writer) const
 {
     if (m_fromInput) {
-        return formatLines(console, formatter, writer);
+        const auto read = [this](std::string_view line) { return m_reader.read(line); };
+        return LineAnswers(console, json).run(read, formatter, writer);
     }
     const QStringList texts = formatter(m_moments);
     for (int i = 0; i < m_moments.size(); ++i) {
         writer(m_moments[i], texts[i]);
     }
     return Worked;
-}
-
-ExitStatus Moments::formatLines(Console& console, const Formatter& formatter, const Writer& writer) const
-{
-    ExitStatus status = Worked;
-    LineReader reader(console);
-    QList<QDateTime> moments;
-    QList<qlonglong> lines;
-    const auto complain = [&](qlonglong line, const Failure& failure) {
-        reader.complain(line, failure);
-        status = NoAnswer;
-    };
-    const auto writeBatch = [&] {
-        const QStringList texts = formatter(moments);
-        for (int i = 0; i < moments.size(); ++i) {
-            try {
-                writer(moments[i], texts[i]);
-            } catch (const Failure& failure) {
-                complain(lines[i], failure);
-            }
-        }
-        moments.clear();
-        lines.clear();
-    };
-    while (const auto line = reader.next()) {
-        try {
-            moments.append(m_reader.read(*line));
-            lines.append(reader.number());
-        } catch (const Failure& failure) {
-            writeBatch();
-            complain(reader.number(), failure);
-        }
-        if (!reader.hasLine()) {
-            writeBatch();
-        }
-    }
-    return status;
 }
 
 } // namespace zel::tool

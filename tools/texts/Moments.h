@@ -22,14 +22,11 @@ public:
 
     /**
      * Formats all moments and hands each text to the writer. Words are all looked at before the first is formatted;
-     * lines are formatted together as far as they are there already. A bad line is reported and passed over, and so is
-     * one for which the writer fails.
+     * lines are answered as LineAnswers does.
      */
-    ExitStatus format(Console& console, const Formatter& formatter, const Writer& writer) const;
+    ExitStatus format(Console& console, bool json, const Formatter& formatter, const Writer& writer) const;
 
 private:
-    ExitStatus formatLines(Console& console, const Formatter& formatter, const Writer& writer) const;
-
     MomentReader m_reader;
     bool m_fromInput;
     QList<QDateTime> m_moments;
