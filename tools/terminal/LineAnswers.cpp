@@ -10,6 +10,7 @@ void LineAnswers::report(const Line& line)
              {QStringLiteral("input"), QString::fromUtf8(line.text.data(), static_cast<int>(line.text.size()))},
              {QStringLiteral("error"), line.error}});
     }
+    m_reader.eraseProgress();
     m_console.complain(QStringLiteral("line %1: ").arg(line.number) + line.error);
     m_status = NoAnswer;
 }

@@ -17,6 +17,20 @@ std::string_view withoutCarriageReturn(std::string_view line)
 
 } // namespace
 
+LineReader::LineReader(Console& console) : m_console(console)
+{
+    if (const qint64 size = console.inputSize(); size > 0 && !console.isTerminal()) {
+        m_progress.emplace(size);
+    }
+}
+
+void LineReader::eraseProgress()
+{
+    if (m_progress) {
+        m_progress->erase();
+    }
+}
+
 std::optional<std::string_view> LineReader::next()
 {
     for (;;) {

@@ -1,6 +1,7 @@
 #ifndef ZEL_TOOL_LINEREADER_H
 #define ZEL_TOOL_LINEREADER_H
 
+#include "terminal/ProgressBar.h"
 #include <array>
 #include <optional>
 #include <QtCore/QtGlobal>
@@ -19,6 +20,9 @@ class LineReader
 {
 public:
     explicit LineReader(Console& console);
+
+    /** Makes room on standard error for a line. */
+    void eraseProgress();
 
     /**
      * The next line without its end, nothing at the end of the input. Of a line that is longer than any that makes
