@@ -8,20 +8,24 @@
  * The version of these headers, for the preprocessor:
  *
  * @code
+ * #include <zel/utility/i18n/RelativeDateFormatter.h>
+ * #include <zel/utility/i18n/Version.h>
+ *
+ * const zel::utility::i18n::RelativeDateFormatter formatter(zel::utility::i18n::RelativeDateFormat::TimeCritical);
  * #if ZEL_UTILITY_I18N_VERSION >= ZEL_UTILITY_I18N_VERSION_CHECK(1, 1, 0)
- *     texts = formatter.formatAll(moments);
+ * const QStringList texts = formatter.formatAll({QDateTime::currentDateTime()});
  * #endif
  * @endcode
  */
 
 /** Major version; a new one breaks source or binary compatibility. */
 #define ZEL_UTILITY_I18N_VERSION_MAJOR 1
-/** Minor version; a new one adds to the interface. */
+/** Minor version; a new one extends the interface. */
 #define ZEL_UTILITY_I18N_VERSION_MINOR 0
-/** Patch version; a new one changes no interface. */
+/** Patch version; a new one leaves the interface as it is. */
 #define ZEL_UTILITY_I18N_VERSION_PATCH 0
 
-/** A version as one number that compares like the version. */
+/** A version as one number; a later version has a greater one. */
 #define ZEL_UTILITY_I18N_VERSION_CHECK(major, minor, patch) QT_VERSION_CHECK(major, minor, patch)
 /** The version of these headers as one number. */
 #define ZEL_UTILITY_I18N_VERSION                                                                                       \
