@@ -6,16 +6,16 @@
 
 namespace zel::utility::i18n {
 
-/** Moments on their way from Qt to ICU. All functions are reentrant. */
+/** Converts moments from Qt to ICU. All functions are reentrant. */
 class DateTime
 {
 public:
     DateTime() = delete;
 
-    /** The instant that a moment denotes. */
+    /** The instant of a moment. */
     static UDate toICU(const QDateTime& dateTime);
 
-    /** The date and time that a moment shows, whatever its time zone, as if it stood in GMT. */
+    /** The date and time that a moment shows, whatever its time zone, taken as GMT. */
     static UDate wallClock(const QDateTime& dateTime);
 };
 

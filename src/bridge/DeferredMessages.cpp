@@ -4,7 +4,7 @@
 
 namespace zel::utility::i18n {
 
-// A pointer: messages may still be written when the thread has destroyed its own objects.
+// A pointer: messages may still be written after the thread has destroyed its objects.
 thread_local DeferredMessages* DeferredMessages::s_outermost = nullptr;
 
 DeferredMessages::DeferredMessages()

@@ -9,8 +9,8 @@
 namespace zel::utility::i18n {
 
 /**
- * Holds back the messages of its thread until the outermost instance on that thread is destroyed. Declared before a
- * lock, it keeps message handlers, which may do anything, from running while the lock is held.
+ * Defers the messages of its thread until the outermost instance on that thread is destroyed. Declared before a lock,
+ * so that message handlers, which may do anything, do not run while the lock is held.
  */
 class DeferredMessages
 {
@@ -20,7 +20,7 @@ public:
     DeferredMessages();
     ~DeferredMessages();
 
-    /** Returns false, and keeps nothing, on a thread without an instance. */
+    /** Defers a message; returns false on a thread without an instance. */
     static bool hold(QtMsgType type, const QString& text);
 
 private:

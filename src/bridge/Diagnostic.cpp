@@ -55,7 +55,7 @@ void Diagnostic::hand(QtMsgType type, const QString& text)
         return;
     }
     const QByteArray utf8 = text.toUtf8();
-    // With the category "default", as qWarning() has it; a handler may compare it.
+    // The category "default" is that of qWarning(); a handler may compare it.
     const QMessageLogger logger(nullptr, 0, nullptr);
     switch (type) {
     case QtDebugMsg:

@@ -10,11 +10,11 @@ class QDateTime;
 namespace zel::utility::i18n {
 
 /**
- * The one way to write a message.
+ * The only way to write a message.
  *
- * A message is its items in order, each followed by one space. A QString stands between double quotes with nothing
- * escaped, a QStringList reads ("a", "b"); literals, integers and ICU names are bare. Qt's own debug stream is not
- * used because its text differs between Qt versions.
+ * A message is its items in order, each followed by one space. A QString is put between double quotes with nothing
+ * escaped, a QStringList becomes ("a", "b"); literals, integers and ICU names are bare. Qt's debug stream is not used,
+ * as its text differs between Qt versions.
  *
  * @code
  * Diagnostic::write(QtWarningMsg, "failed to access resource key", key, "in locale", locale.getName());
@@ -25,7 +25,7 @@ class Diagnostic
 public:
     Diagnostic() = delete;
 
-    /** The message is held back while a DeferredMessages lives on this thread. */
+    /** Writes a message; deferred while a DeferredMessages exists on this thread. */
     template <typename... Items>
     static void write(QtMsgType type, const Items&... items)
     {
@@ -34,7 +34,7 @@ public:
         hand(type, text);
     }
 
-    /** Writes a critical message where a function failed to connect to a signal. */
+    /** Writes a critical message: a function failed to connect to a signal. */
     static void checkConnection(bool isConnected, const char* function, const char* signal)
     {
         if (!isConnected) {

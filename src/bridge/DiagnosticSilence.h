@@ -6,7 +6,7 @@
 namespace zel::utility::i18n {
 
 /**
- * While it lives, messages of its thread are dropped and noted: for an attempt that is repeated with messages when it
+ * Drops and counts the messages of its thread while it exists: for an attempt that is repeated with messages if it
  * fails.
  *
  * @code
@@ -24,10 +24,10 @@ public:
     ~DiagnosticSilence() { s_current = m_outer; }
     Q_DISABLE_COPY_MOVE(DiagnosticSilence)
 
-    /** Whether a message was dropped. */
+    /** Returns whether a message was dropped. */
     bool isBroken() const { return m_broken; }
 
-    /** Drops a message, if there is silence on this thread. */
+    /** Drops a message; returns false on a thread without an instance. */
     static bool drop()
     {
         if (s_current == nullptr) {

@@ -8,7 +8,7 @@
 
 namespace zel::utility::i18n {
 
-// Qt leaves a likely territory out ("ar" for Egypt), but ICU 76 and later take "ar" for Arabic with Latin digits.
+// Qt omits a likely territory ("ar" for Egypt), but "ar" means Arabic with Latin digits to ICU 76 and later.
 icu::Locale Locale::named(const QLocale& locale)
 {
     icudata::checkDataDirectory();

@@ -6,25 +6,25 @@
 
 namespace zel::utility::i18n {
 
-/** Locales on their way from Qt to ICU, and the region locale of the user. All functions are reentrant. */
+/** Converts locales from Qt to ICU; the user's region locale. All functions are reentrant. */
 class Locale
 {
 public:
     Locale() = delete;
 
-    /** The ICU locale of the BCP 47 name, with the territory where that name leaves it out. */
+    /** The ICU locale of the BCP 47 name, with the territory where that name omits it. */
     static icu::Locale named(const QLocale& locale);
 
     /** The ICU locale with the Gregorian calendar, whatever calendar the locale prefers. */
     static icu::Locale toICU(const QLocale& locale);
 
     /**
-     * The next, more general locale: without its keywords, then the bare language, then the root, and the bogus locale
-     * after that. It must not be called with the bogus locale.
+     * The next, more general locale: without keywords, then the language alone, then the root, then the bogus locale.
+     * Do not call with the bogus locale.
      */
     static icu::Locale fallback(const icu::Locale& locale);
 
-    /** The user's region locale, as the device reports it now. */
+    /** The user's region locale as it is now. */
     static QLocale region();
 
     /** The user's region locale for ICU. */

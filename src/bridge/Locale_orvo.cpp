@@ -1,4 +1,4 @@
-// The region locale, asked of the device platform.
+// The region locale of the device platform.
 
 #include "bridge/Locale.h"
 

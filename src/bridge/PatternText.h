@@ -7,7 +7,7 @@
 namespace zel::utility::i18n {
 
 /**
- * A date/time pattern, in ICU's or Qt's syntax, and which of its characters are literal text between apostrophes.
+ * A date/time pattern, in ICU's or Qt's syntax, with its literal text between apostrophes.
  *
  * @code
  * const PatternText pattern("HH 'h' mm");
@@ -22,21 +22,21 @@ public:
 
     const QString& text() const { return m_text; }
 
-    /** Whether the character is between apostrophes; a closing apostrophe is, an opening one is not. */
+    /** Whether a character is quoted; a closing apostrophe is, an opening one is not. */
     bool isQuoted(int position) const { return !m_quoted.empty() && m_quoted[static_cast<std::size_t>(position)]; }
 
-    /** Whether the character is the letter of a field. */
+    /** Whether a character is the letter of a field. */
     bool isField(int position) const;
 
     /** The letters of all fields in order, without literal text. */
     QString fields() const;
 
-    /** The last place of a text that does not begin between apostrophes, or -1. */
+    /** The last position of a text that does not start inside quotes, or -1. */
     int lastIndexOf(const QString& text) const;
 
 private:
     QString m_text;
-    std::vector<bool> m_quoted; // empty where nothing is
+    std::vector<bool> m_quoted; // empty if nothing is quoted
 };
 
 } // namespace zel::utility::i18n

@@ -6,7 +6,7 @@ namespace zel::utility::i18n {
 
 QString String::toQt(const icu::UnicodeString& text)
 {
-    // Not QString::fromUtf16(), which takes a byte order mark away.
+    // Not QString::fromUtf16(), which removes a byte order mark.
     return QString(reinterpret_cast<const QChar*>(text.getBuffer()), text.length());
 }
 
@@ -17,7 +17,7 @@ icu::UnicodeString String::toICU(const QString& text)
 
 int String::indexOfInFormat(const QString& format, const QChar& character, int from, Qt::CaseSensitivity cs)
 {
-    // Doubled apostrophes count twice and so leave the side of a quote as it is.
+    // Doubled apostrophes count twice and so do not change whether text is quoted.
     bool quoted = false;
     int counted = 0;
     for (;;) {

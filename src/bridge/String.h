@@ -6,7 +6,7 @@
 
 namespace zel::utility::i18n {
 
-/** Text on its way between Qt and ICU, and the look into patterns. All functions are reentrant. */
+/** Converts text between Qt and ICU, and searches patterns. All functions are reentrant. */
 class String
 {
 public:
@@ -19,7 +19,7 @@ public:
     static icu::UnicodeString toICU(const QString& text);
 
     /**
-     * The first place of a character at or after `from` that lies outside quoted text of a date/time pattern, or -1.
+     * The first position of a character at or after `from`, outside the quoted text of a date/time pattern, or -1.
      *
      * @code
      * String::indexOfInFormat("h 'h' h", 'h', 1, Qt::CaseSensitive); // 6

@@ -21,7 +21,7 @@ namespace {
 constexpr const char* formatSignature =
     "QString zel::utility::i18n::CustomDateFormatter::format(const QDateTime&) const";
 
-/** One message and one null string for each text that was asked for. */
+// One message and one null string for each requested text.
 template <typename Count>
 QStringList reportInvalid(Count count)
 {
@@ -104,7 +104,7 @@ void CustomDateFormatterPrivate::installClockFormatIfNeeded(bool install) const
                           "void zel::utility::i18n::CustomDateFormatterPrivate::installClockFormatIfNeeded(bool) const",
                           "failed to connect to zel::utility::i18n::ClockSetting::changed() signal");
     }
-    // A message handler may have set another skeleton in the meantime.
+    // A message handler may have set another skeleton meanwhile.
     if (!clockSetting && hasHours()) {
         clockSetting = std::move(created);
     }
@@ -124,7 +124,7 @@ void CustomDateFormatterPrivate::updateFormatter() const
         call.report(status, signature, "could not instantiate  the pattern generator");
         return;
     }
-    // Before the clock is read, so that no change between the two is missed.
+    // Before the clock is read, so that no change in between is missed.
     installClockFormatIfNeeded(true);
     const icu::UnicodeString pattern = generator->getBestPattern(icuSkeleton(), status);
     if (status.isFailure()) {
@@ -142,7 +142,7 @@ void CustomDateFormatterPrivate::updateFormatter() const
         call.report(status, signature, "could not instantiate the date format");
         return;
     }
-    // An update that a message handler started during this one is the newer one.
+    // An update that a message handler started during this one is newer.
     if (update == updates) {
         formatter = std::move(created);
     }
@@ -163,7 +163,7 @@ bool CustomDateFormatterPrivate::adoptTimeZone(icu::SimpleDateFormat& target) co
         target.adoptTimeZone(icu::TimeZone::getGMT()->clone());
         return false;
     }
-    // Read first: a message handler called by this may format with the same object.
+    // Read first: a message handler that this calls may format with the same object.
     const QString timeZone = TimeZoneSetting::timeZone();
     target.adoptTimeZone(icu::TimeZone::createTimeZone(String::toICU(timeZone)));
     return true;
@@ -215,7 +215,7 @@ QStringList CustomDateFormatter::formatAll(const QList<QDateTime>& dateTimes) co
         return {};
     }
     d->updateRegionLocale();
-    // Kept until the texts are made: a message handler may set another skeleton.
+    // A copy of the pointer: a message handler may set another skeleton.
     const std::shared_ptr<icu::SimpleDateFormat> formatter = d->formatter;
     const bool zoned = d->adoptTimeZone(*formatter);
     QStringList texts;

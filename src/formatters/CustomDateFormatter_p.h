@@ -13,7 +13,7 @@ namespace zel::utility::i18n {
 class ClockSetting;
 class CustomDateFormatter;
 
-/** The state of a CustomDateFormatter, and its answers to changes of the device. */
+/** The state of a CustomDateFormatter, and its reactions to changes of the device. */
 class CustomDateFormatterPrivate : public QObject
 {
     Q_OBJECT
@@ -27,16 +27,16 @@ public:
     bool hasTimeZone() const;
     icu::UnicodeString icuSkeleton() const;
 
-    /** Listens to the clock while the skeleton has hours, or stops to. */
+    /** Follows the clock if the skeleton has hours. */
     void installClockFormatIfNeeded(bool install) const;
 
-    /** Builds the formatter anew; on failure the one before stays in use. */
+    /** Rebuilds the formatter; on failure the previous one stays in use. */
     void updateFormatter() const;
 
-    /** Takes the region as it is now and builds the formatter anew if that is another one. */
+    /** Reads the region, and rebuilds the formatter if it changed. */
     void updateRegionLocale() const;
 
-    /** Gives a formatter the zone of the device, and returns true; or GMT for a skeleton without a zone. */
+    /** Sets the zone of the device and returns true; for a skeleton without a zone, sets GMT and returns false. */
     bool adoptTimeZone(icu::SimpleDateFormat& target) const;
 
     CustomDateFormatter* q;

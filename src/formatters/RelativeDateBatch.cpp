@@ -17,7 +17,7 @@ namespace zel::utility::i18n {
 
 namespace {
 
-/** Whether ICU makes the calendars and formats that format() needs for every text, and the batch for some. */
+// Whether ICU can create the calendars and formats that format() needs for every text, the batch only for some.
 bool isUsable(const RelativeDateFormatterPrivate& formatter)
 {
     const DiagnosticSilence silence;

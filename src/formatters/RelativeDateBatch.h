@@ -19,8 +19,8 @@ class RelativeDatePattern;
 class ResourceFormatter;
 
 /**
- * Formats many moments with ICU objects that are made once, when the first moment needs them, and go with the batch.
- * It writes no messages: where anything fails, it has no text, and RelativeDateFormatter::format() has the last word.
+ * Formats many moments with ICU objects that are created once, on first use, and destroyed with the batch. It writes no
+ * messages: where anything fails it returns no text, and the caller uses RelativeDateFormatter::format().
  */
 class RelativeDateBatch
 {
@@ -29,7 +29,7 @@ public:
     ~RelativeDateBatch();
     Q_DISABLE_COPY_MOVE(RelativeDateBatch)
 
-    /** The text of a moment; none if it is to be formatted on its own. */
+    /** The text of a moment; none if the moment must be formatted alone. */
     std::optional<QString> format(const QDateTime& dateTime);
 
 private:
@@ -38,7 +38,7 @@ private:
     /** A date format with the calendar that it reads, so that it does not copy one for each text. */
     struct Format
     {
-        std::unique_ptr<icu::SimpleDateFormat> format; // null where there is none
+        std::unique_ptr<icu::SimpleDateFormat> format; // null if there is none
         std::unique_ptr<icu::Calendar> calendar;
     };
 

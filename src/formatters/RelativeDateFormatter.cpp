@@ -22,7 +22,7 @@ namespace zel::utility::i18n {
 
 namespace {
 
-/** Counts the calls that are under way in an object, so that it outlives them. */
+// Counts the running calls of an object, so that it outlives them.
 class Use
 {
 public:
@@ -154,7 +154,7 @@ QString RelativeDateFormatterPrivate::format(const QDateTime& dateTime) const
             return *text;
         }
     }
-    // Day offsets compare days of the year: last November would pass for a later day than this May.
+    // Day offsets compare days of the year: last November would count as later than this May.
     const bool later = DateTime::wallClock(dateTime) > DateTime::wallClock(anchorTime);
     for (std::size_t slot = 0; slot < ranges.size(); ++slot) {
         if (table.at(static_cast<int>(slot)).side == RelativeDateTable::Side::After && !later) {

@@ -21,7 +21,7 @@ class DateOffsetRange;
 class RelativeDateFormatter;
 class RelativeDatePattern;
 
-/** The ladder of a RelativeDateFormatter: ranges in the order in which they are tried, each with its pattern. */
+/** The table of a RelativeDateFormatter: ranges in the order in which they are tried, each with its pattern. */
 class RelativeDateFormatterPrivate : public QObject
 {
     Q_OBJECT
@@ -31,19 +31,19 @@ public:
     RelativeDateFormatterPrivate(RelativeDateFormatter* owner, RelativeDateFormat::Type requested);
     ~RelativeDateFormatterPrivate() override;
 
-    /** The setters answer whether the value changed. */
+    /** The setters return whether the value changed. */
     bool setAnchorTime(const QDateTime& anchorTime);
     bool setLocale(const QLocale& locale);
     bool setClockFormat(zel::utility::i18n::ClockFormat::Type clockFormat);
     bool setWording(RelativeDateWording::Type wording);
 
-    /** The text for a moment; a null string, with a message, on failure. */
+    /** The text of a moment; a null string, with a message, on failure. */
     QString format(const QDateTime& dateTime) const;
 
     /** The same for many moments. */
     QStringList formatAll(const QList<QDateTime>& dateTimes) const;
 
-    /** Deletes what this object replaces, or keeps it while a message handler has interrupted a call of it. */
+    /** Deletes the replaced object, or keeps it while one of its calls is interrupted by a message handler. */
     void keepWhileInUse(std::unique_ptr<RelativeDateFormatterPrivate> previous);
 
     RelativeDateFormatter* q;
@@ -61,7 +61,7 @@ public:
     std::vector<std::unique_ptr<RelativeDateFormatterPrivate>> predecessors;
 
 private:
-    /** What the natural wording says where it differs from the exact one. */
+    /** The text of the natural wording where it differs from the exact one. */
     std::optional<QString> naturalText(const QDateTime& dateTime) const;
 };
 

@@ -11,7 +11,7 @@ namespace {
 
 constexpr QLatin1String amPm("AP");
 
-/** The last place of a text outside literal text, or -1. */
+// The last position of a text outside quotes, or -1.
 int findInFormat(const QString& format, const QString& text)
 {
     return PatternText(format).lastIndexOf(text);
@@ -22,7 +22,7 @@ QChar charAt(const QString& text, int position)
     return position >= 0 && position < text.size() ? text.at(position) : QChar();
 }
 
-/** The place behind a quoted unit that follows a field directly or after a space, and behind the unit's full stop. */
+// The position after a quoted unit that follows a field directly or after a space, and after the unit's full stop.
 int behindUnit(const QString& format, int fieldEnd)
 {
     const int start = charAt(format, fieldEnd).isSpace() ? fieldEnd + 1 : fieldEnd;
@@ -36,7 +36,7 @@ int behindUnit(const QString& format, int fieldEnd)
     return charAt(format, end) == QLatin1Char('.') ? end + 1 : end;
 }
 
-/** The place behind the last field of the time, with its unit, or -1. */
+// The position after the last time field and its unit, or -1.
 int behindTime(const QString& format)
 {
     for (const QChar field : {QLatin1Char('s'), QLatin1Char('m'), QLatin1Char('h')}) {
@@ -48,7 +48,7 @@ int behindTime(const QString& format)
     return -1;
 }
 
-/** An opening bracket or a comma before the zone belongs to the zone. */
+// An opening bracket or a comma before the zone belongs to the zone.
 void addBeforeZone(QString& format, int zone)
 {
     const int last = charAt(format, zone - 1).isSpace() ? zone - 2 : zone - 1;
@@ -83,7 +83,7 @@ bool addBeforeHour(QString& format, const QString& field)
     return hour != -1;
 }
 
-/** What languages that say it first write in front of the hour; empty for all others. */
+// The field and separator of languages that write it before the hour; empty for all others.
 QString fieldBeforeHour(QLocale::Language language)
 {
     switch (language) {
@@ -103,7 +103,7 @@ QString fieldBeforeHour(QLocale::Language language)
     }
 }
 
-/** The AM/PM field with the separator that the language writes beside it. */
+// The AM/PM field with the separator of the language.
 QString separatedAMPM(QLocale::Language language)
 {
     switch (language) {
@@ -128,7 +128,7 @@ bool AmPmField::isIn(const QString& pattern)
 void AmPmField::add(QLocale::Language language, QString& pattern)
 {
     const QString first = fieldBeforeHour(language);
-    // Without an hour a Japanese pattern stays as it is; in all others the field goes behind what there is.
+    // Without an hour, a Japanese pattern stays as it is; in all others the field goes to the end.
     if ((first.isEmpty() || !addBeforeHour(pattern, first)) && language != QLocale::Japanese) {
         addBehindTime(pattern);
     }

@@ -7,8 +7,7 @@
 namespace zel::utility::i18n {
 
 /**
- * The AM/PM field of a time pattern in Qt syntax: it comes and goes with the clock of the device. Literal text between
- * apostrophes is passed over.
+ * Adds and removes the AM/PM field of a time pattern in Qt syntax, for the clock of the device. Skips quoted text.
  *
  * @code
  * QString pattern = QStringLiteral("hh:mm");
@@ -22,13 +21,13 @@ public:
 
     static bool isIn(const QString& pattern);
 
-    /** Makes a 12-hour pattern of a 24-hour one, with the field where the language writes it. */
+    /** Changes a 24-hour pattern to 12 hours, with the field where the language writes it. */
     static void add(QLocale::Language language, QString& pattern);
 
-    /** Makes a 24-hour pattern of a 12-hour one; a field of which the place is unknown goes with a message. */
+    /** Changes a 12-hour pattern to 24 hours; a field at an unknown position is removed with a message. */
     static void remove(QLocale::Language language, QString& pattern);
 
-    /** Asks Qt for lower-case text ("ap") where the locale does not write its own in capitals. */
+    /** Uses the lower-case field ("ap") where the locale does not write AM and PM in capitals. */
     static void fixCase(const QLocale& locale, QString& pattern);
 };
 

@@ -6,18 +6,18 @@
 
 namespace zel::utility::i18n {
 
-/** Skeletons under a choice of clock. The letter "j" stands for the hour of the clock that the locale prefers. */
+/** Applies a clock to skeletons. The letter "j" is the hour of the clock customary in the locale. */
 class ClockPattern
 {
 public:
     ClockPattern() = delete;
 
-    /** True for a skeleton without "j" or "J": no clock changes anything about it. */
+    /** Returns whether no clock changes a skeleton, as it has no "j" or "J". */
     static bool isNotApplicable(const QString& skeleton);
 
     /**
-     * The skeleton for a clock: each "j" becomes "h" or "H", or stays for the locale to decide. An invalid format gives
-     * a null string, with a message, where there is something to decide.
+     * The skeleton for a clock: each "j" becomes "h" or "H", or stays for ApplyLocaleFormat. For a skeleton with "j",
+     * an invalid format gives a null string, with a message.
      *
      * @code
      * ClockPattern::apply("jmm", ClockFormat::Use24hourClock); // "Hmm"

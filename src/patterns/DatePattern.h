@@ -7,7 +7,7 @@
 
 namespace zel::utility::i18n {
 
-/** ICU skeletons and patterns for Qt values. Nothing is kept between calls; all functions are reentrant. */
+/** ICU skeletons and patterns with Qt types. Nothing is kept between calls; all functions are reentrant. */
 class DatePattern
 {
 public:
@@ -17,8 +17,8 @@ public:
     static QString patternFromSkeleton(const QString& skeleton, const QLocale& locale);
 
     /**
-     * A moment written with an ICU pattern; a null string, with messages, on failure. The date and time are shown as
-     * the moment holds them, whatever its time zone; a zone field shows GMT.
+     * Formats a moment with an ICU pattern; a null string, with messages, on failure. The text has the date and time
+     * that the moment shows, whatever its time zone; a zone field shows GMT.
      */
     static QString formatFromPattern(const QString& pattern, const QDateTime& dateTime, const QLocale& locale);
 };

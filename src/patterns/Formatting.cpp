@@ -53,7 +53,7 @@ QLocale::FormatType qtFormatType(DateFormat::Type type)
     return type == DateFormat::Short || type == DateFormat::Medium ? QLocale::ShortFormat : QLocale::LongFormat;
 }
 
-/** Qt knows AM and PM only: day periods ("at night") are shown as these. */
+// Qt has AM and PM only; they replace day periods ("at night").
 QString withAMPMForDayPeriods(const QString& pattern)
 {
     const PatternText fields(pattern);
@@ -67,7 +67,7 @@ QString withAMPMForDayPeriods(const QString& pattern)
     return result;
 }
 
-/** The clock rewriting and Qt's parsing know only the plain space beside an AM/PM field. */
+// The clock rewriting and Qt's parser accept only a plain space beside an AM/PM field.
 QString withPlainSpacesAroundAMPM(const QString& pattern)
 {
     const PatternText fields(pattern);
@@ -115,7 +115,7 @@ bool replaceWithSystemClockFormat(const QLocale& locale, QString& format)
     }
 }
 
-/** A translated pattern with times under the clock of the device. */
+// A translated pattern under the clock of the device.
 QString followClock(const QLocale& locale, QString pattern, const char* failure)
 {
     if (!replaceWithSystemClockFormat(locale, pattern)) {
@@ -180,7 +180,7 @@ QString toPercentageString(const QLocale& locale, double value, int maximumFract
     if (U_FAILURE(status) || !format) {
         return {};
     }
-    // In this order the maximum wins where the two contradict each other.
+    // In this order the maximum wins where it is smaller.
     format->setMinimumFractionDigits(minimumFractionDigits);
     format->setMaximumFractionDigits(maximumFractionDigits);
     icu::UnicodeString text;

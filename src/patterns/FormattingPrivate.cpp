@@ -8,7 +8,7 @@ namespace zel::utility::i18n {
 
 namespace {
 
-/** The Qt text for a run of one, two, three, and four or more of a letter; null where Qt has no such field. */
+// The Qt field for a run of one, two, three, and four or more of a letter; null if Qt has none.
 struct Field
 {
     char letter;

@@ -6,9 +6,9 @@
 namespace zel::utility::i18n {
 
 /**
- * The Qt format that shows what an ICU pattern shows.
+ * Translates an ICU pattern to Qt syntax.
  *
- * @return a null string for an empty pattern and for one with a field that Qt formats do not have
+ * @return a null string for an empty pattern and for one with a field that Qt lacks
  *
  * @code
  * getQtDateTimePatternFromICU("EEEE, d MMMM y"); // "dddd, d MMMM yyyy"

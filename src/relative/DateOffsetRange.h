@@ -8,7 +8,7 @@
 namespace zel::utility::i18n {
 
 /**
- * The moments that lie at least so many units before or after an anchor time.
+ * The moments at least a number of units before or after an anchor.
  *
  * @code
  * const DateOffsetRange range(anchor, RelativeDateElement::NamedDays, 1, true, true, nullptr);
@@ -22,9 +22,9 @@ class DateOffsetRange : public QObject
 
 public:
     /**
-     * @param minimum the smallest count that belongs to the range, whichever its sign
-     * @param absolute whether to count calendar positions or time gone by
-     * @param past whether the range holds counts of 0 and below, or those above 0
+     * @param minimum the smallest distance in the range, whichever its sign
+     * @param absolute true to count calendar positions, false to count elapsed time
+     * @param past true for counts of 0 and below, false for those above 0
      */
     DateOffsetRange(const QDateTime& anchorTime, RelativeDateElement::Type element, unsigned int minimum, bool absolute,
                     bool past, QObject* parent);

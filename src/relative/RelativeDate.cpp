@@ -15,7 +15,7 @@ namespace zel::utility::i18n {
 
 namespace {
 
-/** Everything that is fixed about an element. */
+// The properties of an element.
 struct Element
 {
     RelativeDateElement::Type type;
@@ -41,7 +41,7 @@ constexpr Element elements[] = {
 
 constexpr const char* invalidType = "called with invalid element type:";
 
-/** The element of a type; null, with a message, where there is none. */
+// The element of a type; null, with a message, if there is none.
 const Element* findElement(RelativeDateElement::Type type, const char* signature, const char* complaint = invalidType)
 {
     for (const Element& element : elements) {
@@ -65,7 +65,7 @@ std::unique_ptr<icu::TimeZone> cloneGMT(const char* signature)
     return zone;
 }
 
-/** Counts are Gregorian like every text of the library; other calendars turn the year on other days. */
+// Counts are Gregorian like every text of the library; in other calendars the year turns on other days.
 icu::Locale gregorianDefaultLocale()
 {
     icu::Locale locale = icu::Locale::getDefault();
@@ -74,7 +74,7 @@ icu::Locale gregorianDefaultLocale()
     return locale;
 }
 
-/** Takes what a calendar factory returned; null, with messages, where that is no usable calendar. */
+// Adopts the result of a calendar factory; null, with messages, if it is not a usable calendar.
 std::unique_ptr<icu::Calendar> adoptCalendar(icu::Calendar* created, const icu::ErrorCode& status,
                                              const char* signature)
 {
@@ -99,7 +99,7 @@ bool setTime(icu::Calendar& calendar, const QDateTime& dateTime, icu::ErrorCode&
     return true;
 }
 
-/** Takes all unquoted places of the letters out of a pattern and says where the first of them stood. */
+// Removes the unquoted letters from a pattern and returns the position of the first.
 int removeLetters(QString& pattern, const QString& letters)
 {
     int position = -1;
@@ -213,7 +213,7 @@ int RelativeDate::difference(const QDateTime& anchorTime, const QDateTime& dateT
     }
     const UDate target = DateTime::wallClock(dateTime);
     if (remainderOnly) {
-        // Moves the calendar towards the target by the whole larger units.
+        // Advances the calendar by the whole larger units.
         calendar->fieldDifference(target, element->largerField, status);
     }
     return calendar->fieldDifference(target, element->countedField, status);

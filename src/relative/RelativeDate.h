@@ -9,9 +9,9 @@
 namespace zel::utility::i18n {
 
 /**
- * What is to know about relative-date elements, and how far two moments lie apart in them.
+ * Properties of relative-date elements, and distances between moments in them.
  *
- * Every function reports an invalid element and answers an empty value. All are reentrant.
+ * Every function reports an invalid element and returns an empty value. All are reentrant.
  */
 class RelativeDate
 {
@@ -21,19 +21,18 @@ public:
     /** The English name of an element, for messages. */
     static QString elementName(RelativeDateElement::Type type);
 
-    /** True where an element counts calendar positions (offset()), false where it counts time gone by (difference()).
-     */
+    /** True if an element counts calendar positions, by offset(); false for elapsed time, by difference(). */
     static bool offsetIsAbsolute(RelativeDateElement::Type type);
 
     /** The pattern letters that show an element, in the order in which apply() looks for them. */
     static QString characters(RelativeDateElement::Type type);
 
     /**
-     * A pattern with a phrase, quoted, in the place of an element's letters.
+     * Replaces an element's letters in a pattern by a quoted phrase.
      *
      * @param format an ICU date/time pattern
      * @param elementString the phrase, with its apostrophes doubled
-     * @return the format as it was where it has no such letter; without the letters where the phrase is empty
+     * @return the new pattern; unchanged if it has no such letter; without the letters if the phrase is empty
      *
      * @code
      * RelativeDate::apply("EEEE, d MMMM", RelativeDateElement::NamedDays, "Yesterday"); // "'Yesterday', d MMMM"
@@ -44,23 +43,23 @@ public:
     /**
      * The difference of one calendar field: yesterday is a day offset of -1 even an hour ago.
      *
-     * Both moments count by the date and time that they show. The result is positive when `dateTime` lies after
+     * Both moments count by the date and time that they show. The result is positive if `dateTime` is after
      * `anchorTime`; 0, with messages, on failure. Minutes are within the hour, hours within the day, days within the
      * year.
      */
     static int offset(const QDateTime& anchorTime, const QDateTime& dateTime, RelativeDateElement::Type type);
 
     /**
-     * The whole units that lie between two moments, or, with `remainderOnly`, those beyond the whole units of the next
-     * larger field: 2 hours 25 minutes later is 145 minutes, or 25. Signs and failures are those of offset().
+     * The whole units between two moments; with `remainderOnly`, without the whole units of the next larger field:
+     * 2 hours 25 minutes later is 145 minutes, or 25. Sign and failure as for offset().
      */
     static int difference(const QDateTime& anchorTime, const QDateTime& dateTime, RelativeDateElement::Type type,
                           bool remainderOnly);
 
-    /** True where the phrases of an element are chosen by plural category, false where they are fixed ones. */
+    /** True if the phrases of an element depend on the plural category, false if they are fixed. */
     static bool resourceIsPlural(RelativeDateElement::Type type);
 
-    /** Where the phrases of an element lie in the locale data, outermost key first. */
+    /** The keys of an element's phrases in the locale data, outermost first. */
     static QStringList resourcePath(RelativeDateElement::Type type, bool past);
 };
 

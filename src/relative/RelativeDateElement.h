@@ -6,7 +6,7 @@ namespace zel::utility::i18n {
 /** The units in which relative dates count. */
 namespace RelativeDateElement {
 
-/** One bit a unit; any other value is invalid. */
+/** One bit per unit; any other value is invalid. */
 enum Type : int { Minutes = 0x10, Hours = 0x20, NamedDays = 0x80, Years = 0x800 };
 
 } // namespace RelativeDateElement

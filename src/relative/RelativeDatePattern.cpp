@@ -18,10 +18,8 @@ bool consistsOf(const QString& text, const QString& letters)
     return std::all_of(text.cbegin(), text.cend(), [&letters](QChar c) { return letters.contains(c); });
 }
 
-/**
- * A pattern without the punctuation that a weekday has and the name of a day ("yesterday") has not: a full stop, or
- * brackets, behind which a weekday may come last. The name of a day comes first.
- */
+// Removes the punctuation of a weekday, which the name of a day ("yesterday") does not have: a full stop or brackets.
+// Where there were brackets, the name comes first, even if the weekday came last.
 QString withoutWeekdayPunctuation(const QString& pattern, const QString& letters)
 {
     const PatternText fields(pattern);
@@ -111,7 +109,7 @@ void RelativeDatePattern::initPattern()
 {
     const unsigned int update = ++m_updates;
     const QString pattern = DatePattern::patternFromSkeleton(ClockPattern::apply(m_skeleton, m_clockFormat), m_locale);
-    // An update that a message handler started during this one is the newer one.
+    // An update that a message handler started during this one is newer.
     if (update == m_updates) {
         m_pattern = pattern;
     }

@@ -12,7 +12,7 @@
 namespace zel::utility::i18n {
 
 /**
- * A skeleton some of whose fields are told as phrases, counted from an anchor time.
+ * A skeleton in which phrases, counted from an anchor time, replace some fields.
  *
  * @code
  * const RelativeDatePattern pattern(QLocale("en_US"), ClockFormat::Use24hourClock, anchor, "Ejm",
@@ -34,16 +34,16 @@ public:
     void setLocale(const QLocale& locale);
     void setAnchorTime(const QDateTime& anchorTime) { m_anchorTime = anchorTime; }
 
-    /** The text for a moment; a null string, with messages, on failure. */
+    /** The text of a moment; a null string, with messages, on failure. */
     QString format(const QDateTime& dateTime) const;
 
-    /** The same with the count of every element given. */
+    /** The same with a given count for every element. */
     QString format(const QDateTime& dateTime, int elementCount) const;
 
-    /** The ICU pattern of texts with that count; an element without a phrase is gone from it, with messages. */
+    /** The ICU pattern of texts with that count; an element without a phrase is removed, with messages. */
     QString patternFor(int elementCount) const;
 
-    /** Whether the phrase of a single element takes the place of the whole text. */
+    /** Whether the phrase of a single element is the whole text. */
     bool isPhraseAlone() const;
 
 private:

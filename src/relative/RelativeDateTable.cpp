@@ -40,7 +40,7 @@ constexpr Slot nonTimeCritical[] = {
     {RelativeDateElement::NamedDays, 0, Counting::Elapsed, Side::AtOrBefore, "E", Shown::Relative},
 };
 
-/** The counts of a slot's date range, which looks at calendar years and days, or at what has elapsed. */
+// The count that a slot's range tests: calendar years or days, or elapsed units.
 qint64 countOf(const Slot& slot, const RelativeDistance& distance)
 {
     if (slot.counting == Counting::Elapsed) {
@@ -86,7 +86,7 @@ RelativeDateTable::Step RelativeDateTable::stepOf(const RelativeDistance& distan
 int RelativeDateTable::slotOf(const RelativeDistance& distance) const
 {
     const auto* const slot = std::find_if(begin(), end(), [&](const Slot& each) { return takes(each, distance); });
-    return static_cast<int>(slot - begin()); // the last slot takes what is left
+    return static_cast<int>(slot - begin()); // the last slot accepts the rest
 }
 
 int RelativeDateTable::slotOfNearDay(qint64 days) const

@@ -10,7 +10,7 @@ namespace zel::utility::i18n {
 class RelativeDistance;
 
 /**
- * The slots of a relative date formatter. The first slot that takes a moment formats it: the after side comes first,
+ * The slots of a relative date formatter. The first slot that accepts a moment formats it: the after side comes first,
  * and on each side the coarsest test.
  *
  * @code
@@ -26,7 +26,7 @@ public:
     enum class Side { After, AtOrBefore };
     enum class Shown { Plain, Relative };
 
-    /** Which moments a slot takes, and how it formats them. */
+    /** The moments that a slot accepts, and how it formats them. */
     struct Slot
     {
         RelativeDateElement::Type element;
@@ -37,14 +37,14 @@ public:
         Shown shown;
     };
 
-    /** The slot that formats a moment, and the count in its text; 0 where the text shows none. */
+    /** The slot that formats a moment, and the count in its text; 0 if the text shows none. */
     struct Step
     {
         int slot;
         int count;
     };
 
-    /** The table of a type; an empty one for an invalid type. */
+    /** The table of a type; empty for an invalid type. */
     explicit RelativeDateTable(RelativeDateFormat::Type type);
 
     const Slot* begin() const { return m_slots; }
@@ -52,11 +52,11 @@ public:
     int size() const { return m_size; }
     const Slot& at(int slot) const { return m_slots[slot]; }
 
-    /** How a moment is formatted. Not to be called on an empty table. */
+    /** The step for a distance. Do not call on an empty table. */
     Step stepOf(const RelativeDistance& distance, RelativeDateWording::Type wording) const;
 
     /**
-     * The slot for a day by name or weekday, one to three days away, whatever the year; -1 for any other distance.
+     * The slot for a day by name or weekday, one to three days away, in whichever year; -1 for any other distance.
      *
      * @param days calendar days from the anchor, negative before it
      */

@@ -9,15 +9,15 @@ namespace zel::utility::i18n {
 
 namespace {
 
-constexpr qint64 nearDays = 3; // told by name or weekday
+constexpr qint64 nearDays = 3; // formatted by name or weekday
 
-/** The next time at which the zone of a moment changes its offset after an instant, both in ms since the epoch. */
+// The next change of the zone's offset after an instant, both in ms since the epoch.
 std::optional<qint64> nextTransition(const QDateTime& dateTime, qint64 instant)
 {
     if (dateTime.timeSpec() != Qt::LocalTime && dateTime.timeSpec() != Qt::TimeZone) {
         return std::nullopt;
     }
-    // In UTC: a local time may stand for two instants.
+    // In UTC: a local time may denote two instants.
     const QDateTime utc = QDateTime::fromMSecsSinceEpoch(instant).toUTC();
     const QDateTime next = dateTime.timeZone().nextTransition(utc).atUtc;
     const bool isLater = next.isValid() && next.toMSecsSinceEpoch() > instant;
@@ -30,7 +30,7 @@ QDateTime inZoneOf(QDateTime dateTime, qint64 msSinceEpoch)
     return dateTime;
 }
 
-/** The first reading of the anchor at which a count of whole units is another one. */
+// The first reading of the anchor with another count of whole units.
 qint64 nextCount(qint64 anchor, qint64 moment, qint64 unit)
 {
     const qint64 ahead = (moment - anchor) / unit;
@@ -70,7 +70,7 @@ RelativeDateTable::Step RelativeDateValidity::stepAt(qint64 anchor, qint64 momen
     return m_table.stepOf(RelativeDistance(anchor, moment), m_wording);
 }
 
-/** The two sides of a table have steps with the same text. */
+// The two sides of a table have steps with the same text.
 bool RelativeDateValidity::isSame(const Step& one, const Step& other) const
 {
     return one.count == other.count &&
@@ -92,7 +92,7 @@ std::optional<qint64> RelativeDateValidity::nextChange(qint64 anchor, qint64 mom
     return anchor;
 }
 
-/** No other step begins before it. */
+// No other step begins before the candidate.
 std::optional<qint64> RelativeDateValidity::nextCandidate(const Step& step, qint64 anchor, qint64 moment) const
 {
     const qint64 today = RelativeDistance::day(anchor);

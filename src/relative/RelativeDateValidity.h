@@ -8,7 +8,7 @@
 namespace zel::utility::i18n {
 
 /**
- * How long the text of a moment holds while the anchor advances.
+ * The time until which the text of a moment holds while the anchor advances.
  *
  * @code
  * const RelativeDateValidity validity(RelativeDateTable(RelativeDateFormat::TimeCritical), RelativeDateWording::Exact);
@@ -24,7 +24,7 @@ public:
     {
     }
 
-    /** The first anchor with another text, in the time zone of the present one; invalid where there is none. */
+    /** The first anchor with another text, in the time zone of the present one; invalid if there is none. */
     QDateTime until(const QDateTime& anchor, const QDateTime& moment) const;
 
 private:

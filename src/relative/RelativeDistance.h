@@ -7,9 +7,8 @@
 namespace zel::utility::i18n {
 
 /**
- * How far a moment is from an anchor, both by their wall-clock readings in the years 1 to 9999: the counts of
- * RelativeDate in plain arithmetic, without a calendar object. Days before 15 October 1582 are those of the Julian
- * calendar, as in ICU.
+ * The distance of a moment from an anchor, both by their wall-clock readings in the years 1 to 9999: the counts of
+ * RelativeDate by arithmetic, without a calendar object. Days before 15 October 1582 are Julian, as in ICU.
  *
  * @code
  * const RelativeDistance distance(RelativeDistance::reading(anchor), RelativeDistance::reading(moment));
@@ -41,10 +40,10 @@ public:
     /** The first day of a year. */
     static qint64 firstDay(int year);
 
-    /** The years between the calendar years. */
+    /** The difference of the calendar years. */
     int years() const { return m_years; }
 
-    /** The days between the calendar days. */
+    /** The difference of the calendar days. */
     qint64 days() const { return m_days; }
 
     /** Whole minutes, hours or days from the anchor to the moment, truncated towards zero. */

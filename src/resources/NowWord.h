@@ -6,13 +6,13 @@
 
 namespace zel::utility::i18n {
 
-/** The word of a locale for the present moment. */
+/** A locale's word for now. */
 class NowWord
 {
 public:
     NowWord() = delete;
 
-    /** "now" in English, "jetzt" in German; empty where the locale's data has no word of its own. */
+    /** "now" in English, "jetzt" in German; empty if the locale's data has no word. */
     static QString of(const QLocale& locale);
 };
 

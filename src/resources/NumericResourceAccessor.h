@@ -10,7 +10,7 @@ namespace zel::utility::i18n {
 /**
  * Fixed phrases for the counts -1, 0 and 1, such as the days around today.
  *
- * They come from the first locale on the way up from the requested one that has a table with all three.
+ * They come from the first locale with a table of all three, from the requested locale upwards.
  */
 class NumericResourceAccessor : public ResourceAccessor
 {

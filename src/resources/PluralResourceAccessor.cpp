@@ -20,7 +20,7 @@ constexpr const char* formatSignature = "virtual QString zel::utility::i18n::Plu
 constexpr const char* forLocale = "icu::PluralRules::forLocale( const icu::Locale &, UErrorCode & )";
 constexpr const char* createInstance = "icu::NumberFormat::createInstance( const icu::Locale &, UErrorCode & )";
 
-/** Takes what an ICU factory returned, reports a failure, and leaves the status ready for the next factory. */
+// Adopts the result of an ICU factory, reports a failure, and resets the status for the next factory.
 template <typename T>
 std::unique_ptr<T> adopt(T* created, icu::ErrorCode& status, const char* factory, const char* consequence)
 {
@@ -40,7 +40,7 @@ std::string toUtf8(const icu::UnicodeString& text)
     return text.toUTF8String(utf8);
 }
 
-/** Whether a look-up worked; reports the error and the items that follow where it did not. */
+// Whether a look-up succeeded; otherwise reports the error and the items that follow.
 template <typename... Items>
 bool succeeded(UErrorCode status, const Items&... items)
 {

@@ -14,8 +14,8 @@ namespace zel::utility::i18n {
 /**
  * Counted phrases such as "{0} minutes ago", chosen by the plural category of the count.
  *
- * The table comes from the first locale on the way up from the requested one that has it; plural rules and digits are
- * always those of the requested locale. Counts are 0 or more.
+ * The table comes from the first locale that has it, from the requested locale upwards; plural rules and digits are
+ * those of the requested locale. Counts are 0 or more.
  */
 class PluralResourceAccessor : public ResourceAccessor
 {

@@ -19,17 +19,17 @@ public:
     explicit ResourceAccessor(QObject* parent);
     ~ResourceAccessor() override = default;
 
-    /** Whether there are phrases to give. */
+    /** Whether there are phrases. */
     virtual bool isValid() const;
 
-    /** The phrase for a count; a null string, with messages, where there is none. */
+    /** The phrase for a count; a null string, with messages, if there is none. */
     virtual QString format(int count) const = 0;
 
     /**
-     * Opens the locale's bundle and walks down a path of keys, outermost first.
+     * Opens the locale's bundle and follows a path of keys, outermost first.
      *
-     * @return the resource at the end of the path, owned by the caller; null where a key is missing, and, with
-     * messages, where ICU fails
+     * @return the resource at the end of the path, owned by the caller; null if a key is missing, and, with messages,
+     * if ICU fails
      */
     static icu::ResourceBundle* initResource(const icu::Locale& locale, const QStringList& keys);
 };

@@ -30,7 +30,7 @@ public:
     /** Whether the locale has phrases for both the past and the future of the element. */
     bool isValid() const;
 
-    /** The phrase for a signed count, negative in the past; a null string, with messages, where there is none. */
+    /** The phrase for a signed count, negative in the past; a null string, with messages, if there is none. */
     QString format(int count) const;
 
 private:
