@@ -17,7 +17,7 @@ public:
     explicit FileStamp(const char* file) : m_error(::stat(file, &m_status) == 0 ? 0 : errno) {}
     explicit FileStamp(int descriptor) : m_error(::fstat(descriptor, &m_status) == 0 ? 0 : errno) {}
 
-    /** Why there is no status, as an errno; 0 if there is one. */
+    /** The errno if there is no status; otherwise 0. */
     int error() const { return m_error; }
     mode_t mode() const { return m_status.st_mode; }
 
@@ -29,8 +29,8 @@ public:
     }
 
     /**
-     * Whether the file changed just now. It can then change again within the same tick of its time stamps, and its
-     * stamp stays the same. A tick is some milliseconds; where the time has no fraction, up to two seconds.
+     * Whether the file changed just now, so that another change within the same tick of its time stamps would leave the
+     * stamp as it is. A tick is some milliseconds, or up to two seconds where the time has no fraction.
      */
     bool isFresh() const
     {

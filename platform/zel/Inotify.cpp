@@ -14,7 +14,7 @@ namespace zel {
 
 namespace {
 
-// The watches of one inode are one watch, so that all masks are added up.
+// All watches of an inode are one watch, so its masks are combined.
 constexpr uint32_t selfMask = IN_MASK_ADD | IN_ATTRIB | IN_DELETE_SELF | IN_MOVE_SELF;
 constexpr uint32_t fileMask = selfMask | IN_MODIFY;
 constexpr uint32_t directoryMask = selfMask | IN_CREATE | IN_DELETE | IN_MOVE;
@@ -28,7 +28,7 @@ Inotify::Inotify()
 
 Inotify& Inotify::instance()
 {
-    // Never destroyed: threads may still use it while the process destroys its static objects.
+    // Never destroyed: threads may use it while the process destroys its static objects.
     static Inotify* const inotify = std::make_unique<Inotify>().release();
     return *inotify;
 }
@@ -75,7 +75,7 @@ void Inotify::attach()
 {
     static thread_local std::unique_ptr<QSocketNotifier> events;
     static thread_local std::unique_ptr<QSocketNotifier> mounts;
-    // The notifiers are deaf once it is gone, as when the process makes another application object.
+    // Notifiers stop when it is gone, for example when the process creates another application object.
     static thread_local QPointer<QAbstractEventDispatcher> dispatcher;
     if (!dispatcher) {
         events.reset();

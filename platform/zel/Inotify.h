@@ -15,21 +15,21 @@ namespace zel {
 class PpsWatcher;
 
 /**
- * The one inotify instance of the process, for the watchers of all threads; a user has few instances. It also notices
- * mounts, of which inotify does not tell.
+ * The inotify instance of the process, shared by the watchers of all threads, as a user has few instances. Also reports
+ * mounts, which inotify does not.
  *
- * Every thread that added a watch delivers events to the watchers of all threads through its event loop.
+ * Every thread that added a watch delivers events, through its event loop, to the watchers of all threads.
  */
 class Inotify : public QObject
 {
     Q_OBJECT
 
 public:
-    /** What a watcher listens to: an inode or, if the name is not empty, that entry of a directory. */
+    /** A watch: of an inode or, if the name is not empty, of that entry of a directory. */
     struct Watch
     {
         int id;    ///< negative if there is no watch
-        int error; ///< why not, as an errno
+        int error; ///< the errno if there is no watch
         QByteArray name;
     };
 
@@ -37,7 +37,7 @@ public:
 
     static Inotify& instance();
 
-    /** Tells of the changes of an inode, or of an entry of a directory, but of mounts only if followsMounts(). */
+    /** Reports changes of an inode or of an entry of a directory; mounts only if followsMounts(). */
     Watch add(const QByteArray& path, const QByteArray& name, PpsWatcher* watcher);
     void remove(const Watch& watch, PpsWatcher* watcher);
     bool followsMounts();
@@ -53,16 +53,16 @@ private:
         PpsWatcher* watcher;
     };
 
-    /** Has the event loop of the calling thread deliver events. */
+    /** Delivers events through the event loop of the calling thread. */
     void attach();
     std::unique_ptr<QSocketNotifier> listenTo(int descriptor, QSocketNotifier::Type type, const char* slot);
     void deliver(const inotify_event& event);
     void notifyAll();
 
-    std::mutex m_mutex; // for what is below
+    std::mutex m_mutex; // guards the members below
     int m_events = -1;
     int m_mounts = -1;
-    std::multimap<int, Listener> m_listeners; // by the watch
+    std::multimap<int, Listener> m_listeners; // by watch
 };
 
 } // namespace zel

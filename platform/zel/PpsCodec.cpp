@@ -12,7 +12,7 @@ namespace zel {
 
 namespace {
 
-// Why something cannot be decoded; null where it can.
+// The reason why decoding failed; null on success.
 using Reason = const char*;
 
 Reason decodeText(const QByteArray& line, QString& text)
@@ -21,7 +21,7 @@ Reason decodeText(const QByteArray& line, QString& text)
         return "NUL character";
     }
     text = QString::fromUtf8(line);
-    // Whatever Qt replaces or drops on the way in does not come out again.
+    // Qt replaces or drops invalid bytes, so that they do not come back.
     return text.toUtf8() == line ? nullptr : "not valid UTF-8";
 }
 
@@ -60,7 +60,7 @@ Reason unescape(const QString& escaped, QVariant& value)
     return nullptr;
 }
 
-// Reads the whole text as a number, always in the C locale.
+// Parses the whole text as a number in the C locale.
 template <typename Number>
 bool parse(const QByteArray& text, Number& number)
 {
@@ -138,7 +138,7 @@ QByteArray encodeReal(double real)
     return whole ? digits + ".0" : digits;
 }
 
-// The encoding and the value with their colons; empty for a type that an object cannot hold.
+// ":encoding:value"; empty for a type that an object cannot hold.
 QByteArray encodeValue(const QVariant& value)
 {
     switch (value.userType()) {
@@ -197,7 +197,7 @@ QByteArray PpsCodec::encode(const QVariantMap& record, QString& error)
     for (auto attribute = attributes.begin(); attribute != attributes.end(); ++attribute) {
         contents += attribute.key().toUtf8() + encodeValue(attribute.value()) + '\n';
     }
-    // Decoding knows every rule; what does not come back as it went in cannot be held.
+    // Decoding knows every rule: a record that it does not give back cannot be encoded.
     const bool same = decode(contents, error) == record;
     if (!same && error.isEmpty()) {
         error = QStringLiteral("holds what an object cannot");

@@ -7,7 +7,7 @@
 
 namespace zel {
 
-/** The text form of a settings object. The error, empty before, stays empty if it worked. */
+/** The text form of a settings object. The error must be empty before; it stays empty on success. */
 class PpsCodec
 {
 public:

@@ -22,14 +22,14 @@ bool isPermanent(int error)
     return error == ENOTDIR || error == ENAMETOOLONG || error == ENXIO;
 }
 
-// Whether only a change of the file, of its permissions or of the way there can mend it. Anything else, such as too
-// many open files, may pass without a trace.
+// Whether only a change of the file, its permissions or its path can fix the error. Other errors, such as too many open
+// files, may pass without an event.
 bool isLasting(int error)
 {
     return error == ENOENT || error == EACCES || error == ELOOP || isPermanent(error);
 }
 
-// The file itself, not its name, is asked what it is: the name may stand for another file by now.
+// Of the open file, not of its name, which may be that of another file by now.
 void readRegular(QFile& file, PpsContents& contents)
 {
     if (!S_ISREG(contents.stamp.mode())) {
@@ -53,7 +53,7 @@ void readRegular(QFile& file, PpsContents& contents)
 PpsContents PpsContents::read(const QByteArray& file)
 {
     PpsContents contents;
-    // For a file that cannot be opened. Taken first, so that it differs if the file comes or goes meanwhile.
+    // For a file that cannot be opened. Taken first, so that it differs if the file appears or disappears meanwhile.
     contents.stamp = FileStamp(file.constData());
     // A FIFO would otherwise wait for a writer.
     const int descriptor = ::open(file.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
@@ -65,7 +65,7 @@ PpsContents PpsContents::read(const QByteArray& file)
         return contents;
     }
     QFile opened;
-    // What cannot be opened cannot be read either, and says why then.
+    // If it could not be opened, reading fails with the reason.
     static_cast<void>(
         opened.open(descriptor, QIODevice::ReadOnly | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle));
     contents.stamp = FileStamp(descriptor);

@@ -7,19 +7,19 @@
 
 namespace zel {
 
-/** What one read of an object's file finds: its bytes, or why there are none. */
+/** The result of reading an object's file: its bytes, or the reason why there are none. */
 struct PpsContents
 {
     QByteArray bytes;
     QString error;          ///< empty if the file could be read
-    bool permanent = false; ///< rewriting the object, or its permissions, cannot fix the error
+    bool permanent = false; ///< rewriting the object cannot fix the error
     FileStamp stamp = {};   ///< of the file before it was read
-    bool settled = false;   ///< the next read finds the same unless the stamp is another one
+    bool settled = false;   ///< another read gives the same while the stamp is the same
 
-    /** Never waits, whatever the file is. */
+    /** Never blocks, whatever the file is. */
     static PpsContents read(const QByteArray& file);
 
-    /** The bytes are those of an object, not half of one. */
+    /** Whether the bytes are a whole object. */
     bool isWhole() const;
 
     bool operator==(const PpsContents& other) const { return bytes == other.bytes && error == other.error; }

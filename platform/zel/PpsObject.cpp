@@ -19,7 +19,7 @@ namespace zel {
 
 namespace {
 
-// As the working directory was when the root was first used. The answers are never destroyed.
+// Relative to the working directory at the first use of the root. The results are never destroyed.
 const char* absoluteRoot(const QByteArray& root)
 {
     static std::mutex mutex;

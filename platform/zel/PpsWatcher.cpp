@@ -55,7 +55,7 @@ void PpsWatcher::start()
 void PpsWatcher::poll()
 {
     const bool isWatched = watch();
-    // Read after the watches are set, so that no change falls between.
+    // Read after the watches are set, so that no change is missed.
     const PpsContents previous = std::exchange(m_contents, PpsContents::read(m_file));
     const bool isFirst = !m_settling.isValid();
     if (isFirst) {
@@ -63,7 +63,7 @@ void PpsWatcher::poll()
     }
     const bool isQuiet = !isFirst && m_contents == previous && m_contents.stamp == previous.stamp;
     if (!isQuiet && !(m_settling.hasExpired(longestSeries) && m_contents.isWhole())) {
-        // Not a member timer: one that is still active could not be destroyed on another thread, as at process exit.
+        // Not a member timer: an active one cannot be destroyed on another thread, as at process exit.
         QTimer::singleShot(pollInterval, this, SLOT(poll()));
         return;
     }
@@ -92,11 +92,11 @@ bool PpsWatcher::watch()
     return isComplete;
 }
 
-// Follows the path as the system does, and watches each directory before a name is looked up there, so that no change
-// falls between.
+// Follows the path as the system does, and watches each directory before looking up a name in it, so that no change is
+// missed.
 bool PpsWatcher::watchTrail()
 {
-    constexpr int mostLinks = 40; // as many as the system follows
+    constexpr int mostLinks = 40; // the limit of the system
     bool isComplete = true;
     int links = 0;
     QByteArray directory = "/";
@@ -122,7 +122,7 @@ bool PpsWatcher::watchTrail()
     return add(directory, {}) && isComplete && Inotify::instance().followsMounts();
 }
 
-// What is not there will be noticed in the directory above.
+// If it does not exist, the watch of the directory above reports its creation.
 bool PpsWatcher::add(const QByteArray& path, const QByteArray& name)
 {
     const Inotify::Watch watch = Inotify::instance().add(path, name, this);

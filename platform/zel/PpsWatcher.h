@@ -11,15 +11,14 @@
 namespace zel {
 
 /**
- * Follows an object's file, whatever is done to it, to the directories above it and to the links on the way there.
+ * Follows an object's file, with the directories above it and the links on its path.
  *
- * A file that is rewritten in place is empty for a moment. So the first sign of a change starts a series of polls; it
- * ends when nothing was done to the file between two polls, or with a whole object after a while if changes never
- * cease. What cannot be watched, or not be opened for a reason that may pass, is polled once a second until that is
- * possible.
+ * A file that is rewritten in place is empty for a moment. Therefore the first sign of a change starts a series of
+ * polls. It ends when the file did not change between two polls, or, if changes never cease, with a whole object after
+ * a timeout. A file that cannot be watched, or cannot be opened for a reason that may pass, is polled once a second.
  *
- * Everything starts with the first turn of the thread's event loop. Until then nothing is watched, so that neither
- * a thread without an event loop nor an application object that is created later is a reason for a warning.
+ * Watching starts with the thread's event loop, so that neither a thread without one nor an application object that is
+ * created later causes a warning.
  */
 class PpsWatcher : public QObject
 {
@@ -30,10 +29,10 @@ public:
     PpsWatcher(const QByteArray& file, QObject* parent);
     ~PpsWatcher() override;
 
-    /** What the last poll found. */
+    /** The contents found by the last poll. */
     const PpsContents& contents() const { return m_contents; }
 
-    /** There may be a change. Any thread may call. */
+    /** Reports a possible change. Call on any thread. */
     void notify();
 
 Q_SIGNALS:
@@ -46,7 +45,7 @@ private Q_SLOTS:
     void poll();
 
 private:
-    /** Returns whether every change will be noticed. */
+    /** Returns whether every change will be reported. */
     bool watch();
     bool watchTrail();
     bool add(const QByteArray& path, const QByteArray& name);

@@ -8,7 +8,7 @@ namespace zel::icudata {
 
 namespace {
 
-/** How every ICU data file starts. */
+// The start of every ICU data file.
 struct FileHeader
 {
     std::uint16_t size;
@@ -17,7 +17,7 @@ struct FileHeader
 };
 
 constexpr std::array<std::uint8_t, 2> dataMagic{0xda, 0x27};
-constexpr std::size_t paddedHeaderSize = 32; // ICU wants the data behind the header aligned to 16 bytes
+constexpr std::size_t paddedHeaderSize = 32; // ICU requires the data after the header to be aligned to 16 bytes
 
 constexpr std::size_t indexLengthWord = 1;
 constexpr std::size_t bundleTopWord = 4;

@@ -8,7 +8,7 @@
 
 namespace zel::icudata {
 
-/** The two things a resource bundle consists of: what its header says and the bytes behind it, which it does not own.
+/** A resource bundle: its header's fields, and the bytes after the header, which are not owned.
  */
 struct BundleData
 {
@@ -18,7 +18,7 @@ struct BundleData
     /** The bytes of a .res file. */
     static std::optional<BundleData> fromFile(std::string_view file, std::string& error);
 
-    /** Data that ICU opened. ICU does not tell how long it is, so the length is the one its own index declares. */
+    /** Data that ICU opened. ICU does not give its length, so that the index declares it. */
     static BundleData fromIcu(UDataMemory* memory);
 
     /** The bytes of a .res file. */

@@ -30,7 +30,7 @@ std::uint64_t checksumOf(std::string_view bytes)
     return checksum;
 }
 
-/** The pool in ICU's own data; null where it has none. */
+// The pool in ICU's own data; null if it has none.
 icu::LocalUDataMemoryPointer icuPool()
 {
     UErrorCode status = U_ZERO_ERROR;
@@ -46,7 +46,7 @@ std::uint32_t checksumOfIcuPool()
     return words != nullptr ? words[static_cast<std::size_t>(IndexWord::PoolChecksum)] : 0;
 }
 
-/** Takes a number and the separator behind it off a text. */
+// Removes a number and its separator from the start of a text.
 template <typename Number>
 bool takeNumber(std::string_view& text, Number& number, char separator)
 {
@@ -82,7 +82,7 @@ std::string damaged(const std::string& file)
 
 } // namespace
 
-/** A directory, opened so that each look at a file in it does not walk the whole path again. */
+// An open directory, so that looking up its files does not resolve the whole path each time.
 class BundleList::Directory
 {
 public:
@@ -93,7 +93,7 @@ public:
 
     bool look(const char* file, struct stat& status) const { return ::fstatat(m_descriptor, file, &status, 0) == 0; }
 
-    /** The contents of a file, or their start; empty for what could keep the reader waiting or have no end. */
+    // The contents of a file, or their start; empty for a file that could block or be endless.
     std::string contentsOf(const char* file, std::size_t most = largestFile) const
     {
         const int descriptor = ::openat(m_descriptor, file, O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
@@ -165,7 +165,7 @@ std::string BundleList::problemOfStart(const fs::path& path)
     return checksum == checksumOfIcuPool() ? std::string() : otherIcu;
 }
 
-// Each process does this once: sizes and times are looked at, and contents only where the times are odd.
+// Once in each process: compares sizes and times, and reads only contents that are newer than the list.
 std::string BundleList::problemOf(const fs::path& path)
 {
     const Directory directory(path);

@@ -17,7 +17,7 @@ namespace {
 namespace fs = std::filesystem;
 using zel::icudata::BundleList;
 
-// An object of this copy of the library: the address of an exported one could be that of another copy.
+// In this copy of the library: an exported object could be that of another copy.
 const char anchor = 0;
 
 fs::path libraryDirectory()
@@ -30,18 +30,17 @@ fs::path libraryDirectory()
     return fs::canonical(library.dli_fname, error).parent_path();
 }
 
-// How closely bundles are looked at: the start of their list when the library is loaded, all of them before the first
-// use.
+// Checks bundles: the start of their list when the library is loaded, all of them before the first use.
 using Check = std::string (*)(const fs::path& bundles);
 
-/** Whose bundles are wrong, and how; empty where they are sound. */
+// The directory and the reason why its bundles cannot be used; empty if they can.
 std::string problemOf(const fs::path& bundles, Check check)
 {
     const std::string problem = check(bundles);
     return problem.empty() ? problem : bundles.string() + ": " + problem;
 }
 
-/** The directory beside the library, or why there is none to use. */
+// The directory beside the library, or the reason why none can be used.
 struct Found
 {
     std::string directory;
@@ -51,7 +50,7 @@ struct Found
 Found findDataDirectory(Check check)
 {
     const fs::path beside = libraryDirectory();
-    // The build tree and most installed trees; then installed trees with another depth of library directory.
+    // First the build tree and most installed trees, then installed trees with a deeper library directory.
     for (const char* way : {"../share/zel/icu", ZEL_ICU_DATA_FROM_LIBRARY}) {
         std::error_code error;
         const fs::path directory = (beside / way).lexically_normal();
@@ -63,7 +62,7 @@ Found findDataDirectory(Check check)
     return {{}, "no " U_ICUDATA_NAME " in " + (beside / "../share/zel/icu").lexically_normal().string()};
 }
 
-/** What was found when the library was loaded. */
+// The result of the check when the library was loaded.
 const Found& found()
 {
     static const Found once = findDataDirectory(&BundleList::problemOfStart);
@@ -81,7 +80,8 @@ void complain(const std::string& problem)
     std::fprintf(stderr, "libzelicudata: %s; relative dates are without phrases\n", problem.c_str());
 }
 
-/** What is wrong with a directory that somebody has named; of data that is not from here that is not known. */
+// The reason why a directory from ICU_DATA or the application cannot be used. One without bundles.list is not
+// validated.
 std::string problemOfNamed(const fs::path& directory, Check check)
 {
     std::error_code error;
@@ -100,17 +100,17 @@ bool leaveDamagedDirectory()
     return problem.empty();
 }
 
-/** The directory that ICU_DATA or the application has named; ICU knows either. */
+// The directory from ICU_DATA or the application.
 std::string namedDirectory()
 {
     const std::string named = u_getDataDirectory();
-    // Whoever starts a program with raised privileges must not choose its data. ICU itself does not look at these.
+    // The caller of a program with raised privileges must not choose its data. ICU itself does not check this.
     const char* const variable = std::getenv("ICU_DATA");
     const bool isIgnored = variable != nullptr && named == variable && ::secure_getenv("ICU_DATA") == nullptr;
     return isIgnored ? std::string() : named;
 }
 
-/** Where to look for bundles apart from those that ICU has open; empty where there is nothing else to find. */
+// The package with other bundles than those that ICU has open; empty if there is none.
 std::string findPhrasePackage()
 {
     if (!zel::icudata::isDataDirectoryInUse() || zel::icudata::hasPhraseTables()) {
@@ -121,8 +121,8 @@ std::string findPhrasePackage()
         complain("ICU has opened its own data before this library was loaded");
         return {};
     }
-    // ICU looks for the files of a package in the directory of its name, which has the pool, and then in its own
-    // directory, which has the bundles.
+    // ICU searches a package in the directory of its name, which has the pool, then in its own directory, which has the
+    // bundles.
     return bundles + '/' + BundleList::packageName;
 }
 

@@ -10,7 +10,7 @@ using Path = PhraseTables::Path;
 
 const std::string rootName = "root";
 
-// No chain of parents or aliases in ICU's data comes near these; a longer one goes in circles.
+// Far above the longest chain of parents or aliases in ICU's data; a longer one is circular.
 constexpr std::size_t longestChain = 16;
 constexpr int mostAliases = 16;
 
@@ -20,7 +20,7 @@ const Path& pluralCategories()
     return categories;
 }
 
-// What a bundle says about its place among the others, in a text at its top.
+// A text at the top of a bundle, about its relation to other bundles.
 std::optional<std::string> note(const ResourceBundleReader& bundle, const char* key)
 {
     const auto resource = bundle.find(bundle.root(), key);
@@ -28,7 +28,7 @@ std::optional<std::string> note(const ResourceBundleReader& bundle, const char* 
     return text ? std::make_optional(std::string(text->begin(), text->end())) : std::nullopt;
 }
 
-// What another version of ICU may say about a bundle's place is an error here, and not a guess at its parent.
+// An unknown entry of another ICU version is an error: guessing the parent would give wrong phrases.
 std::string problemOfNotes(const ResourceBundleReader& bundle)
 {
     for (std::size_t position = 0; position < bundle.size(bundle.root()); ++position) {
@@ -114,7 +114,7 @@ std::optional<ResourceTree> PhraseTables::forLocale(const std::string& locale, s
     if (!addTexts(table, locale, {"fields", "day", "relative"}, days, days, error)) {
         return std::nullopt;
     }
-    // The root's word is English, which is nobody else's: empty stands for no word.
+    // The root's word is English, so that other locales do not inherit it: empty means no word.
     ResourceTree& now = fields.children["second"].children["relative"].children["0"];
     now.text = text(locale, {"fields", "second", "relative", "0"}, Root::LeftOut, error).value_or(std::u16string());
     return error.empty() ? std::make_optional(std::move(tree)) : std::nullopt;
@@ -145,7 +145,7 @@ std::optional<std::u16string> PhraseTables::text(const std::string& locale, cons
         Found found;
         for (const ResourceBundleReader* bundle : chain(place.locale, error)) {
             if (bundle == leftOut) {
-                break; // the last of every chain
+                break; // the end of every chain
             }
             found = findIn(*bundle, place, error);
             if (found.text || found.elsewhere) {
@@ -180,8 +180,8 @@ PhraseTables::Found PhraseTables::findIn(const ResourceBundleReader& bundle, con
     return {depth == place.path.size() ? bundle.text(resource) : std::nullopt, std::nullopt};
 }
 
-// "/LOCALE/path" starts again at the locale asked for, "/ICUDATA/locale/path" and "locale/path" at another one;
-// without a path, an alias means the place where it stands.
+// "/LOCALE/path" starts again at the requested locale, "/ICUDATA/locale/path" and "locale/path" at another one; without
+// a path, an alias means its own path.
 std::optional<PhraseTables::Place> PhraseTables::target(const std::u16string& alias, const Place& place,
                                                         std::size_t depth, std::string& error)
 {

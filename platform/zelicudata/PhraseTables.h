@@ -12,10 +12,10 @@
 namespace zel::icudata {
 
 /**
- * The phrase tables of a locale, put together from the phrases that ICU's data has under other keys.
+ * The phrase tables of a locale, built from the phrases that ICU's data has under other keys.
  *
- * Each phrase is looked up on its own along the chain of parents, because a locale that overrides one of a table's
- * phrases inherits the others.
+ * Each phrase is looked up separately along the chain of parents, as a locale that overrides one phrase of a table
+ * inherits the others.
  */
 class PhraseTables
 {
@@ -24,13 +24,13 @@ public:
 
     explicit PhraseTables(StockBundles& bundles) : m_bundles(bundles) {}
 
-    /** All phrase tables; none, with the reason in \a error, where ICU's data lacks a phrase that must be there. */
+    /** All phrase tables; none, with the reason in `error`, if ICU's data lacks a required phrase. */
     std::optional<ResourceTree> forLocale(const std::string& locale, std::string& error);
 
-    /** Whether what only the root bundle has counts as found. */
+    /** Whether an entry of the root bundle counts as found. */
     enum class Root { Included, LeftOut };
 
-    /** The text at a path as ICU finds it for a locale, through parents and aliases; none where ICU finds none. */
+    /** The text at a path as ICU finds it for a locale, through parents and aliases; none if there is none. */
     std::optional<std::u16string> text(const std::string& locale, const Path& path, Root root, std::string& error);
 
 private:
@@ -42,7 +42,7 @@ private:
         Path path;
     };
 
-    /** What one bundle has at a place: a text, or an alias that names another place. */
+    /** An entry of one bundle: a text, or an alias to another path. */
     struct Found
     {
         std::optional<std::u16string> text;

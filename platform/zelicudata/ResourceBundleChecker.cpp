@@ -152,7 +152,7 @@ std::string ResourceBundleChecker::problemOfContainer(Resource container)
     if (!place) {
         return "a table or an array out of range";
     }
-    // No two tables share their items, so that all of them together never outgrow the bundle.
+    // No two tables share items, so that their total size is limited by the bundle.
     m_items += place->size;
     if (m_items > m_bundle.m_data.body.size()) {
         return "tables that overlap";
@@ -172,7 +172,7 @@ std::string ResourceBundleChecker::problemOfContainer(Resource container)
     return {};
 }
 
-// A length, and as many items behind it.
+// A length, followed by as many items.
 bool ResourceBundleChecker::hasItemsOf(Resource resource, std::size_t itemSize) const
 {
     constexpr std::size_t lengthSize = ResourceBundleReader::wordSize;

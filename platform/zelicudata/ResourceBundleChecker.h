@@ -9,16 +9,16 @@
 
 namespace zel::icudata {
 
-/** Decides whether a bundle is one that ResourceBundleReader knows and can read without leaving its bytes. */
+/** Checks that ResourceBundleReader knows the format of a bundle and can read it without leaving its bytes. */
 class ResourceBundleChecker
 {
 public:
-    /** What must hold before a reader may look at the index. */
+    /** To be checked before a reader uses the index. */
     static bool checkFormat(const BundleData& data, std::string& error);
 
     explicit ResourceBundleChecker(const ResourceBundleReader& bundle) : m_bundle(bundle) {}
 
-    /** What must hold before a reader may be used. */
+    /** To be checked before a reader is used. */
     bool check(std::string& error);
 
 private:

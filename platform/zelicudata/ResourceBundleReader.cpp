@@ -12,8 +12,7 @@ constexpr std::uint32_t poolKeyBit = 0x80000000U;
 
 constexpr std::uint32_t noFallbackAttribute = 1U;
 
-// The first unit of a 16-bit string says how long the string is; a unit below these counts itself as text that ends
-// at a NUL.
+// The first unit of a 16-bit string is its length; a unit below these is already text, which ends at a NUL.
 constexpr char16_t shortLength = 0xdc00;
 constexpr char16_t mediumLength = 0xdfef;
 constexpr char16_t longLength = 0xdfff;
@@ -45,7 +44,7 @@ ResourceBundleReader::ResourceBundleReader(const BundleData& data, const Resourc
     m_keyLimit = m_units16 > m_keys ? m_units16 : 0;
     m_poolStringLimit = (length >> 8U) | ((attributes & 0xf000U) << 12U);
     m_poolStringItemLimit = attributes >> 16U;
-    // What is behind the end that the index declares is no part of the bundle, and no copy would have it.
+    // Ignore bytes past the declared end; copies drop them.
     m_data.body = m_data.body.substr(0, std::size_t{index(IndexWord::BundleTop)} * wordSize);
 }
 
@@ -166,7 +165,7 @@ std::optional<ResourceBundleReader::Container> ResourceBundleReader::container16
 {
     const std::size_t position = resource & 0x0fffffffU;
     if (position >= units16Count()) {
-        // What is empty may refer to units that the bundle does not have.
+        // An empty one may refer to units that the bundle does not have.
         return position == 0 ? std::make_optional(Container{}) : std::nullopt;
     }
     Container place;

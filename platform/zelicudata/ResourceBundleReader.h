@@ -11,7 +11,7 @@
 
 namespace zel::icudata {
 
-/** A resource as a bundle refers to it: its type in the upper 4 bits, in the lower 28 where it is or a small value. */
+/** A reference to a resource: the type in the upper 4 bits, the offset or a small value in the lower 28. */
 using Resource = std::uint32_t;
 
 enum class ResourceType : std::uint8_t {
@@ -44,21 +44,20 @@ enum class IndexWord : std::uint8_t {
 /**
  * Reads one compiled ICU resource bundle of format version 2 or 3.
  *
- * open() checks all of the bundle once, every table, key and text of it, so that a bundle that opens can be read
- * without further errors. A bundle that shares keys and texts needs the pool bundle that it shares them with, which
- * must outlive it, like the bytes of both.
+ * open() checks every table, key and text of the bundle, so that reading an open bundle cannot fail. A bundle with
+ * shared keys and texts needs the pool bundle that has them. The pool and the bytes of both must outlive the reader.
  */
 class ResourceBundleReader
 {
 public:
     struct Entry
     {
-        std::uint32_t keyWord; ///< the key as a table with 32-bit keys refers to it; the top bit says "in the pool"
+        std::uint32_t keyWord; ///< the key in a table with 32-bit keys; the top bit means "in the pool"
         std::string_view key;
         Resource value;
     };
 
-    /** Opens a bundle; where it is damaged or of an unknown format, says in \a error what is wrong with it. */
+    /** Opens a bundle; none, with the reason in `error`, if it is damaged or of an unknown format. */
     static std::optional<ResourceBundleReader> open(const BundleData& data, const ResourceBundleReader* pool,
                                                     std::string& error);
 
@@ -72,11 +71,11 @@ public:
 
     /** The number of items of a table or an array. */
     std::size_t size(Resource container) const;
-    /** The item at \a position of a table; of an array, with an empty key. */
+    /** The item at a position of a table, or of an array, with an empty key. */
     std::optional<Entry> entry(Resource container, std::size_t position) const;
-    /** The item with a key of a table. */
+    /** The item of a table with a key. */
     std::optional<Resource> find(Resource table, std::string_view key) const;
-    /** The text of a string or an alias; none for any other type. */
+    /** The text of a string or an alias; none for other types. */
     std::optional<std::u16string> text(Resource resource) const;
 
 private:
@@ -85,7 +84,7 @@ private:
     static constexpr std::size_t wordSize = sizeof(std::uint32_t);
     static constexpr std::size_t unitSize = sizeof(char16_t);
 
-    /** Where the keys and the items of a table or an array are, in bytes of the body. */
+    /** The offsets of the keys and items of a table or an array, in bytes of the body. */
     struct Container
     {
         std::size_t size = 0;
@@ -118,9 +117,9 @@ private:
 
     BundleData m_data;
     const ResourceBundleReader* m_pool = nullptr;
-    std::size_t m_keys = 0;                  ///< where the bundle's first key is
+    std::size_t m_keys = 0;                  ///< offset of the first key
     std::size_t m_keyLimit = 0;              ///< 16-bit keys from here on are in the pool
-    std::size_t m_units16 = 0;               ///< where the 16-bit units start
+    std::size_t m_units16 = 0;               ///< offset of the 16-bit units
     std::uint32_t m_poolStringLimit = 0;     ///< 16-bit strings below are in the pool
     std::uint32_t m_poolStringItemLimit = 0; ///< the same for the 16-bit items of tables and arrays
 };

@@ -82,7 +82,7 @@ Resource ResourceBundleWriter::addTable(const Items& items)
     return table;
 }
 
-// The form with 32 bits for its length: new 16-bit strings would have to go between the old bytes.
+// The form with a 32-bit length: new 16-bit strings would have to be inserted between the old bytes.
 Resource ResourceBundleWriter::addString(const std::u16string& text)
 {
     const auto [known, isNew] = m_strings.emplace(text, nextWord());

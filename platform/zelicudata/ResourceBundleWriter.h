@@ -11,16 +11,16 @@
 namespace zel::icudata {
 
 /**
- * Writes a copy of a bundle with more in it.
+ * Writes a copy of a bundle with additional entries.
  *
- * The bytes of the bundle stay as and where they are, so that nothing in it can change; what is new goes behind them.
- * Only the tables on the way to something new are written once more, with the old items and the new ones, and the index
- * is told about the new root and the new end. What the bundle has already is never replaced.
+ * The bytes of the bundle keep their contents and offsets, so that no entry can change; new bytes are appended. Only
+ * the tables on the path to a new entry are written a second time, with old and new items, and the index gets the new
+ * root and the new end. Existing entries are never replaced.
  */
 class ResourceBundleWriter
 {
 public:
-    /** The bytes of the copy's .res file; none, with the reason in \a error, where an addition does not fit. */
+    /** The bytes of the copy's .res file; none, with the reason in `error`, if an addition does not fit. */
     static std::optional<std::string> write(const ResourceBundleReader& bundle, const ResourceTree& additions,
                                             std::string& error);
 

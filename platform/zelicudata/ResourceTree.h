@@ -6,7 +6,7 @@
 
 namespace zel::icudata {
 
-/** Tables of tables of texts: a table where it has children, otherwise a text. */
+/** A tree of tables and texts: a table if it has children, otherwise a text. */
 struct ResourceTree
 {
     std::u16string text;

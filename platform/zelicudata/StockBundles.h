@@ -18,7 +18,7 @@ public:
     /** Every locale that ICU lists, and the root. */
     static std::vector<std::string> names();
 
-    /** A bundle by its name. Null without an error where ICU has none of that name. */
+    /** A bundle by its name. Null without an error if ICU has none of that name. */
     const ResourceBundleReader* find(const std::string& name, std::string& error);
 
 private:

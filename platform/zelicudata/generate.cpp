@@ -74,7 +74,7 @@ bool writeBundles(const fs::path& directory, std::string& error)
     return error.empty();
 }
 
-/** A directory of this run alone, which goes away with this object. */
+// A directory for this run only, removed with this object.
 class Unfinished
 {
 public:
@@ -98,13 +98,13 @@ public:
 
     const fs::path& path() const { return m_path; }
 
-    /** Gives the directory its name in one step; one that has the name already is in this one's place then. */
+    // Exchanges the directory with the final one atomically; the old one is then removed with this object.
     void putInPlaceOf(const fs::path& final) const
     {
         std::error_code isThere;
         fs::rename(m_path, final, isThere);
         if (isThere && ::renameat2(AT_FDCWD, m_path.c_str(), AT_FDCWD, final.c_str(), RENAME_EXCHANGE) != 0) {
-            fs::remove_all(final); // a file system that cannot exchange two names
+            fs::remove_all(final); // the file system cannot exchange two names
             fs::rename(m_path, final);
         }
     }
@@ -113,8 +113,8 @@ private:
     fs::path m_path;
 };
 
-// Put in place when it is complete: a directory under the final name is always whole, also where several are made at
-// once, and programs that run keep the files that they have open.
+// Moved into place when complete: the final directory is always whole, also with several runs at once, and running
+// programs keep their open files.
 bool generate(const fs::path& directory, std::string& error)
 {
     const Unfinished unfinished(directory);
@@ -176,7 +176,7 @@ int run(const std::vector<std::string>& arguments)
                   << kindOfData() << '\n';
         return EXIT_FAILURE;
     }
-    // The data to copy is ICU's own, whatever data the person who builds uses otherwise.
+    // Copy ICU's own data, whatever ICU_DATA is in the environment of the build.
     unsetenv("ICU_DATA"); // NOLINT(concurrency-mt-unsafe): the only thread
     std::string error;
     const bool isNeeded = !options->unlessSound || !isSound(options->directory / U_ICUDATA_NAME);

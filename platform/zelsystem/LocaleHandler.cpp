@@ -40,7 +40,8 @@ void LocaleHandler::startWatching()
     m_object->open(PpsOpenMode::Subscribe);
     RegionCache& cache = RegionCache::instance();
     cache.refresh();
-    // Of the cache, not of the object: whoever reads a change first, all hear of it. Queued, as it may be in a query.
+    // From the cache, not the object: all handlers are notified, whichever reads a change first. Queued, as it may be
+    // emitted inside a query.
     isConnected = connect(&cache, SIGNAL(changed()), this, SIGNAL(changed()), Qt::QueuedConnection) && isConnected;
     if (!isConnected) {
         qCritical("zel::system::LocaleHandler cannot report changes of the region");

@@ -11,7 +11,7 @@ namespace {
 
 constexpr int longestName = 100;
 
-// Never destroyed: something may still be formatted while the process destroys its static objects.
+// Never destroyed: texts may be formatted while the process destroys its static objects.
 template <typename Object, typename... Arguments>
 const Object* lasting(Arguments&&... arguments)
 {
@@ -67,8 +67,8 @@ QString join(const Parts& parts)
     return name;
 }
 
-// QLocale does not tell script codes under every Qt version. These are the ones that several languages share; any other
-// has a language to itself, so that it is enough that the locale has none of these.
+// Not every Qt version gives script codes. These scripts are shared by several languages; any other one belongs to one
+// language, so that it suffices that the locale has none of these.
 bool hasScript(const QLocale& locale, const QString& code)
 {
     using Scripts = QHash<QString, QLocale::Script>;

@@ -21,7 +21,7 @@ const char* posixLocaleName()
     return variable == nullptr ? "" : std::getenv(variable);
 }
 
-// A value as a message shows it: on one line, and not too much of it.
+// A value for a message: one line, of limited length.
 QString shown(const QString& value)
 {
     constexpr int enough = 40;
@@ -31,14 +31,14 @@ QString shown(const QString& value)
     return QLatin1Char('"') + text + QLatin1String(value.size() > enough ? "...\"" : "\"");
 }
 
-/** What one look at the object finds. */
+// The result of reading the object.
 struct Reading
 {
     std::shared_ptr<PpsObject> object = std::make_shared<PpsObject>(QString::fromLatin1(objectPath));
     QByteArray contents;
     QVariant value; // invalid if the region is not set
     QString error;
-    bool isRead = false; // or the error says why not
+    bool isRead = false; // otherwise the error has the reason
 };
 
 QString errorOfObject(const QString& reason)
@@ -50,7 +50,7 @@ Reading readRegion()
 {
     Reading reading;
     PpsObject& object = *reading.object;
-    // Asked, not listened to: the thread of the caller may be gone the next time.
+    // Without notification: the calling thread may be gone by the next query.
     object.setReadyReadEnabled(false);
     bool ok = object.open(PpsOpenMode::Subscribe);
     reading.contents = ok ? object.read(&ok) : QByteArray();
@@ -76,7 +76,7 @@ RegionCache::RegionCache()
 
 RegionCache& RegionCache::instance()
 {
-    // Never destroyed: something may still be formatted while the process destroys its static objects.
+    // Never destroyed: texts may be formatted while the process destroys its static objects.
     static RegionCache* const cache = std::make_unique<RegionCache>().release();
     return *cache;
 }
@@ -91,7 +91,7 @@ QLocale RegionCache::locale()
 bool RegionCache::refresh()
 {
     {
-        // Threads look at the file side by side; only a change makes them wait for each other.
+        // Threads check the file in parallel; only a change makes them wait for each other.
         const std::shared_lock lock(m_mutex);
         if (m_region.isCurrent()) {
             return true;
@@ -108,7 +108,7 @@ bool RegionCache::refresh()
         isTorn = next.isTorn;
         m_region = std::move(next);
     }
-    // Outside the lock: the message handler may well ask for the region itself, to write the time.
+    // Outside the lock: the message handler may ask for the region, to write the time.
     if (!message.isEmpty()) {
         qWarning("zel::system::LocaleHandler: %s", qUtf8Printable(message));
     }
@@ -133,7 +133,7 @@ RegionCache::Region RegionCache::Region::next() const
     region.object = reading.object;
     region.isTorn = !reading.error.isEmpty() && !reading.object->isCurrent();
     if (wasSet && !reading.error.isEmpty()) {
-        // Half an object that is fresh is most likely being rewritten.
+        // Half an object that is new is most likely being rewritten.
         if (!region.isTorn || !reading.isRead) {
             region.report(reading.error, reading.contents);
         }

@@ -12,9 +12,9 @@
 namespace zel::system {
 
 /**
- * The region and what it was made from. The settings object is read again only if its file's status or the environment
- * has changed, and each bad content of it is reported once. An object that is torn, as while it is rewritten in place,
- * takes nothing from the region that it gave before. Any thread may ask; the cache itself belongs to none.
+ * The region and its source. The settings object is read again only if its file's status or the environment has
+ * changed; each invalid content is reported once. While the object is torn, for example during a rewrite in place, its
+ * last region stays in use. Call on any thread; the cache itself belongs to none.
  */
 class RegionCache : public QObject
 {
@@ -26,31 +26,31 @@ public:
     /** The cache of this process. */
     static RegionCache& instance();
 
-    /** The region as of now; costs one stat() if nothing has changed. */
+    /** The region as it is now; costs one stat() if nothing has changed. */
     QLocale locale();
 
     /**
      * Reads the region again if the object or the environment has changed.
      *
-     * @return false if the object is being written just now and cannot be read, so that another call is needed soon
+     * @return false if the object is being written and cannot be read, so that another call is needed soon
      */
     bool refresh();
 
 Q_SIGNALS:
-    /** The region is another one. Emitted on the thread that noticed it. */
+    /** The region changed. Emitted on the thread that noticed it. */
     void changed();
 
 private:
-    /** What the region is and why. */
+    /** The region and its source. */
     struct Region
     {
         std::shared_ptr<PpsObject> object; // as it was read; null before the first time
         QByteArray root;
-        bool isSet = false; // the locale is the region that the object gave
+        bool isSet = false; // the locale is that of the object
         QString name;       // by which the object gave it
         QByteArray posix;   // the name of the fallback
         QLocale locale = QLocale::c();
-        QByteArray reported; // the error that was reported last, with the content that has it
+        QByteArray reported; // the last reported error, with its content
         bool isTorn = false; // the object is being written
         QString message;     // what is to be reported now
 
@@ -60,7 +60,7 @@ private:
     };
 
     std::shared_mutex m_mutex;
-    Region m_region; // what it holds is copied and destroyed under the lock only
+    Region m_region; // copy and destroy under the lock only
 };
 
 } // namespace zel::system

@@ -14,12 +14,12 @@ public:
     LocaleName() = delete;
 
     /**
-     * Exactly the locale that the name asks for; "C" and "POSIX" name the C locale. A QLocale made from a name that it
-     * does not know is silently another one; here that gives nothing.
+     * Exactly the named locale; "C" and "POSIX" name the C locale. None for an unknown name, for which QLocale would
+     * silently be another locale.
      */
     static std::optional<QLocale> find(const QString& name);
 
-    /** The locale that comes closest to the name of a POSIX locale, at worst the C locale. */
+    /** The locale closest to the name of a POSIX locale; the C locale at worst. */
     static QLocale closest(const QString& name);
 
     /** The environment variable that names the process's POSIX locale for times; null where none does. */
