@@ -146,12 +146,13 @@ private Q_SLOTS:
         row("frobnicate", 2, "unknown command 'frobnicate'; see 'zel-i18n --help'");
         row("formats|--frobnicate", 2, "unknown option 'frobnicate'; see 'zel-i18n formats --help'");
         row("formats|--locale", 2, "missing value after '--locale'; see 'zel-i18n formats --help'");
-        row("formats|de_DE", 2, "'de_DE' is no option; name a locale with --locale; see 'zel-i18n formats --help'");
+        row("formats|de_DE", 2,
+            "unexpected argument 'de_DE'; use --locale for a locale; see 'zel-i18n formats --help'");
         row("percent", 2, "no value given; see 'zel-i18n percent --help'");
         row("percent|--min|-1|1", 2, "--min takes a number from 0 to 340, not '-1'; see 'zel-i18n percent --help'");
         row("percent|--locale|de|--locale|fr|1", 2, "--locale was given more than once; see 'zel-i18n percent --help'");
         row("format|y|2012-05-16|-", 2,
-            "'-' for standard input does not go with other moments; "
+            "'-' for standard input cannot be combined with other moments; "
             "see 'zel-i18n format --help'");
         row("watch|y|2012-05-16|2012-05-17", 2,
             "one moment at most, not also '2012-05-17'; see 'zel-i18n watch --help'");
@@ -160,7 +161,7 @@ private Q_SLOTS:
         row("device|put", 2, "'put' is neither get, set nor unset; see 'zel-i18n device --help'");
         row("device|set|hour-format", 2, "'hour-format' is not of the form KEY=VALUE; see 'zel-i18n device --help'");
         row("device|unset|clock", 2,
-            "no setting 'clock'; there are hour-format, time-zone, region; see 'zel-i18n device --help'");
+            "unknown setting 'clock'; settings: hour-format, time-zone, region; see 'zel-i18n device --help'");
         row("format|y|--device|region=de_DE,region=fr_FR", 2,
             "region was given more than once; see 'zel-i18n format --help'");
 
@@ -199,7 +200,7 @@ private Q_SLOTS:
             row(QByteArray("format|y|2012-05-16|").append(moment).constData(), 1,
                 QByteArray("'")
                     .append(moment)
-                    .append("' is not a moment such as 2012-05-16 or 2012-05-16T10:30:00+02:00")
+                    .append("' is not a moment such as 2012-09-03 or 2012-09-03T10:30:00+02:00")
                     .constData());
         }
     }
@@ -332,7 +333,7 @@ private Q_SLOTS:
         QCOMPARE(result.output, QStringLiteral("May 16, 2012\nFeb 29, 2012\n"));
         const QStringList errors = result.errors.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
         QCOMPARE(errors.size(), 4);
-        const QString reason = QStringLiteral(" is not a moment such as 2012-05-16 or 2012-05-16T10:30:00+02:00");
+        const QString reason = QStringLiteral(" is not a moment such as 2012-09-03 or 2012-09-03T10:30:00+02:00");
         QCOMPARE(errors.at(0), QStringLiteral("zel-i18n: line 2: 'yesterday'") + reason);
         QCOMPARE(errors.at(1), QStringLiteral("zel-i18n: line 3: ''") + reason);
         QVERIFY(errors.at(2).startsWith(QLatin1String("zel-i18n: line 4: '1111")));

@@ -11,7 +11,7 @@ namespace zel::tool {
 
 namespace {
 
-// A negative number is not an option. A blank in front hides it from the parser.
+// A negative number is not an option. A leading blank hides it from the parser.
 QString hideNumber(const QString& word)
 {
     static const QRegularExpression negative(QStringLiteral("\\A-(?:[0-9.]|inf|nan)"),
@@ -29,7 +29,7 @@ QStringList shownAgain(QStringList words)
     return words;
 }
 
-// Qt's messages in the form of ours.
+// Qt's messages in our form.
 QString asOurs(QString message)
 {
     message.replace(0, 1, message.at(0).toLower());
@@ -116,7 +116,7 @@ QList<NamedLocale> Arguments::locales() const
         locales.append(namedLocale(name));
     }
     if (locales.isEmpty()) {
-        Device::get(Assignments::region()); // refuses one that cannot be read
+        Device::get(Assignments::region()); // a Failure if it cannot be read
         const QLocale region = Device::region();
         locales.append({region.name(), region});
     }

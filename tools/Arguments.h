@@ -19,29 +19,29 @@ struct NamedLocale
     QLocale locale;
 };
 
-/** The words behind a command, taken apart and checked. What makes no sense is a Failure. */
+/** The parsed and checked words after a command. Invalid ones are a Failure. */
 class Arguments
 {
 public:
-    /** @param words what follows the name of the command */
+    /** @param words the words after the name of the command */
     Arguments(const QList<QCommandLineOption>& options, const QStringList& words);
 
-    /** What is no option. */
+    /** The words that are not options. */
     QStringList positional() const;
 
     bool has(const QString& option) const { return m_parser.isSet(option); }
     bool json() const { return has(QStringLiteral("json")); }
 
-    /** The value of an option that makes sense once. */
+    /** The value of an option; a Failure if it was given more than once. */
     QString value(const QString& option) const;
     int number(const QString& option, int fallback, int largest) const;
     QDateTime moment(const QString& option, const MomentReader& reader, const QDateTime& fallback) const;
-    /** One of the choices by its name, or the fallback where the option was not given. */
+    /** The choice with the given name; the fallback if the option was not given. */
     int choice(const QString& option, const QMap<QString, int>& choices, int fallback) const;
 
-    /** The locales named by --locale; the region of the device where there are none. */
+    /** The locales of --locale (default: region of the device). */
     QList<NamedLocale> locales() const;
-    /** The same for a command that works for one locale. */
+    /** The same for a command with one locale. */
     NamedLocale locale() const;
 
 private:

@@ -11,14 +11,14 @@ namespace zel::tool {
 class Arguments;
 class Console;
 
-/** What `--help` says about a command. */
+/** The help of a command. */
 struct CommandHelp
 {
     QString name;
-    QString arguments;   ///< behind the name and the options
+    QString arguments;   ///< after the name and the options
     QString summary;     ///< one line
-    QString description; ///< whole paragraphs
-    QString examples;    ///< one a line
+    QString description; ///< paragraphs
+    QString examples;    ///< one per line
 };
 
 /** One of the program's commands. */
@@ -31,10 +31,10 @@ public:
 
     virtual CommandHelp help() const = 0;
 
-    /** The options beside those that every command has. */
+    /** The options besides those of every command. */
     virtual QList<QCommandLineOption> options() const { return {}; }
 
-    /** Does the work. What cannot be done is thrown as a Failure. */
+    /** Runs the command; throws a Failure. */
     virtual ExitStatus run(const Arguments& arguments, Console& console) const = 0;
 };
 

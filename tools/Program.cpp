@@ -15,15 +15,15 @@ QList<QCommandLineOption> allOptions(const Command& command)
 {
     return command.options() +
            QList<QCommandLineOption>{
-               {QStringLiteral("json"), QStringLiteral("One JSON object a line, for scripts.")},
+               {QStringLiteral("json"), QStringLiteral("Print one JSON object per line, for scripts.")},
                {QStringLiteral("device"),
-                QStringLiteral("Ask a device with these settings instead of this one. Settings as\nin 'device set', "
-                               "for example region=de_DE,hour-format=24."),
+                QStringLiteral("Simulate a device with these settings (see 'device'), for\n"
+                               "example region=de_DE,hour-format=24."),
                 QStringLiteral("KEY=VALUE,...")},
-               {{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this text.")}};
+               {{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show the help of this command.")}};
 }
 
-// Two columns, the right one of several lines where it needs them.
+// Two columns; the right one may have several lines.
 QString entry(const QString& left, QString right)
 {
     constexpr int width = 28;
@@ -119,7 +119,7 @@ QString Program::helpOn(QStringList words) const
 QString Program::help() const
 {
     QString text = QStringLiteral("Usage: zel-i18n COMMAND [OPTION...] [ARGUMENT...]\n\n"
-                                  "Dates, times, relative dates and percentages as the library writes them.\n\n"
+                                  "Formats dates, times, relative dates and percentages in every locale.\n\n"
                                   "Commands:\n");
     for (const auto& command : m_commands) {
         text += entry(command->help().name, command->help().summary);
@@ -128,7 +128,7 @@ QString Program::help() const
            QStringLiteral("\nOptions:\n") +
            entry(QStringLiteral("-h, --help"), QStringLiteral("Show this text, or, after a command, its help.")) +
            entry(QStringLiteral("-V, --version"), QStringLiteral("Show the version.")) +
-           QStringLiteral("\nExit status: 0 it worked, 1 bad input or no answer, 2 bad usage.");
+           QStringLiteral("\nExit status: 0 success, 1 invalid input or no result, 2 wrong usage.");
 }
 
 QString Program::help(const Command& command)

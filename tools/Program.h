@@ -13,7 +13,7 @@ namespace zel::tool {
 class Command;
 class Console;
 
-/** The program: its commands, and the way from the words of a command line to one of them. */
+/** The program: its commands, and the dispatch of a command line to one of them. */
 class Program
 {
 public:
@@ -27,7 +27,7 @@ public:
 private:
     ExitStatus runCommand(const Command& command, const QStringList& words, Console& console) const;
     const Command& find(const QString& name) const;
-    /** The help of the command that the words name, of the program without words. */
+    /** The help of the named command; without words, of the program. */
     QString helpOn(QStringList words) const;
     QString help() const;
     static QString help(const Command& command);

@@ -29,7 +29,7 @@ QStringList wordsOf(int argc, char* argv[])
     return words;
 }
 
-// Descriptors that are missing are held by ones that fail, so that no other file takes their place.
+// Replace missing descriptors by failing ones, so that no other file gets their numbers.
 void holdStandardDescriptors()
 {
     for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
@@ -39,7 +39,7 @@ void holdStandardDescriptors()
     }
 }
 
-// Qt expects UTF-8, and says so at length where a cron job or a container has nothing but the C locale.
+// Qt expects UTF-8 and warns at length in the C locale of a cron job or container.
 std::unique_ptr<QCoreApplication> createApplication(int& argc, char* argv[])
 {
     const zel::tool::Utf8Environment environment;
@@ -83,7 +83,7 @@ int main(int argc, char* argv[])
     try {
         return runOnConsole(words);
     } catch (const Console::Interrupted& interrupted) {
-        // The caller shall see by which signal the program ended.
+        // So that the caller sees which signal ended the program.
         std::raise(interrupted.signal);
         return 128 + interrupted.signal;
     }

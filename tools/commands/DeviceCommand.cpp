@@ -87,15 +87,15 @@ CommandHelp DeviceCommand::help() const
 {
     return {QStringLiteral("device"), QStringLiteral("[get [KEY] | set KEY=VALUE... | unset KEY...]"),
             QStringLiteral("Show or change the settings of the device."),
-            QStringLiteral("Shows the settings, or the bare value of one; sets or unsets them. Running programs\n"
-                           "follow at once. The settings are\n\n"
+            QStringLiteral("Shows the settings, or the value of one; sets or unsets them. Running programs\n"
+                           "follow immediately. The settings are:\n\n"
                            "  hour-format   12 or 24: the clock\n"
                            "  time-zone     a time zone that ICU knows, such as Europe/Berlin\n"
                            "  region        the locale for dates, times and numbers, such as de_DE\n\n"
-                           "and are kept below the directory that ZEL_PPS_ROOT names. All values are checked\n"
-                           "before the first is written. What else stands in a settings object is kept; where\n"
-                           "an object cannot be decoded, nothing is changed without --replace. A machine that\n"
-                           "has no directory for settings is made a device with --create only."),
+                           "They are stored below the directory ZEL_PPS_ROOT (default: /). All values are checked\n"
+                           "before the first is written. Other attributes of a settings object are kept. An\n"
+                           "object that cannot be decoded is changed with --replace only. Without a settings\n"
+                           "directory, --create is required."),
             QStringLiteral("device\n"
                            "device get region\n"
                            "device set hour-format=24 time-zone=Europe/Berlin\n"
@@ -105,9 +105,9 @@ CommandHelp DeviceCommand::help() const
 QList<QCommandLineOption> DeviceCommand::options() const
 {
     return {{QStringLiteral("replace"),
-             QStringLiteral("With set: write a settings object that cannot be decoded\nanew, with nothing but the "
-                            "given settings.")},
-            {QStringLiteral("create"), QStringLiteral("With set: create /pps on a machine that has none.")}};
+             QStringLiteral("With set: overwrite a settings object that cannot be\ndecoded, with the "
+                            "given settings only.")},
+            {QStringLiteral("create"), QStringLiteral("With set: create /pps on a machine without it.")}};
 }
 
 ExitStatus DeviceCommand::run(const Arguments& arguments, Console& console) const
@@ -116,7 +116,7 @@ ExitStatus DeviceCommand::run(const Arguments& arguments, Console& console) cons
     const QString action = words.value(0, QStringLiteral("get"));
     for (const char* const option : {"replace", "create"}) {
         if (arguments.has(QLatin1String(option)) && action != QLatin1String("set")) {
-            throw Failure::usage(QStringLiteral("--%1 goes with 'set' only").arg(QLatin1String(option)));
+            throw Failure::usage(QStringLiteral("--%1 is for 'set' only").arg(QLatin1String(option)));
         }
     }
     if (action == QLatin1String("get")) {

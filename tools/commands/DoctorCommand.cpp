@@ -37,7 +37,7 @@ constexpr const char* compiler = "g++ " __VERSION__;
 
 Finding examineLibrary()
 {
-    // A function: data of a library can be copied into the program that uses it.
+    // The address of a function: data of a library can be copied into the program that uses it.
     using Function = QString (*)(double, int, int);
     const Function function = &zel::utility::i18n::toPercentageString;
     Dl_info info = {};
@@ -49,7 +49,7 @@ Finding examineLibrary()
             {}};
 }
 
-/** What runs, beside what the library was built with; the program and the library are built together. */
+// Compares a version in use with that of the build; program and library are built together.
 Finding compare(const QString& subject, const QString& built, const QString& running, const QString& more)
 {
     const auto major = [](const QString& version) { return version.section(QLatin1Char('.'), 0, 0); };
@@ -84,7 +84,7 @@ Finding examineIcu()
 Finding examineData()
 {
     const QString subject = QStringLiteral("ICU data");
-    icudata::checkDataDirectory(); // leaves a damaged directory
+    icudata::checkDataDirectory(); // returns to ICU's own data if the directory is damaged
     const QString ours = QFile::decodeName(icudata::dataDirectory());
     const QString used = QFile::decodeName(u_getDataDirectory());
     if (icudata::isDataDirectoryInUse()) {
@@ -96,12 +96,11 @@ Finding examineData()
         return {Finding::Note, subject, used + QLatin1String(", ") + source, {}};
     }
     if (!ours.isEmpty()) {
-        return {Finding::Wrong, subject,
-                QStringLiteral("ICU's own, as what ICU_DATA names is damaged or made for another ICU"),
-                QStringLiteral("unset ICU_DATA, or mend what it names")};
+        return {Finding::Wrong, subject, QStringLiteral("ICU's own; ICU_DATA is damaged or made for another ICU"),
+                QStringLiteral("unset ICU_DATA, or repair its directory")};
     }
     return {Finding::Wrong, subject, QStringLiteral("ICU's own; ") + QFile::decodeName(icudata::dataDirectoryProblem()),
-            QStringLiteral("build or install the library's data anew")};
+            QStringLiteral("rebuild or reinstall the library's data")};
 }
 
 Finding examinePhrases()
@@ -115,7 +114,7 @@ Finding examinePhrases()
     if (U_FAILURE(status)) {
         return {Finding::Wrong, subject,
                 QStringLiteral("no phrases in ICU's data (%1)").arg(QLatin1String(u_errorName(status))),
-                QStringLiteral("unset ICU_DATA, or let it name a directory that has them")};
+                QStringLiteral("unset ICU_DATA, or set it to a directory with phrases")};
     }
     return {Finding::Good,
             subject,
@@ -157,7 +156,7 @@ void writeJson(const QList<Finding>& findings, Console& console)
     }
 }
 
-// `doctor`: what there is, and where it comes from.
+// `doctor`: the state of the installation.
 class DoctorCommand : public Command
 {
 public:
@@ -169,11 +168,10 @@ public:
 
 CommandHelp DoctorCommand::help() const
 {
-    return {QStringLiteral("doctor"), QString(),
-            QStringLiteral("Show what there is, where it comes from and what is wrong."),
-            QStringLiteral("Looks at the library and what it stands on: versions, ICU's data and the phrases in\n"
-                           "it, the settings and where each of them comes from. A line is 'ok', a 'note', or\n"
-                           "'wrong' with what to do about it. The exit status is 1 if something is wrong."),
+    return {QStringLiteral("doctor"), QString(), QStringLiteral("Check the installation and report problems."),
+            QStringLiteral("Checks versions, ICU's data with its phrases, and the settings with their sources.\n"
+                           "Each line is 'ok', 'note', or 'wrong' with a remedy. The exit status is 1 if\n"
+                           "something is wrong."),
             QStringLiteral("doctor\n"
                            "doctor --json")};
 }

@@ -27,20 +27,20 @@ public:
 CommandHelp FormatCommand::help() const
 {
     return {QStringLiteral("format"), QStringLiteral("SKELETON [MOMENT...]"),
-            QStringLiteral("Write moments with the fields that a skeleton names."),
-            QStringLiteral("Writes each MOMENT with the fields that SKELETON names, one text a line, for the\n"
-                           "region and clock of the device. No MOMENT means now; '-' takes one a line from\n"
-                           "standard input, reports the bad ones and goes on.\n\n") +
+            QStringLiteral("Format moments with the fields that a skeleton names."),
+            QStringLiteral("Formats each MOMENT (default: now) with the fields that SKELETON names, for the\n"
+                           "region and clock of the device, one text per line. '-' reads moments from standard\n"
+                           "input, one per line; invalid lines are reported and skipped.\n\n") +
                 Skeleton::description() +
-                QStringLiteral("\n\nMoments are ISO 8601 (2012-05-16, 2012-05-16T10:30, 2012-05-16T10:30:00.500Z,\n"
-                               "2012-05-16T10:30+02:00, 20120516T103000Z), RFC 2822 ('Wed, 16 May 2012 10:30:00\n"
-                               "+0200') or seconds since 1970 (@1337157000). Without an offset they are local\n"
-                               "time. A zone, and the date and time of seconds since 1970, are those of the\n"
-                               "device; GMT where it has no time zone."),
+                QStringLiteral("\n\nMoments are ISO 8601 (2012-09-03, 2012-09-03T10:30, 2012-09-03T10:30:00.500Z,\n"
+                               "2012-09-03T10:30+02:00, 20120903T083000Z), RFC 2822 ('Mon, 3 Sep 2012 10:30:00\n"
+                               "+0200') or seconds since 1970 (@1346661000). Without an offset they are local\n"
+                               "time. Zones, and seconds since 1970, use the time zone of the device (default:\n"
+                               "GMT)."),
             QStringLiteral("format yMMMMEEEEd\n"
-                           "format yMMMMEEEEd 2012-05-16 --locale fr_FR\n"
-                           "format hm 2012-05-16T22:30 --device region=en_US,hour-format=12\n"
-                           "format yMdhmz 2012-05-16T22:30Z --device time-zone=Asia/Tokyo\n"
+                           "format yMMMMEEEEd 2012-09-03 --locale fr_FR\n"
+                           "format hm 2012-09-03T22:30 --device region=en_US,hour-format=12\n"
+                           "format yMdhmz 2012-09-03T22:30Z --device time-zone=Asia/Tokyo\n"
                            "format yMMMd - < moments.txt")};
 }
 

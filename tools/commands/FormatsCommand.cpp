@@ -71,8 +71,8 @@ public:
 CommandHelp FormatsCommand::help() const
 {
     return {QStringLiteral("formats"), QString(), QStringLiteral("Show the date and time patterns of locales."),
-            QStringLiteral("Shows the patterns of a locale for dates, times and both together in all lengths,\n"
-                           "under the clock of the device and in Qt's syntax, and a moment written with each."),
+            QStringLiteral("Shows the date, time and date-time patterns of a locale in all lengths, in Qt syntax\n"
+                           "and under the clock of the device, each with a formatted moment."),
             QStringLiteral("formats\n"
                            "formats --locale ja_JP --locale fr_CA\n"
                            "formats --device region=en_US,hour-format=24")};
@@ -80,17 +80,16 @@ CommandHelp FormatsCommand::help() const
 
 QList<QCommandLineOption> FormatsCommand::options() const
 {
-    return {{QStringLiteral("locale"),
-             QStringLiteral("A locale, instead of the region of the device. May be given\nseveral times."),
+    return {{QStringLiteral("locale"), QStringLiteral("Locale (default: region of the device). Repeatable."),
              QStringLiteral("L")},
-            {QStringLiteral("at"), QStringLiteral("The moment to write; now without it."), QStringLiteral("MOMENT")}};
+            {QStringLiteral("at"), QStringLiteral("Moment to format (default: now)."), QStringLiteral("MOMENT")}};
 }
 
 ExitStatus FormatsCommand::run(const Arguments& arguments, Console& console) const
 {
     if (!arguments.positional().isEmpty()) {
-        throw Failure::usage(quoted(arguments.positional().first()) +
-                             QStringLiteral(" is no option; name a locale with --locale"));
+        throw Failure::usage(QStringLiteral("unexpected argument ") + quoted(arguments.positional().first()) +
+                             QStringLiteral("; use --locale for a locale"));
     }
     const QList<NamedLocale> locales = arguments.locales();
     Device::requireReadable();

@@ -44,10 +44,10 @@ public:
 
 CommandHelp PercentCommand::help() const
 {
-    return {QStringLiteral("percent"), QStringLiteral("VALUE... | -"), QStringLiteral("Write numbers as percentages."),
-            QStringLiteral("Writes each VALUE as a percentage, one a line: 0.25 becomes 25% in English. Values\n"
-                           "have a decimal point; 1 is a hundred percent. '-' takes one a line from standard\n"
-                           "input, reports the bad ones and goes on."),
+    return {QStringLiteral("percent"), QStringLiteral("VALUE... | -"), QStringLiteral("Format numbers as percentages."),
+            QStringLiteral("Formats each VALUE as a percentage, one per line: 0.25 is 25% in English. Values have\n"
+                           "a decimal point; 1 is 100 %. '-' reads values from standard input, one per line;\n"
+                           "invalid lines are reported and skipped."),
             QStringLiteral("percent 0.256\n"
                            "percent - < values.txt\n"
                            "percent --max 1 0.256 -0.5\n"
@@ -56,11 +56,9 @@ CommandHelp PercentCommand::help() const
 
 QList<QCommandLineOption> PercentCommand::options() const
 {
-    return {{QStringLiteral("locale"), QStringLiteral("The locale to write for; the region of the device without it."),
-             QStringLiteral("L")},
-            {QStringLiteral("min"), QStringLiteral("The fewest digits behind the decimal point; 0 without it."),
-             QStringLiteral("N")},
-            {QStringLiteral("max"), QStringLiteral("The most digits behind the decimal point; as --min without it."),
+    return {{QStringLiteral("locale"), QStringLiteral("Locale (default: region of the device)."), QStringLiteral("L")},
+            {QStringLiteral("min"), QStringLiteral("Minimum fraction digits (default: 0)."), QStringLiteral("N")},
+            {QStringLiteral("max"), QStringLiteral("Maximum fraction digits (default: value of --min)."),
              QStringLiteral("N")}};
 }
 

@@ -47,7 +47,7 @@ const QMap<QString, int>& wordings()
     return wordings;
 }
 
-/** A formatter as the options ask for it. */
+// A formatter with the options applied.
 class Formatters
 {
 public:
@@ -106,7 +106,7 @@ ExitStatus writeMoments(const Arguments& arguments, Console& console)
         });
 }
 
-/** The texts of one ladder: a column a locale, in the order of the rungs. */
+// The texts of one ladder: one column per locale, in the order of the rungs.
 struct LadderTexts
 {
     int type;
@@ -144,7 +144,7 @@ void writeJson(const LadderTexts& texts, Console& console)
     }
 }
 
-// The columns from one to another, side by side.
+// A range of columns, side by side.
 Table tableOf(const LadderTexts& texts, int from, int to)
 {
     Table table;
@@ -164,7 +164,7 @@ Table tableOf(const LadderTexts& texts, int from, int to)
     return table;
 }
 
-// As many columns side by side as the terminal has room for.
+// As many columns side by side as fit on the terminal.
 void writeTables(const LadderTexts& texts, Console& console)
 {
     const auto count = static_cast<int>(texts.locales.size());
@@ -203,7 +203,7 @@ ExitStatus writeLadders(const Arguments& arguments, Console& console)
     return Worked;
 }
 
-// `relative`: moments as seen from another one.
+// `relative`: moments relative to an anchor.
 class RelativeCommand : public Command
 {
 public:
@@ -217,45 +217,45 @@ public:
 CommandHelp RelativeCommand::help() const
 {
     return {QStringLiteral("relative"), QStringLiteral("MOMENT... | --table"),
-            QStringLiteral("Write moments as they are told from another one."),
-            QStringLiteral("Writes each MOMENT as it is told from an anchor, one text a line: 5 minutes ago,\n"
-                           "yesterday with a time, a weekday, a month and day, a month and year. '-' takes one\n"
-                           "moment a line from standard input, reports the bad ones and goes on.\n\n"
-                           "Moments are written as in 'format'. Those with an offset, and seconds since 1970,\n"
-                           "are converted to the time zone of the device; where it has none, to local time. To\n"
-                           "compare the dates and times that clocks in several zones showed, leave the offsets\n"
-                           "out.\n\n"
-                           "With --table, shows the whole ladder instead: moments at all distances that are told\n"
-                           "differently, before and after the anchor, for each locale. The anchor is then in the\n"
-                           "middle of a year and of a day, unless it is given."),
-            QStringLiteral("relative 2012-05-16T10:25 --anchor 2012-05-16T10:30\n"
+            QStringLiteral("Format moments relative to an anchor."),
+            QStringLiteral("Formats each MOMENT relative to an anchor, one text per line: 5 minutes ago,\n"
+                           "yesterday with a time, a weekday, a month and day, a month and year. '-' reads\n"
+                           "moments from standard input, one per line; invalid lines are reported and skipped.\n\n"
+                           "Moments are written as in 'format'. Moments with an offset, and seconds since 1970,\n"
+                           "are converted to the time zone of the device, or to local time where it has none.\n"
+                           "To compare the readings of clocks in several zones, omit the offsets.\n\n"
+                           "With --table, shows one moment for each slot of the formatting tables, before and\n"
+                           "after the anchor, for each locale."),
+            QStringLiteral("relative 2012-09-03T10:25 --anchor 2012-09-03T10:30\n"
                            "relative - --locale fr_FR --type non-time-critical < moments.txt\n"
-                           "relative 'Wed, 16 May 2012 10:25:00 +0200' --anchor @1337157000\n"
+                           "relative 'Mon, 3 Sep 2012 10:25:00 +0200' --anchor @1346661000\n"
                            "relative --table --locale en_GB --locale de_DE --locale ja_JP")};
 }
 
 QList<QCommandLineOption> RelativeCommand::options() const
 {
-    return {{QStringLiteral("type"),
-             QStringLiteral("time-critical: down to minutes, with the time beside a day.\nnon-time-critical: days and "
-                            "coarser. time-critical without it,\nboth with --table."),
-             QStringLiteral("TYPE")},
-            {QStringLiteral("anchor"), QStringLiteral("The moment to tell from; now without it."),
-             QStringLiteral("MOMENT")},
-            {QStringLiteral("clock"),
-             QStringLiteral("user: the clock of the device; locale: the one customary in\nthe locale; 12; 24. user "
-                            "without it."),
-             QStringLiteral("CLOCK")},
-            {QStringLiteral("locale"),
-             QStringLiteral("A locale, instead of the region of the device; several with\n--table."),
-             QStringLiteral("L")},
-            {QStringLiteral("wording"),
-             QStringLiteral("exact, or natural: \"now\" instead of \"in 0 minutes\", and near\ndays by name across "
-                            "the turn of the year (default: exact)."),
-             QStringLiteral("WORDING")},
-            {QStringLiteral("until"),
-             QStringLiteral("Append a tab and the anchor time at which the text changes,\nor \"never\".")},
-            {QStringLiteral("table"), QStringLiteral("Show the whole ladder.")}};
+    return {
+        {QStringLiteral("type"),
+         QStringLiteral("time-critical: down to minutes, days with the time.\nnon-time-critical: days and coarser.\n"
+                        "Default: time-critical; with --table both."),
+         QStringLiteral("TYPE")},
+        {QStringLiteral("anchor"),
+         QStringLiteral("Moment to count from (default: now; with --table:\n"
+                        "2012-09-03T10:30)."),
+         QStringLiteral("MOMENT")},
+        {QStringLiteral("clock"),
+         QStringLiteral("user: clock of the device; locale: clock customary in the\nlocale; 12; 24 (default: "
+                        "user)."),
+         QStringLiteral("CLOCK")},
+        {QStringLiteral("locale"), QStringLiteral("Locale (default: region of the device). Repeatable with\n--table."),
+         QStringLiteral("L")},
+        {QStringLiteral("wording"),
+         QStringLiteral("exact, or natural: \"now\" instead of \"in 0 minutes\", and near\ndays by name across "
+                        "the turn of the year (default: exact)."),
+         QStringLiteral("WORDING")},
+        {QStringLiteral("until"),
+         QStringLiteral("Append a tab and the anchor time at which the text changes,\nor \"never\".")},
+        {QStringLiteral("table"), QStringLiteral("Show one moment for each slot of the formatting tables.")}};
 }
 
 ExitStatus RelativeCommand::run(const Arguments& arguments, Console& console) const

@@ -27,13 +27,13 @@ public:
 CommandHelp WatchCommand::help() const
 {
     return {QStringLiteral("watch"), QStringLiteral("SKELETON [MOMENT]"),
-            QStringLiteral("Write a text again whenever the device changes."),
-            QStringLiteral("Writes MOMENT with the fields that SKELETON names, and writes it again whenever\n"
-                           "the clock, the time zone or the region of the device changes, until interrupted.\n"
-                           "Without MOMENT each line shows the time at which it is written.\n\n") +
+            QStringLiteral("Print a text whenever the device changes."),
+            QStringLiteral("Formats MOMENT (default: the current time of each line) with the fields that\n"
+                           "SKELETON names, and prints it again whenever the clock, the time zone or the region\n"
+                           "of the device changes, until interrupted.\n\n") +
                 Skeleton::description(),
             QStringLiteral("watch hm\n"
-                           "watch yMMMdhmz 2012-05-16T22:30Z")};
+                           "watch yMMMdhmz 2012-09-03T22:30Z")};
 }
 
 QList<QCommandLineOption> WatchCommand::options() const
@@ -56,7 +56,7 @@ ExitStatus WatchCommand::run(const Arguments& arguments, Console& console) const
     try {
         LiveText(skeleton, moment, console, arguments.json()).run();
     } catch (const Console::Interrupted&) {
-        // Being interrupted is how it ends.
+        // An interrupt is the normal end.
         return Worked;
     }
     return Worked;

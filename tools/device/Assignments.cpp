@@ -21,7 +21,7 @@ bool isTimeZone(const QString& value)
 void Assignments::requireKey(const QString& key)
 {
     if (!keys().contains(key)) {
-        throw Failure::usage(QStringLiteral("no setting ") + quoted(key) + QLatin1String("; there are ") +
+        throw Failure::usage(QStringLiteral("unknown setting ") + quoted(key) + QLatin1String("; settings: ") +
                              keys().join(QLatin1String(", ")));
     }
 }

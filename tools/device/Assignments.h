@@ -7,7 +7,7 @@
 
 namespace zel::tool {
 
-/** The settings of a device by the names that the command line has for them, and what they may be. */
+/** The settings of a device by their names on the command line, and their valid values. */
 class Assignments
 {
 public:
@@ -18,13 +18,13 @@ public:
     static QString region() { return QStringLiteral("region"); }
     static QStringList keys() { return {hourFormat(), timeZone(), region()}; }
 
-    /** A Failure where there is no such setting. */
+    /** Throws a Failure if there is no such setting. */
     static void requireKey(const QString& key);
 
-    /** What is wrong with a value; empty where it is good. */
+    /** The reason why a value is invalid; empty if it is valid. */
     static QString fault(const QString& key, const QString& value);
 
-    /** The values by their keys from words of the form KEY=VALUE, all of them checked. */
+    /** The checked values by key, from words of the form KEY=VALUE. */
     static QMap<QString, QString> parse(const QStringList& words);
 };
 

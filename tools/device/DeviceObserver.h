@@ -8,7 +8,7 @@
 
 namespace zel::tool {
 
-/** Tells when the device's clock, time zone or region becomes another one. Needs an event loop. */
+/** Reports changes of the device's clock, time zone or region. Needs an event loop. */
 class DeviceObserver : public QObject
 {
     Q_OBJECT

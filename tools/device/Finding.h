@@ -5,19 +5,19 @@
 
 namespace zel::tool {
 
-/** What a look at one part of the installation or the device found. */
+/** The result of checking one part of the installation or the device. */
 struct Finding
 {
     enum Status {
         Good,
-        Note, ///< worth knowing, but nothing is wrong
+        Note, ///< not a problem, but worth knowing
         Wrong
     };
 
     Status status;
     QString subject;
-    QString text;   ///< the value and where it comes from, or what is wrong
-    QString advice; ///< what to do about it, where there is something to do
+    QString text;   ///< the value with its source, or the problem
+    QString advice; ///< the remedy; empty if there is none
 };
 
 } // namespace zel::tool

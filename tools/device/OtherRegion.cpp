@@ -20,8 +20,7 @@ OtherRegion::OtherRegion(const Arguments& arguments)
 
 QCommandLineOption OtherRegion::option()
 {
-    return {QStringLiteral("locale"), QStringLiteral("The locale to format for (default: the region of the device)."),
-            QStringLiteral("L")};
+    return {QStringLiteral("locale"), QStringLiteral("Locale (default: region of the device)."), QStringLiteral("L")};
 }
 
 } // namespace zel::tool

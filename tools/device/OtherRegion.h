@@ -7,7 +7,7 @@
 
 namespace zel::tool {
 
-/** The region that --locale names, for this process, in the place of the device's; without --locale the device's. */
+/** Sets the region of this process to that of --locale, if given. */
 class OtherRegion
 {
 public:

@@ -41,7 +41,7 @@ SettingsLock::SettingsLock(const QString& path) : m_umask(::umask(readableByAll)
         QThread::msleep(pause);
         error = lock(m_directory);
     }
-    // Where there is no directory, the write says what is wrong.
+    // If there is no directory, the write reports it.
     if (error != 0 && error != ENOENT && error != ENOTDIR) {
         ::close(m_directory);
         ::umask(m_umask);

@@ -7,11 +7,11 @@
 namespace zel::tool {
 
 /**
- * Keeps others that take the lock from changing a settings object while this one lives. What is created meanwhile can
- * be read by every user, whatever the umask: settings are for all.
+ * Prevents other holders of the lock from changing a settings object. Files created meanwhile are readable by every
+ * user, regardless of the umask, as settings are for all users.
  *
- * The lock is on the object's directory, which is made where it is missing. It leaves no file, and ends with the
- * process. A Failure where it cannot be had in ten seconds.
+ * The lock is on the object's directory, which is created if missing. It leaves no file, and ends with the process.
+ * Throws a Failure after a timeout of ten seconds.
  */
 class SettingsLock
 {

@@ -6,22 +6,22 @@
 
 namespace zel::tool {
 
-/** One settings object of the device platform, read and written as a whole. */
+/** A settings object of the device platform, read and written as a whole. */
 class SettingsObject
 {
 public:
     enum State {
         Readable,
         Missing,
-        Torn,      ///< there, but not of the form of a settings object
-        Unreadable ///< not to be looked at, and so not to be mended
+        Torn,      ///< not of the form of a settings object
+        Unreadable ///< cannot be read, and so cannot be fixed
     };
 
     /** Reads the object. */
     explicit SettingsObject(const QString& path);
 
     State state() const { return m_state; }
-    /** The file and what is wrong with it. */
+    /** The file and the reason why it cannot be used. */
     QString fault() const { return m_fault; }
     QVariantMap attributes() const { return m_attributes; }
 

@@ -17,7 +17,7 @@ ThrowAwayDevice::ThrowAwayDevice(const QString& settings)
     Device::set(values, {});
     const QString zone = values.value(Assignments::timeZone());
     if (!zone.isEmpty()) {
-        qputenv("TZ", zone.toUtf8()); // moments without a zone are the device's, too
+        qputenv("TZ", zone.toUtf8()); // moments without an offset are in the device's zone
     }
 }
 

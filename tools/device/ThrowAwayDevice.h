@@ -6,8 +6,7 @@
 
 namespace zel::tool {
 
-/** A device that exists as long as this object: from now on the settings of the process are those of a directory of its
- * own. */
+/** A simulated device: while this object exists, the settings of the process are those of a temporary directory. */
 class ThrowAwayDevice
 {
 public:

@@ -33,7 +33,7 @@ sigset_t endingSignals()
     sigemptyset(&set);
     sigaddset(&set, SIGINT);
     sigaddset(&set, SIGTERM);
-    // Under nohup the program is meant to outlive its terminal.
+    // Under nohup the program must outlive its terminal.
     struct sigaction hangup = {};
     if (sigaction(SIGHUP, nullptr, &hangup) == 0 && hangup.sa_handler != SIG_IGN) {
         sigaddset(&set, SIGHUP);
@@ -84,7 +84,7 @@ void Console::flush()
 
 int Console::writeSome(const char* text, int size) const
 {
-    // A pipe that can be written to takes this much without making us wait.
+    // A writable pipe accepts this much without blocking.
     waitFor(STDOUT_FILENO, POLLOUT);
     const auto written = ::write(STDOUT_FILENO, text, static_cast<std::size_t>(std::min(size, PIPE_BUF)));
     if (written >= 0) {

@@ -10,20 +10,19 @@ namespace zel::tool {
 /**
  * Standard input, output and error, and the signals that ask the program to end.
  *
- * Output is UTF-8 whatever the locale, and collected until flush() or until there is a good deal of it. While a console
- * exists, an interrupt or termination does not end the process at once: a wait ends with Interrupted instead, so that
- * what has to be cleaned up is.
+ * Output is UTF-8 in every locale, and buffered up to 32 KiB or until flush(). While a console exists, SIGINT and
+ * SIGTERM do not end the process at once: a wait ends with Interrupted instead, so that destructors run.
  */
 class Console
 {
 public:
-    /** Thrown when a signal asks the program to end. */
+    /** Thrown when a signal requests termination. */
     struct Interrupted
     {
         int signal;
     };
 
-    /** Thrown when output cannot be written. There is no reason to tell where it is just not read any more. */
+    /** Thrown when output cannot be written. Without a text if the reader closed the pipe. */
     struct OutputFailed
     {
         QString reason;
@@ -34,27 +33,27 @@ public:
     Q_DISABLE_COPY(Console)
 
     void line(const QString& text);
-    /** One JSON document on a line of its own. */
+    /** Prints one JSON document on a line. */
     void json(const QJsonObject& object);
     void flush();
 
-    /** One line on standard error, behind all output so far. */
+    /** Prints one line on standard error, after all output so far. */
     void complain(const QString& text);
 
-    /** Reads what is there, and waits only where nothing is. Answers the number of bytes, 0 at the end. */
+    /** Reads available input, and waits only if there is none. Returns the number of bytes, 0 at the end. */
     int read(char* target, int size);
 
-    /** The bytes that are left to read in a file, as it is now; 0 for any other input. */
+    /** The bytes left to read if standard input is a file; 0 for any other input. */
     qint64 inputSize() const;
 
-    /** Readable when a signal asks the program to end. */
+    /** A descriptor that is readable when a signal requests termination. */
     int signalDescriptor() const { return m_signals; }
 
-    /** Takes the signal that asks the program to end, where there is one: its number, otherwise 0. */
+    /** Takes the signal that requests termination and returns its number; 0 if there is none. */
     int takeSignal() const;
 
     bool isTerminal() const;
-    /** The width of the terminal; a very large number where the output is none. */
+    /** The width of the terminal; a very large number if the output is not a terminal. */
     int columns() const;
 
 private:

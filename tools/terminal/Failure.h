@@ -6,14 +6,14 @@
 
 namespace zel::tool {
 
-/** What the program tells its caller. */
+/** The exit status of the program. */
 enum ExitStatus {
     Worked = 0,
-    NoAnswer = 1, ///< bad input, or something that the library cannot answer
-    BadUsage = 2  ///< the words of the command line make no sense
+    NoAnswer = 1, ///< invalid input, or no result from the library
+    BadUsage = 2  ///< wrong command line
 };
 
-/** The end of a command that cannot do its work, with the one line to be shown. */
+/** The error that ends a command, with a text of one line. */
 class Failure : public std::runtime_error
 {
 public:
@@ -30,13 +30,13 @@ private:
     ExitStatus m_status;
 };
 
-/** A text on one line, with nothing in it that a terminal obeys. */
+/** A text on one line, without control characters. */
 QString printable(QString text);
 
-/** A word of the user's in quotes, on one line and not too much of it. */
+/** A user's word in quotes, on one line and shortened if it is long. */
 QString quoted(const QString& word);
 
-/** A Failure where connect() did not connect. */
+/** A Failure if connect() did not connect. */
 void requireConnection(bool isConnected);
 
 } // namespace zel::tool

@@ -12,9 +12,8 @@ namespace zel::tool {
 class Console;
 
 /**
- * Standard input line by line, in the same memory however much it is. Everything written so far is flushed before more
- * is waited for, so that a pipe that is fed slowly answers line by line. A file that is read for another file or a pipe
- * has a progress bar.
+ * Reads standard input line by line in constant memory. Output is flushed before a wait, so that a slow pipe gets its
+ * results line by line. Shows a progress bar when a file is read into another file or a pipe.
  */
 class LineReader
 {
@@ -25,12 +24,12 @@ public:
     void eraseProgress();
 
     /**
-     * The next line without its end, nothing at the end of the input. Of a line that is longer than any that makes
-     * sense, only the beginning. Valid until a call that is made while hasLine() is false.
+     * The next line without its end; none at the end of the input. Of a line that is too long to be valid, only the
+     * beginning. Valid until a call made while hasLine() is false.
      */
     std::optional<std::string_view> next();
 
-    /** Whether the next line is there already, so that next() does not wait for it. */
+    /** Whether next() can return a line without waiting. */
     bool hasLine() const { return pending().find('\n') != std::string_view::npos; }
 
     /** The number of the line that next() returned, from 1. */

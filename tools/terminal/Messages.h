@@ -6,7 +6,7 @@
 
 namespace zel::tool {
 
-/** Takes the messages of the library in place of standard error as long as it exists; one at a time, in one thread. */
+/** Collects the messages of the library, instead of standard error, while it exists. One at a time, on one thread. */
 class Messages
 {
 public:

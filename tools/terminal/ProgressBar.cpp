@@ -22,7 +22,7 @@ void ProgressBar::show(qint64 done, const QString& name)
     }
     const int percent = m_total == 0 ? 100 : static_cast<int>(done * 100 / m_total);
     const QString bar = QString(percent * width / 100, QLatin1Char('#')).leftJustified(width, QLatin1Char('.'));
-    // NOLINTNEXTLINE(cert-err33-c): there is nowhere else to complain
+    // NOLINTNEXTLINE(cert-err33-c): an error cannot be reported elsewhere
     std::fprintf(stderr, "%s[%s] %3d %% %s", eraseLine, qPrintable(bar), percent, qPrintable(name));
     m_drawn = true;
 }
@@ -30,7 +30,7 @@ void ProgressBar::show(qint64 done, const QString& name)
 void ProgressBar::erase()
 {
     if (std::exchange(m_drawn, false)) {
-        std::fputs(eraseLine, stderr); // NOLINT(cert-err33-c): there is nowhere else to complain
+        std::fputs(eraseLine, stderr); // NOLINT(cert-err33-c): an error cannot be reported elsewhere
     }
 }
 

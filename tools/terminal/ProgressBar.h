@@ -5,7 +5,7 @@
 
 namespace zel::tool {
 
-/** How far the work is, on standard error where that is a terminal; nothing is left of it in the end. */
+/** A progress bar on standard error, if that is a terminal; erased at the end. */
 class ProgressBar
 {
 public:
@@ -13,7 +13,7 @@ public:
     ~ProgressBar() { erase(); }
     Q_DISABLE_COPY(ProgressBar)
 
-    /** Shows that one more is about to be done. */
+    /** Starts the next step. */
     void step(const QString& name) { show(m_done++, name); }
 
     /** Shows how much is done. */

@@ -10,18 +10,17 @@ namespace zel::tool {
 class Console;
 
 /**
- * Text in columns that stand below each other on a terminal, where a Chinese character is two columns wide and a
- * combining one none.
+ * Aligned columns of text on a terminal, where a Chinese character is two columns wide and a combining one none.
  */
 class Table
 {
 public:
     void add(const QStringList& cells) { m_rows.append(cells); }
 
-    /** The columns that the table takes on a terminal. */
+    /** The width of the table on a terminal. */
     int width() const;
 
-    /** On a terminal, text that runs from right to left is isolated, so that its neighbours stay in their place. */
+    /** On a terminal, right-to-left text is isolated, so that its neighbours keep their places. */
     void write(Console& console) const;
 
 private:

@@ -7,9 +7,9 @@
 namespace zel::tool {
 
 /**
- * An environment that names a UTF-8 character set, for as long as the object lives. The process's C locale keeps the
- * character set; its other categories, and the environment that the region is read from, are the caller's again
- * afterwards. Changes nothing where the environment names UTF-8 already. To be used before the first thread starts.
+ * Sets a UTF-8 character set in the environment while the object exists. The process's C locale keeps the character
+ * set; its other categories, and the environment that the region is read from, are restored afterwards. Does nothing if
+ * the environment has UTF-8 already. Use before the first thread starts.
  */
 class Utf8Environment
 {

@@ -8,7 +8,7 @@ namespace zel::tool {
 
 class Console;
 
-/** Writes the texts for moments, one a line, as they are or as JSON beside the moment. */
+/** Prints the texts of moments, one per line, plain or as JSON with the moment. */
 class Answers
 {
 public:
@@ -17,7 +17,7 @@ public:
     /** An empty text is a Failure. */
     void write(const QDateTime& moment, const QString& text) const;
 
-    /** The same with the moment at which the text changes, which is invalid for a text that never does. */
+    /** The same with the time at which the text changes; invalid for a text that never changes. */
     void write(const QDateTime& moment, const QString& text, const QDateTime& until) const;
 
 private:

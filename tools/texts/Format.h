@@ -8,7 +8,7 @@
 
 namespace zel::tool {
 
-/** One of the patterns that the library has for every locale: a kind, such as "date", in a length, such as "short". */
+/** One of the patterns of every locale: a kind, such as "date", in a length, such as "short". */
 class Format
 {
 public:

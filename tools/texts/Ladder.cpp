@@ -51,7 +51,7 @@ QDateTime moved(const QDateTime& anchor, Unit unit, int count)
     return anchor.addSecs(count * qint64(60));
 }
 
-/** A shorter distance where the usual one leaves the day of the anchor, on which hours and minutes are told. */
+// A shorter distance if the usual one leaves the anchor's day, as hours and minutes are for the same day only.
 Distance fitting(const QDateTime& anchor, const Distance& distance, int sign)
 {
     const bool leavesDay = moved(anchor, distance.unit, sign * distance.count).date() != anchor.date();

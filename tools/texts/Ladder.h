@@ -7,7 +7,7 @@
 
 namespace zel::tool {
 
-/** A distance from the anchor, and the moment that lies there. */
+/** A distance from the anchor, and the moment at that distance. */
 struct Rung
 {
     QString distance;
@@ -15,8 +15,8 @@ struct Rung
 };
 
 /**
- * Moments from long before an anchor to long after it. Around noon in the middle of a year there is one for every way
- * in which a relative date can be told.
+ * Moments from long before an anchor to long after it. With an anchor around noon in the middle of a year, there is one
+ * for each slot of the table.
  */
 class Ladder
 {
@@ -26,7 +26,7 @@ public:
     /** @param type a RelativeDateFormat::Type */
     static QList<Rung> rungs(int type, const QDateTime& anchor);
 
-    /** An anchor from which every way is seen. */
+    /** An anchor with a moment for each slot. */
     static QDateTime exampleAnchor() { return {QDate(2012, 9, 3), QTime(10, 30)}; }
 };
 

@@ -30,7 +30,7 @@ void LiveText::run()
 {
     QTimer::singleShot(0, this, SLOT(write()));
     m_loop.exec();
-    // Being asked to end is how it ends, so that there is nothing left to tell.
+    // A signal is the normal end and not reported.
     m_console.takeSignal();
     if (m_failure) {
         std::rethrow_exception(m_failure);
@@ -61,7 +61,7 @@ try {
     m_answers.write(moment, CustomDateFormatter(m_skeleton).format(moment));
     m_console.flush();
 } catch (...) {
-    // The event loop cannot be left by an exception.
+    // An exception cannot leave the event loop.
     m_failure = std::current_exception();
     m_loop.quit();
 }

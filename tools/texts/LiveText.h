@@ -16,14 +16,14 @@ namespace zel::tool {
 
 class Console;
 
-/** A text that is written again whenever the device changes, until a signal asks for the end. */
+/** Prints a text whenever the device changes, until a signal requests termination. */
 class LiveText : public QObject
 {
     Q_OBJECT
     Q_DISABLE_COPY(LiveText)
 
 public:
-    /** @param moment what to show; the time of writing where there is nothing */
+    /** @param moment the moment to show; the current time if empty */
     LiveText(const QString& skeleton, const std::optional<QDateTime>& moment, Console& console, bool json);
 
     void run();

@@ -47,7 +47,7 @@ std::optional<int> offset(Scanner& scanner)
     return sign * (distance.isValid() ? QTime(0, 0).secsTo(distance) : largestOffset + 1);
 }
 
-// 2012-05-16T10:30:00+02:00, 20120516T103000Z
+// 2012-09-03T10:30:00+02:00, 20120903T083000Z
 Reading iso(Scanner& scanner)
 {
     const int year = scanner.number(4);
@@ -74,7 +74,7 @@ std::optional<int> mailZone(Scanner& scanner)
     return 0;
 }
 
-// Wed, 16 May 2012 10:30:00 +0200 (CEST)
+// Mon, 3 Sep 2012 10:30:00 +0200 (CEST)
 Reading mail(Scanner& scanner)
 {
     constexpr const char* blank = " ";
@@ -102,7 +102,7 @@ Reading mail(Scanner& scanner)
     return {weekday == 0 || weekday == day.dayOfWeek() ? day : QDate(), clock, distance};
 }
 
-// @1346690100, @-1.5
+// @1346661000, @-1.5
 QDateTime epoch(Scanner& scanner)
 {
     constexpr qint64 largest = 1000000000000; // in the year 33658
@@ -118,7 +118,7 @@ QDateTime dateTime(const Reading& reading)
     if (!reading.offset) {
         return {reading.day, reading.time};
     }
-    // Constructors that take an offset are deprecated in Qt 6.9, and what replaces them is not in Qt 5.
+    // Constructors with an offset are deprecated in Qt 6.9; their replacement is not in Qt 5.
     QDateTime moment = QDateTime::fromMSecsSinceEpoch(0).toUTC();
     moment.setDate(reading.day);
     moment.setTime(reading.time);
@@ -128,7 +128,7 @@ QDateTime dateTime(const Reading& reading)
 void requireForm(bool condition, std::string_view text)
 {
     Moment::require(condition, text,
-                    QStringLiteral(" is not a moment such as 2012-05-16 or 2012-05-16T10:30:00+02:00"));
+                    QStringLiteral(" is not a moment such as 2012-09-03 or 2012-09-03T10:30:00+02:00"));
 }
 
 } // namespace

@@ -7,14 +7,14 @@
 
 namespace zel::tool {
 
-/** How moments are written on the command line. */
+/** The syntax of moments on the command line. */
 class Moment
 {
 public:
     Moment() = delete;
 
     /**
-     * Reads one of these; anything else is a Failure:
+     * Parses one of these; anything else is a Failure:
      * - ISO 8601, extended or compact: a date alone, which is midnight, or a date and a time with or without seconds, a
      *   fraction of them, and `Z` or an offset. Without an offset it is the local time of the process.
      * - RFC 2822, as in mail and HTTP, with or without a weekday.
@@ -22,10 +22,10 @@ public:
      */
     static QDateTime parse(std::string_view text);
 
-    /** Whether a text is a number of seconds, which names a moment but no date and time of anybody's clock. */
+    /** Whether a text is a number of seconds: an instant without a date and time in a zone. */
     static bool isEpoch(std::string_view text) { return !text.empty() && text.front() == '@'; }
 
-    /** A Failure with the text and the reason unless a condition holds. */
+    /** Throws a Failure with the text and the reason unless a condition holds. */
     static void require(bool condition, std::string_view text, const QString& reason);
 
     /** @param moment in the years 1 to 9999 */

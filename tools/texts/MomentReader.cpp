@@ -17,7 +17,7 @@ QTimeZone zoneOfDevice(const QTimeZone& fallback)
 
 } // namespace
 
-// Moments without an offset are local times of the process, so that those compared with them are, too, if need be.
+// Local time as a fallback, like that of moments without an offset, with which these may be compared.
 MomentReader::MomentReader(Offsets offsets)
     : m_offsets(offsets),
       m_zone(zoneOfDevice(offsets == Kept ? QTimeZone("GMT") : QTimeZone::systemTimeZone()))

@@ -8,27 +8,26 @@
 
 namespace zel::tool {
 
-/** Reads moments for commands, some of them as the clock of the device shows them. Takes the time zone of the device
- * once. */
+/** Reads moments for commands, in the time zone of the device where needed. Reads that zone once. */
 class MomentReader
 {
 public:
-    /** What becomes of the date and the time of a moment that is written with an offset. */
+    /** The treatment of moments with an offset. */
     enum Offsets {
-        Kept,     ///< they stay as they are written
-        Converted ///< they become those of the device, or of the process where the device has no time zone
+        Kept,     ///< date and time stay as written
+        Converted ///< converted to the time zone of the device, or of the process if the device has none
     };
 
     explicit MomentReader(Offsets offsets);
 
     /**
-     * Moment::parse(), with the offset treated as chosen. Seconds since 1970 have no date and time of their own and get
-     * those of the device, or of GMT where it has no time zone and offsets are kept.
+     * Moment::parse(), with offsets treated as chosen. Seconds since 1970 are converted to the time zone of the device;
+     * if it has none and offsets are kept, to GMT.
      */
     QDateTime read(std::string_view text) const;
     QDateTime read(const QString& text) const { return read(std::string_view(text.toStdString())); }
 
-    /** The current time as the clock of the device shows it. */
+    /** The current time in the time zone of the device. */
     QDateTime now() const { return QDateTime::currentDateTimeUtc().toTimeZone(m_zone); }
 
 private:

@@ -16,7 +16,7 @@ Moments::Moments(const QStringList& words, const MomentReader& reader)
     }
     for (const QString& word : words) {
         if (word == QLatin1String("-")) {
-            throw Failure::usage(QStringLiteral("'-' for standard input does not go with other moments"));
+            throw Failure::usage(QStringLiteral("'-' for standard input cannot be combined with other moments"));
         }
         m_moments.append(m_reader.read(word));
     }

@@ -11,7 +11,7 @@ namespace zel::tool {
 
 class Console;
 
-/** The moments that a command was given: as words, as lines of standard input for the single word "-", or now. */
+/** The moments of a command: its words, the lines of standard input for the single word "-", or now. */
 class Moments
 {
 public:
@@ -21,8 +21,8 @@ public:
     Moments(const QStringList& words, const MomentReader& reader);
 
     /**
-     * Formats all moments and hands each text to the writer. Words are all looked at before the first is formatted;
-     * lines are answered as LineAnswers does.
+     * Formats all moments and passes each text to the writer. All words are parsed before the first is formatted; lines
+     * are handled by LineAnswers.
      */
     ExitStatus format(Console& console, bool json, const Formatter& formatter, const Writer& writer) const;
 

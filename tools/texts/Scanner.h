@@ -6,13 +6,13 @@
 
 namespace zel::tool {
 
-/** Reads a text from left to right. After the first character that is not as expected, isAtEnd() stays false. */
+/** Reads a text from left to right. After the first unexpected character, isAtEnd() stays false. */
 class Scanner
 {
 public:
     explicit Scanner(std::string_view text) : m_rest(text) {}
 
-    /** Whether all of the text has been read and was as expected. */
+    /** Whether the whole text has been read as expected. */
     bool isAtEnd() const { return m_good && m_rest.empty(); }
 
     bool startsWith(std::string_view characters) const
@@ -21,16 +21,16 @@ public:
     }
     bool startsWithDigit() const { return startsWith("0123456789"); }
 
-    /** Takes the next character if it is one of these, and returns whether it was. */
+    /** Skips the next character if it is one of these, and returns whether it was. */
     bool accept(std::string_view characters);
     void expect(std::string_view characters) { m_good = accept(characters) && m_good; }
 
-    /** Takes as many characters of these as there are. */
+    /** Skips all following characters of these. */
     void skip(std::string_view characters);
 
-    /** A number of exactly so many digits. */
+    /** A number with exactly this many digits. */
     int number(int digits);
-    /** A number of any length; the largest of its type where it is larger. */
+    /** A number of any length, limited to the largest of its type. */
     qint64 integer();
     /** A decimal fraction in thousandths; further digits are ignored. */
     int thousandths();

@@ -22,10 +22,10 @@ QString Skeleton::from(const QStringList& words)
 QString Skeleton::description()
 {
     return QStringLiteral("A skeleton names fields in any order and without punctuation: y year, M month\n"
-                          "(MMM its short name, MMMM its name), d day, E weekday (EEEE its name), h hour on\n"
-                          "the clock of the device, m minute, s second, z time zone. The region decides how\n"
-                          "they are put together. Without z, date and time are shown as they are written;\n"
-                          "with it, the moment is shown in the time zone of the device.");
+                          "(MMM short name, MMMM full name), d day, E weekday (EEEE full name), h hour under\n"
+                          "the clock of the device, m minute, s second, z time zone. The locale decides on\n"
+                          "order and punctuation. Without z, date and time are shown as written; with it, the\n"
+                          "moment is shown in the time zone of the device.");
 }
 
 } // namespace zel::tool

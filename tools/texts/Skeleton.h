@@ -12,10 +12,10 @@ class Skeleton
 public:
     Skeleton() = delete;
 
-    /** The first word, which must hold field letters and nothing else. */
+    /** The first word; a Failure unless it has field letters only. */
     static QString from(const QStringList& words);
 
-    /** What the commands that take a skeleton say about it. */
+    /** The help text about skeletons. */
     static QString description();
 };
 
