@@ -1,4 +1,4 @@
-# What the library stands on: Qt Core of the chosen major version, and ICU. On a desktop it also asks the settings portal.
+# The dependencies: Qt Core of the chosen major version, and ICU. The desktop build also needs Qt D-Bus.
 
 set(qtComponents Core)
 if(ZEL_PLATFORM STREQUAL desktop)

@@ -27,7 +27,7 @@ endif()
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/include/zel/utility"
     DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/zel" COMPONENT development)
 
-# The CMake package and the pkg-config module. ICU is behind the library: nobody needs it to build against it.
+# The CMake package and the pkg-config module. ICU is private: applications do not need it to build.
 set(qtVersion "${Qt${ZEL_QT_MAJOR}Core_VERSION_MAJOR}.${Qt${ZEL_QT_MAJOR}Core_VERSION_MINOR}")
 install(EXPORT ZelUtilityI18nTargets NAMESPACE Zel:: DESTINATION "${packageDirectory}" COMPONENT development)
 configure_package_config_file("${CMAKE_CURRENT_LIST_DIR}/ZelUtilityI18nConfig.cmake.in"

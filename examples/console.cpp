@@ -12,7 +12,7 @@ namespace {
 
 const QDateTime moment(QDate(2012, 9, 3), QTime(22, 30));
 
-// A pattern is in Qt's syntax, and QLocale writes with it.
+// A pattern is in Qt syntax, for QLocale.
 void showPatterns(QTextStream& out)
 {
     const QLocale french(QStringLiteral("fr_FR"));
@@ -33,7 +33,7 @@ void showPercentages(QTextStream& out)
         << "  " << toPercentageString(0.5, 2, 2) << '\n';
 }
 
-// A skeleton names the fields; the region decides how they are put together.
+// A skeleton names the fields; the region decides on order and punctuation.
 void showCustomDates(QTextStream& out)
 {
     CustomDateFormatter formatter(QStringLiteral("yMMMMEEEEd"));
@@ -60,12 +60,12 @@ void showRelativeDates(QTextStream& out)
     formatter.applyUserRegionLocale();
     out << "  in the user's region again: " << formatter.format(moment.addSecs(-300)) << '\n';
 
-    // Another ladder starts from the defaults, the current time as its anchor too.
+    // Another table resets everything to the defaults, the anchor to the current time.
     formatter.setType(RelativeDateFormat::NonTimeCritical);
     formatter.setAnchorTime(moment);
     out << "  in days, as type " << formatter.type() << ": " << formatter.format(moment.addSecs(-300)) << '\n';
 
-    // Whoever shows texts makes them anew when the formatter says that it has changed.
+    // Format texts again when the formatter reports a change.
     QObject::connect(&formatter, &RelativeDateFormatter::changed,
                      [&] { out << "  as of now: " << formatter.format(QDateTime::currentDateTime()) << '\n'; });
     formatter.applyCurrentTimeAsAnchor();

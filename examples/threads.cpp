@@ -1,4 +1,4 @@
-// Eight threads write dates at the same time, each with formatters of its own.
+// Eight threads format dates at the same time, each with its own formatters.
 //
 // usage: example_threads
 #include <array>

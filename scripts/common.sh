@@ -1,9 +1,9 @@
-# What the scripts share: the place they work in, and how a preset is built.
+# Shared by the scripts: the working directory, and building a preset.
 # shellcheck shell=bash
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-# Qt expects UTF-8 and says so on stderr where a bare machine has nothing but the C locale.
+# Qt warns in the C locale of a clean system.
 [ "$(locale charmap 2>/dev/null)" = UTF-8 ] || export LC_ALL=C.UTF-8
 
 if command -v ccache >/dev/null; then
@@ -19,13 +19,13 @@ fail() {
     exit 1
 }
 
-# build_dir PRESET: where a preset is built, for another kind of machine after prepare_target.
+# build_dir PRESET: the build directory of a preset, after prepare_target that for another architecture.
 build_dir() {
     local directory=build-$1${target:+-$target}
     echo "${directory/#build-dev/build}"
 }
 
-# configure PRESET: warnings are errors only where the caller exports ZEL_WERROR=ON, as CI does with its one compiler.
+# configure PRESET: warnings are errors only if the caller exports ZEL_WERROR=ON, as CI does with its one compiler.
 configure() {
     local output
     output=$(cmake --preset "$1" -B "$(build_dir "$1")" "${target_options[@]}" "-DZEL_WERROR=${ZEL_WERROR:-OFF}" 2>&1) ||
@@ -46,7 +46,7 @@ build() {
     fi
 }
 
-# sources: every C++ file of the project, also those not yet committed.
+# sources: every C++ file of the project, committed or not.
 sources() {
     git ls-files --cached --others --exclude-standard --deduplicate -- '*.cpp' '*.h' | while IFS= read -r file; do
         [ ! -e "$file" ] || printf '%s\n' "$file"

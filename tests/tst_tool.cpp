@@ -638,7 +638,7 @@ private Q_SLOTS:
         for (const char* const row :
              {"de_DE\t12-hour clock\ttime\tshort\th:mm AP\t10:30 PM\t\n",
               "de_DE\t24-hour clock\ttime\tshort\thh:mm\t22:30\t\n",
-              "de_DE\t24-hour clock\tcustom\tyMMMMEEEEdhm\tyMMMMEEEEdhm\tMittwoch, 16. Mai 2012 um 22:30\t\n",
+              "de_DE\t24-hour clock\tcustom\tyMMMMEEEEdhm\tyMMMMEEEEdhm\tMontag, 3. September 2012 um 22:30\t\n",
               "de_DE\t24-hour clock\tpercentage\t0.256\t\t25,6\u00a0%\t\n",
               "ar_EG\t12-hour clock\trelative, minutes\t11 minutes before\t\tقبل ١١ دقيقة\t\n",
               "de_DE\t24-hour clock\trelative, on 1 January, natural wording\t31 minutes before\t\tgestern, 23:59\t\n",

@@ -27,7 +27,7 @@ std::unique_ptr<Command> galleryCommand();
 /** `device`: the settings of the device. */
 std::unique_ptr<Command> deviceCommand();
 
-/** `doctor`: what there is, and where it comes from. */
+/** `doctor`: the state of the installation. */
 std::unique_ptr<Command> doctorCommand();
 
 } // namespace zel::tool

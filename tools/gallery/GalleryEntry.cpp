@@ -49,33 +49,6 @@ QList<Rung> aroundNewYear()
             {QStringLiteral("0 minutes"), newYear()}};
 }
 
-// One for each plural category of any language.
-QList<Rung> minutes()
-{
-    QList<Rung> before;
-    QList<Rung> after;
-    for (const int count : {1, 2, 3, 5, 11, 21}) {
-        const QString name =
-            QStringLiteral("%1 %2 %3").arg(count).arg(QLatin1String(count == 1 ? "minute" : "minutes"));
-        before.prepend({name.arg(QLatin1String("before")), Ladder::exampleAnchor().addSecs(-60 * count)});
-        after.append({name.arg(QLatin1String("after")), Ladder::exampleAnchor().addSecs(60 * count)});
-    }
-    return before + QList<Rung>{{QStringLiteral("0 minutes"), Ladder::exampleAnchor()}} + after;
-}
-
-QDateTime newYear()
-{
-    return {QDate(2013, 1, 1), QTime(0, 30)};
-}
-
-// Where the wordings differ.
-QList<Rung> aroundNewYear()
-{
-    return {{QStringLiteral("2 days before"), newYear().addDays(-2)},
-            {QStringLiteral("31 minutes before"), newYear().addSecs(-31 * 60)},
-            {QStringLiteral("0 minutes"), newYear()}};
-}
-
 /** Collects rows, each with the messages that came up while it was made. */
 class Rows
 {
