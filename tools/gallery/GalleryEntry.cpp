@@ -22,6 +22,8 @@ QDateTime moment()
     return QDateTime::fromString(QStringLiteral("2012-09-03T22:30Z"), Qt::ISODate);
 }
 
+constexpr qint64 minute = 60;
+
 // One for each plural category of any language.
 QList<Rung> minutes()
 {
@@ -30,8 +32,8 @@ QList<Rung> minutes()
     for (const int count : {1, 2, 3, 5, 11, 21}) {
         const QString name =
             QStringLiteral("%1 %2 %3").arg(count).arg(QLatin1String(count == 1 ? "minute" : "minutes"));
-        before.prepend({name.arg(QLatin1String("before")), Ladder::exampleAnchor().addSecs(-60 * count)});
-        after.append({name.arg(QLatin1String("after")), Ladder::exampleAnchor().addSecs(60 * count)});
+        before.prepend({name.arg(QLatin1String("before")), Ladder::exampleAnchor().addSecs(-minute * count)});
+        after.append({name.arg(QLatin1String("after")), Ladder::exampleAnchor().addSecs(minute * count)});
     }
     return before + QList<Rung>{{QStringLiteral("0 minutes"), Ladder::exampleAnchor()}} + after;
 }
@@ -45,7 +47,7 @@ QDateTime newYear()
 QList<Rung> aroundNewYear()
 {
     return {{QStringLiteral("2 days before"), newYear().addDays(-2)},
-            {QStringLiteral("31 minutes before"), newYear().addSecs(-31 * 60)},
+            {QStringLiteral("31 minutes before"), newYear().addSecs(-31 * minute)},
             {QStringLiteral("0 minutes"), newYear()}};
 }
 

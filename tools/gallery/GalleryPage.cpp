@@ -29,6 +29,7 @@ header{position:sticky;top:0;z-index:1;display:flex;flex-wrap:wrap;gap:.3rem 1.2
 background:var(--card);border-bottom:1px solid var(--line)}
 h1{margin:0;font-size:1.15rem}
 label,output{white-space:nowrap}
+output{margin-inline-start:.6rem}
 header p{margin:0;flex:1;min-width:16rem;color:var(--faint)}
 input[type=search]{font:inherit;width:15rem;max-width:100%;padding:.3rem .6rem;border:1px solid var(--line);
 border-radius:.4rem;background:var(--paper);color:inherit}
@@ -160,9 +161,10 @@ QByteArray label(const QString& text)
     return "<bdi>" + escaped(text).replace("EEEE", "<wbr>EEEE") + "</bdi>";
 }
 
-QByteArray shown(const GalleryText& text, const QString& name)
+// The text, and its pattern unless that is known.
+QByteArray shown(const GalleryText& text, const QString& known)
 {
-    const bool hasPattern = !text.pattern.isEmpty() && text.pattern != name;
+    const bool hasPattern = !text.pattern.isEmpty() && text.pattern != known;
     return breakable(text.text) + (hasPattern ? "<code lang=en>" + breakable(text.pattern) + "</code>" : QByteArray());
 }
 
@@ -171,7 +173,7 @@ QByteArray cell(const GalleryRow& row, int columns)
     QByteArray html = columns > 1 ? "<td colspan=" + QByteArray::number(columns) + '>' : QByteArray("<td>");
     html += shown(row.now, row.name);
     if (row.before) {
-        html += "<del>" + label(QStringLiteral("before: ")) + shown(*row.before, row.name) + "</del>";
+        html += "<del>" + label(QStringLiteral("before: ")) + shown(*row.before, row.now.pattern) + "</del>";
     }
     for (const QString& note : row.notes) {
         html += "<em lang=en>" + escaped(note).replace("::", "::<wbr>") + "</em>";
