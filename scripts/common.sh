@@ -67,7 +67,7 @@ register_package() {
     name=$(dpkg-deb --field "$1" Package)
     [ "$(dpkg-deb --field "$1" Multi-Arch)" != same ] || name+=:$(dpkg-deb --field "$1" Architecture)
     dpkg-deb --field "$1" | sed '$a Status: install ok installed\n' >>"$dpkg/status"
-    dpkg-deb --fsys-tarfile "$1" | tar --list | sed 's|^\.||; s|/$||' >"$dpkg/info/$name.list"
+    dpkg-deb --fsys-tarfile "$1" | tar --list | sed 's|^\.||; s|/$||; /^$/d' >"$dpkg/info/$name.list"
     for file in shlibs symbols; do
         dpkg-deb --info "$1" "$file" >"$dpkg/info/$name.$file" 2>/dev/null || rm "$dpkg/info/$name.$file"
     done
@@ -86,6 +86,7 @@ unpack_debian() {
     mkdir -p "$apt"/{state/lists,cache/archives}/partial "$directory"/usr/{bin,lib,sbin} "$directory/var/lib/dpkg/info"
     ln -s usr/bin usr/lib usr/sbin "$directory"
     touch "$apt/status"
+    echo 1 >"$directory/var/lib/dpkg/info/format"
     echo "deb [signed-by=/usr/share/keyrings/debian-archive-keyring.gpg] $mirror $release main" >"$apt/sources.list"
     options=(-qq -o "Dir::State=$apt/state" -o "Dir::State::status=$apt/status" -o "Dir::Cache=$apt/cache"
         -o "Dir::Etc::sourcelist=$apt/sources.list" -o Dir::Etc::sourceparts=- -o APT::Sandbox::User=root
