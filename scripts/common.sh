@@ -122,7 +122,10 @@ prepare_target() {
         -DQT_HOST_PATH=/usr "-DQT_HOST_PATH_CMAKE_DIR=$(pkg-config --variable=libdir Qt6Core)/cmake")
 }
 
-# on_target COMMAND...: runs a command where each program that it starts may be one of the target's.
+# on_target COMMAND...: runs a command where each program that it starts may be one of the target's. What makes data of
+# the machine's byte order is.
 on_target() {
-    QT_PLUGIN_PATH=$(echo "$sysroot"/usr/lib/*/qt6/plugins) proot -q "$emulator -L $sysroot" "$@"
+    mkdir -p "$sysroot/tools"
+    ln -sf ../usr/bin/genrb "$sysroot/tools"
+    PATH=$sysroot/tools:$PATH QT_PLUGIN_PATH=$(echo "$sysroot"/usr/lib/*/qt6/plugins) proot -q "$emulator -L $sysroot" "$@"
 }
