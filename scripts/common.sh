@@ -117,7 +117,7 @@ prepare_target() {
     unpack_debian "$sysroot" "$release" "$1" \
         libc6-dev "libstdc++-$(g++ -dumpversion)-dev" qt6-base-dev libicu-dev icu-devtools tzdata
     target_options=(--toolchain "cmake/toolchains/$1.cmake" "-DCMAKE_SYSROOT=$sysroot"
-        -DCMAKE_UNITY_BUILD=ON -DCMAKE_UNITY_BUILD_BATCH_SIZE=0
+        -DCMAKE_UNITY_BUILD=ON -DCMAKE_UNITY_BUILD_BATCH_SIZE=0 -DZEL_QML=OFF
         "-DCMAKE_CROSSCOMPILING_EMULATOR=$emulator;-L;$sysroot"
         -DQT_HOST_PATH=/usr "-DQT_HOST_PATH_CMAKE_DIR=$(pkg-config --variable=libdir Qt6Core)/cmake")
 }
