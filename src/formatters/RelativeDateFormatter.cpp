@@ -34,12 +34,6 @@ private:
     int& m_uses;
 };
 
-constexpr const char* constructorSignature =
-    "zel::utility::i18n::RelativeDateFormatterPrivate::RelativeDateFormatterPrivate("
-    "zel::utility::i18n::RelativeDateFormatter*, zel::utility::i18n::RelativeDateFormat::Type)";
-constexpr const char* formatSignature =
-    "QString zel::utility::i18n::RelativeDateFormatterPrivate::format(const QDateTime&) const";
-
 } // namespace
 
 RelativeDateFormatterPrivate::RelativeDateFormatterPrivate(RelativeDateFormatter* owner,
@@ -50,10 +44,12 @@ RelativeDateFormatterPrivate::RelativeDateFormatterPrivate(RelativeDateFormatter
       anchorTime(QDateTime::currentDateTime()),
       locale(Locale::region())
 {
+    constexpr const char* signature =
+        "zel::utility::i18n::RelativeDateFormatterPrivate::RelativeDateFormatterPrivate("
+        "zel::utility::i18n::RelativeDateFormatter*, zel::utility::i18n::RelativeDateFormat::Type)";
     count = table.size();
     if (count == 0) {
-        Diagnostic::write(QtCriticalMsg, constructorSignature, "called with invalid format type",
-                          static_cast<int>(type));
+        Diagnostic::write(QtCriticalMsg, signature, "called with invalid format type", static_cast<int>(type));
         return;
     }
     for (const RelativeDateTable::Slot& slot : table) {
@@ -62,7 +58,7 @@ RelativeDateFormatterPrivate::RelativeDateFormatterPrivate(RelativeDateFormatter
                                                            slot.side == RelativeDateTable::Side::AtOrBefore, this));
     }
     if (static_cast<int>(ranges.size()) < count) {
-        Diagnostic::write(QtCriticalMsg, constructorSignature, "not enough ranges!");
+        Diagnostic::write(QtCriticalMsg, signature, "not enough ranges!");
     }
     for (const RelativeDateTable::Slot& slot : table) {
         QList<RelativeDateElement::Type> elements;
@@ -73,7 +69,7 @@ RelativeDateFormatterPrivate::RelativeDateFormatterPrivate(RelativeDateFormatter
                                                                  QString::fromLatin1(slot.skeleton), elements, this));
     }
     if (static_cast<int>(patterns.size()) < count) {
-        Diagnostic::write(QtCriticalMsg, constructorSignature, "not enough patterns!");
+        Diagnostic::write(QtCriticalMsg, signature, "not enough patterns!");
     }
 }
 
@@ -143,9 +139,11 @@ void RelativeDateFormatterPrivate::keepWhileInUse(std::unique_ptr<RelativeDateFo
 
 QString RelativeDateFormatterPrivate::format(const QDateTime& dateTime) const
 {
+    constexpr const char* signature =
+        "QString zel::utility::i18n::RelativeDateFormatterPrivate::format(const QDateTime&) const";
     const Use use(uses);
     if (count == 0) {
-        Diagnostic::write(QtWarningMsg, formatSignature, "cannot use malconstructed RelativeDateFormatterPrivate");
+        Diagnostic::write(QtWarningMsg, signature, "cannot use malconstructed RelativeDateFormatterPrivate");
         return {};
     }
     if (wording == RelativeDateWording::Natural) {
@@ -164,8 +162,7 @@ QString RelativeDateFormatterPrivate::format(const QDateTime& dateTime) const
             return patterns[slot]->format(dateTime);
         }
     }
-    Diagnostic::write(QtCriticalMsg, formatSignature,
-                      "cannot find appropriate date range for given date-time:", dateTime);
+    Diagnostic::write(QtCriticalMsg, signature, "cannot find appropriate date range for given date-time:", dateTime);
     return {};
 }
 

@@ -17,8 +17,6 @@ namespace {
 
 constexpr const char* patternSignature =
     "static QString zel::utility::i18n::DatePattern::patternFromSkeleton(const QString&, const QLocale&)";
-constexpr const char* formatSignature = "static QString zel::utility::i18n::DatePattern::formatFromPattern(const "
-                                        "QString&, const QDateTime&, const QLocale&)";
 
 std::unique_ptr<icu::DateTimePatternGenerator> createGenerator(const icu::Locale& locale)
 {
@@ -56,12 +54,14 @@ QString DatePattern::patternFromSkeleton(const QString& skeleton, const QLocale&
 
 QString DatePattern::formatFromPattern(const QString& pattern, const QDateTime& dateTime, const QLocale& locale)
 {
+    constexpr const char* signature = "static QString zel::utility::i18n::DatePattern::formatFromPattern(const "
+                                      "QString&, const QDateTime&, const QLocale&)";
     icu::ErrorCode status;
     icu::SimpleDateFormat format(String::toICU(pattern), Locale::toICU(locale), status);
     if (status.isFailure()) {
         constexpr IcuCall call = {"icu::SimpleDateFormat::SimpleDateFormat( const icu::UnicodeString &, const "
                                   "icu::Locale &, UErrorCode & )"};
-        call.report(status, formatSignature, "could not instantiate date formatter");
+        call.report(status, signature, "could not instantiate date formatter");
         return {};
     }
     format.adoptTimeZone(icu::TimeZone::getGMT()->clone());
@@ -69,7 +69,7 @@ QString DatePattern::formatFromPattern(const QString& pattern, const QDateTime& 
     format.format(icu::Formattable(DateTime::wallClock(dateTime)), text, status);
     if (status.isFailure()) {
         constexpr IcuCall call = {"icu::SimpleDateFormat::format( UDate, icu::UnicodeString &, UErrorCode & )"};
-        call.report(status, formatSignature, "failed to format date/time");
+        call.report(status, signature, "failed to format date/time");
         return {};
     }
     return String::toQt(text);

@@ -9,18 +9,11 @@
 
 namespace zel::utility::i18n {
 
-namespace {
-
-constexpr const char* constructorSignature = "zel::utility::i18n::NumericResourceAccessor::NumericResourceAccessor("
-                                             "const QLocale&, const QStringList&, QObject*)";
-constexpr const char* formatSignature =
-    "virtual QString zel::utility::i18n::NumericResourceAccessor::format(int) const";
-
-} // namespace
-
 NumericResourceAccessor::NumericResourceAccessor(const QLocale& locale, const QStringList& keys, QObject* parent)
     : ResourceAccessor(parent)
 {
+    constexpr const char* signature = "zel::utility::i18n::NumericResourceAccessor::NumericResourceAccessor("
+                                      "const QLocale&, const QStringList&, QObject*)";
     std::unique_ptr<icu::ResourceBundle> bundle;
     for (icu::Locale current = Locale::toICU(locale); !current.isBogus(); current = Locale::fallback(current)) {
         bundle.reset(initResource(current, keys));
@@ -28,8 +21,7 @@ NumericResourceAccessor::NumericResourceAccessor(const QLocale& locale, const QS
             continue;
         }
         if (bundle->getType() != URES_TABLE) {
-            Diagnostic::write(QtCriticalMsg, constructorSignature, "did not reach a resource table using supplied keys",
-                              keys);
+            Diagnostic::write(QtCriticalMsg, signature, "did not reach a resource table using supplied keys", keys);
             return;
         }
         if (cacheResource(*bundle)) {
@@ -37,9 +29,8 @@ NumericResourceAccessor::NumericResourceAccessor(const QLocale& locale, const QS
             return;
         }
     }
-    Diagnostic::write(QtCriticalMsg, constructorSignature, "exhausted all possible locale fallbacks for",
-                      locale.bcp47Name());
-    Diagnostic::write(QtCriticalMsg, constructorSignature, "failed to open resource path:", keys);
+    Diagnostic::write(QtCriticalMsg, signature, "exhausted all possible locale fallbacks for", locale.bcp47Name());
+    Diagnostic::write(QtCriticalMsg, signature, "failed to open resource path:", keys);
 }
 
 bool NumericResourceAccessor::isValid() const
@@ -49,12 +40,13 @@ bool NumericResourceAccessor::isValid() const
 
 QString NumericResourceAccessor::format(int count) const
 {
+    constexpr const char* signature = "virtual QString zel::utility::i18n::NumericResourceAccessor::format(int) const";
     if (!isValid()) {
-        Diagnostic::write(QtCriticalMsg, formatSignature, "called on an invalid resource");
+        Diagnostic::write(QtCriticalMsg, signature, "called on an invalid resource");
         return {};
     }
     if (count < -1 || count > 1) {
-        Diagnostic::write(QtCriticalMsg, formatSignature, "is unable to format this number:", count);
+        Diagnostic::write(QtCriticalMsg, signature, "is unable to format this number:", count);
         return {};
     }
     return m_cache.value(count);

@@ -14,11 +14,9 @@ namespace {
 
 const icu::UnicodeString replacePattern(u"{0}");
 
-constexpr const char* constructorSignature = "zel::utility::i18n::PluralResourceAccessor::PluralResourceAccessor(const "
-                                             "QLocale&, const QStringList&, QObject*)";
-constexpr const char* formatSignature = "virtual QString zel::utility::i18n::PluralResourceAccessor::format(int) const";
-constexpr const char* forLocale = "icu::PluralRules::forLocale( const icu::Locale &, UErrorCode & )";
-constexpr const char* createInstance = "icu::NumberFormat::createInstance( const icu::Locale &, UErrorCode & )";
+constexpr const char* pluralConstructor = "zel::utility::i18n::PluralResourceAccessor::PluralResourceAccessor(const "
+                                          "QLocale&, const QStringList&, QObject*)";
+constexpr const char* pluralFormat = "virtual QString zel::utility::i18n::PluralResourceAccessor::format(int) const";
 
 // Adopts the result of an ICU factory, reports a failure, and resets the status for the next factory.
 template <typename T>
@@ -29,7 +27,7 @@ std::unique_ptr<T> adopt(T* created, icu::ErrorCode& status, const char* factory
         return object;
     }
     const QtMsgType severity = status.isFailure() ? QtCriticalMsg : QtWarningMsg;
-    IcuCall{factory, IcuCall::Spaced, severity, severity}.report(status, constructorSignature, consequence);
+    IcuCall{factory, IcuCall::Spaced, severity, severity}.report(status, pluralConstructor, consequence);
     status.reset();
     return nullptr;
 }
@@ -47,7 +45,7 @@ bool succeeded(UErrorCode status, const Items&... items)
     if (U_SUCCESS(status)) {
         return true;
     }
-    IcuCall{"icu::ResourceBundle::getStringEx( const char *, UErrorCode & )"}.report(status, formatSignature, items...);
+    IcuCall{"icu::ResourceBundle::getStringEx( const char *, UErrorCode & )"}.report(status, pluralFormat, items...);
     return false;
 }
 
@@ -63,6 +61,8 @@ PluralResourceAccessor::PluralResourceAccessor(const QLocale& locale, const QStr
 
 void PluralResourceAccessor::initRules(const icu::Locale& locale)
 {
+    constexpr const char* forLocale = "icu::PluralRules::forLocale( const icu::Locale &, UErrorCode & )";
+    constexpr const char* createInstance = "icu::NumberFormat::createInstance( const icu::Locale &, UErrorCode & )";
     icu::ErrorCode status;
     m_pluralRules =
         adopt(icu::PluralRules::forLocale(locale, status), status, forLocale, "failed to instantiate plural rules");
@@ -82,14 +82,14 @@ void PluralResourceAccessor::initTable(const QLocale& locale, const icu::Locale&
         if (bundle->getType() == URES_TABLE) {
             m_resource = std::move(bundle);
         } else {
-            Diagnostic::write(QtCriticalMsg, constructorSignature, "did not reach a resource table using supplied keys",
+            Diagnostic::write(QtCriticalMsg, pluralConstructor, "did not reach a resource table using supplied keys",
                               keys);
         }
         return;
     }
-    Diagnostic::write(QtCriticalMsg, constructorSignature, "exhausted all possible locale fallbacks for",
+    Diagnostic::write(QtCriticalMsg, pluralConstructor, "exhausted all possible locale fallbacks for",
                       locale.bcp47Name());
-    Diagnostic::write(QtCriticalMsg, constructorSignature, "failed to open resource path:", keys);
+    Diagnostic::write(QtCriticalMsg, pluralConstructor, "failed to open resource path:", keys);
 }
 
 bool PluralResourceAccessor::isValid() const
@@ -100,7 +100,7 @@ bool PluralResourceAccessor::isValid() const
 QString PluralResourceAccessor::format(int count) const
 {
     if (!isValid()) {
-        Diagnostic::write(QtCriticalMsg, formatSignature, "called on an invalid resource");
+        Diagnostic::write(QtCriticalMsg, pluralFormat, "called on an invalid resource");
         return {};
     }
     icu::UnicodeString phrase;

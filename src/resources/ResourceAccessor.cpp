@@ -7,14 +7,6 @@
 
 namespace zel::utility::i18n {
 
-namespace {
-
-constexpr const char* signature =
-    "static icu::ResourceBundle* zel::utility::i18n::ResourceAccessor::initResource(const "
-    "icu::Locale&, const QStringList&)";
-
-} // namespace
-
 ResourceAccessor::ResourceAccessor(QObject* parent) : QObject(parent) {}
 
 bool ResourceAccessor::isValid() const
@@ -24,6 +16,9 @@ bool ResourceAccessor::isValid() const
 
 icu::ResourceBundle* ResourceAccessor::initResource(const icu::Locale& locale, const QStringList& keys)
 {
+    constexpr const char* signature =
+        "static icu::ResourceBundle* zel::utility::i18n::ResourceAccessor::initResource(const "
+        "icu::Locale&, const QStringList&)";
     icu::ErrorCode status;
     icu::ResourceBundle current(zel::icudata::phrasePackage(), locale, status);
     if (status.isFailure()) {

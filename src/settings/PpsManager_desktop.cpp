@@ -12,9 +12,6 @@ namespace zel::utility::i18n {
 
 namespace {
 
-constexpr const char* constructorSignature =
-    "zel::utility::i18n::PpsManager::PpsManager(const char*, const char*, const char*, QObject*)";
-
 std::unique_ptr<zel::host::Setting> settingFor(PpsManager::HostSetting setting)
 {
     switch (setting) {
@@ -39,14 +36,16 @@ PpsManager::PpsManager(const char* path, const char* map, const char* key, HostS
       m_map(map),
       m_key(key)
 {
+    constexpr const char* signature =
+        "zel::utility::i18n::PpsManager::PpsManager(const char*, const char*, const char*, QObject*)";
     if (!m_source->setting) {
-        Diagnostic::write(QtCriticalMsg, constructorSignature, "failed to open PPS at", m_path, " : ",
+        Diagnostic::write(QtCriticalMsg, signature, "failed to open PPS at", m_path, " : ",
                           QStringLiteral("no setting of this host stands for it"));
         return;
     }
     // Direct: the manager may belong to no thread.
     if (!connect(m_source->setting.get(), SIGNAL(changed()), this, SLOT(onPpsUpdate()), Qt::DirectConnection)) {
-        Diagnostic::write(QtCriticalMsg, constructorSignature, "failed to connect to PPS channel for", m_path);
+        Diagnostic::write(QtCriticalMsg, signature, "failed to connect to PPS channel for", m_path);
     }
     onPpsUpdate();
 }

@@ -16,8 +16,6 @@ namespace zel::utility::i18n {
 namespace {
 
 constexpr const char* updateSignature = "void zel::utility::i18n::PpsManager::onPpsUpdate()";
-constexpr const char* constructorSignature =
-    "zel::utility::i18n::PpsManager::PpsManager(const char*, const char*, const char*, QObject*)";
 
 } // namespace
 
@@ -37,14 +35,15 @@ PpsManager::PpsManager(const char* path, const char* map, const char* key, HostS
       m_map(map),
       m_key(key)
 {
+    constexpr const char* signature =
+        "zel::utility::i18n::PpsManager::PpsManager(const char*, const char*, const char*, QObject*)";
     if (!m_source->open(zel::PpsOpenMode::Subscribe)) {
-        Diagnostic::write(QtCriticalMsg, constructorSignature, "failed to open PPS at", m_path, " : ",
-                          m_source->errorString());
+        Diagnostic::write(QtCriticalMsg, signature, "failed to open PPS at", m_path, " : ", m_source->errorString());
         m_source.reset();
         return;
     }
     if (!connect(m_source.get(), SIGNAL(readyRead()), this, SLOT(onPpsUpdate()))) {
-        Diagnostic::write(QtCriticalMsg, constructorSignature, "failed to connect to PPS channel for", m_path);
+        Diagnostic::write(QtCriticalMsg, signature, "failed to connect to PPS channel for", m_path);
         m_source->setReadyReadEnabled(false);
     }
     onPpsUpdate();
