@@ -125,6 +125,16 @@ private Q_SLOTS:
         row("relative|--anchor|2012-05-16T10:30|--locale|en|--json|2011-12-31",
             R"({"moment":"2011-12-31T00:00:00","text":"December 2011"})");
 
+        row("locales|de-at", "locale  script  phrases  English name      own name\n"
+                             "de_AT   Latn    own      German (Austria)  Deutsch (\u00d6sterreich)");
+        row("locales|--json|az_Cyrl_AZ",
+            R"-({"english":"Azerbaijani (Cyrillic, Azerbaijan)","locale":"az_Cyrl_AZ",)-"
+            R"-("native":"азәрбајҹан (Кирил, Азәрбајҹан)","phrases":"none","script":"Cyrl"})-");
+        row("locales|*EMBU (|--json",
+            R"-({"english":"Embu (Kenya)","locale":"ebu_KE","native":"Kĩembu (Kenya)","phrases":"some","script":"Latn"})-");
+        row("locales|台灣", "locale      script  phrases  English name                   own name\n"
+                            "zh_Hant_TW  Hant    own      Chinese (Traditional, Taiwan)  中文（繁體，台灣）\n"
+                            "zh_TW       Hant    own      Chinese (Taiwan)               中文（台灣）");
         row("device|--device|hour-format=24,region=de_DE", "hour-format  24\ntime-zone    not set\nregion       de_DE");
         row("device|get|time-zone|--device|time-zone=Asia/Tokyo", "Asia/Tokyo");
     }
@@ -174,6 +184,9 @@ private Q_SLOTS:
             "--device makes no difference here; see 'zel-i18n gallery --help'");
 
         row("gallery|--html|/nowhere/x|--locale|de_DE", 1, "cannot write '/nowhere/x': No such file or directory");
+        row("locales|xq", 1, "no locale matches 'xq'");
+        row("locales|de|fr", 2, "one pattern at most, not also 'fr'; see 'zel-i18n locales --help'");
+        row("locales|--device|region=de_DE", 2, "unknown option 'device'; see 'zel-i18n locales --help'");
         row("formats|--locale|xx_YY", 1, "unknown locale 'xx_YY'");
         row("formats|--locale|de_XX", 1, "unknown locale 'de_XX'"); // Qt alone would answer with Germany
         row("formats|--locale|zh_Latn_TW", 1, "unknown locale 'zh_Latn_TW'");
@@ -240,7 +253,8 @@ private Q_SLOTS:
     {
         const Result all = run("--help");
         QCOMPARE(all.status, 0);
-        for (const char* const name : {"formats", "format", "relative", "percent", "watch", "device", "doctor"}) {
+        for (const char* const name :
+             {"formats", "format", "relative", "percent", "watch", "locales", "device", "doctor"}) {
             QVERIFY(all.output.contains(QLatin1String("\n  ") + QLatin1String(name) + QLatin1Char(' ')));
             const Result one = run(QByteArray(name).append("|--help").constData());
             QCOMPARE(one.status, 0);

@@ -31,6 +31,9 @@ public:
 
     virtual CommandHelp help() const = 0;
 
+    /** Whether the answer can depend on the device, so that --device is an option. */
+    virtual bool takesDevice() const { return true; }
+
     /** The options besides those of every command. */
     virtual QList<QCommandLineOption> options() const { return {}; }
 

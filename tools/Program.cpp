@@ -13,14 +13,16 @@ namespace {
 
 QList<QCommandLineOption> allOptions(const Command& command)
 {
-    return command.options() +
-           QList<QCommandLineOption>{
-               {QStringLiteral("json"), QStringLiteral("Print one JSON object per line, for scripts.")},
-               {QStringLiteral("device"),
-                QStringLiteral("Simulate a device with these settings (see 'device'), for\n"
-                               "example region=de_DE,hour-format=24."),
-                QStringLiteral("KEY=VALUE,...")},
-               {{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show the help of this command.")}};
+    QList<QCommandLineOption> options = command.options();
+    options.append({QStringLiteral("json"), QStringLiteral("Print one JSON object per line, for scripts.")});
+    if (command.takesDevice()) {
+        options.append({QStringLiteral("device"),
+                        QStringLiteral("Simulate a device with these settings (see 'device'), for\n"
+                                       "example region=de_DE,hour-format=24."),
+                        QStringLiteral("KEY=VALUE,...")});
+    }
+    options.append({{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show the help of this command.")});
+    return options;
 }
 
 // Two columns; the right one may have several lines.
@@ -56,6 +58,7 @@ Program::Program()
     m_commands.push_back(percentCommand());
     m_commands.push_back(watchCommand());
     m_commands.push_back(galleryCommand());
+    m_commands.push_back(localesCommand());
     m_commands.push_back(deviceCommand());
     m_commands.push_back(doctorCommand());
 }
@@ -83,7 +86,7 @@ try {
         return Worked;
     }
     std::optional<ThrowAwayDevice> device;
-    if (arguments.has(QStringLiteral("device"))) {
+    if (command.takesDevice() && arguments.has(QStringLiteral("device"))) {
         device.emplace(arguments.value(QStringLiteral("device")));
     }
     return command.run(arguments, console);

@@ -24,6 +24,9 @@ std::unique_ptr<Command> watchCommand();
 /** `gallery`: everything that depends on the locale, for every locale, on one page. */
 std::unique_ptr<Command> galleryCommand();
 
+/** `locales`: the locales that there are. */
+std::unique_ptr<Command> localesCommand();
+
 /** `device`: the settings of the device. */
 std::unique_ptr<Command> deviceCommand();
 

@@ -6,13 +6,14 @@
 
 namespace zel::tool {
 
-QString localeTitle(const QString& name)
+QString localeTitle(const QString& name, const QString& language)
 {
     if (name == QLatin1String("C")) {
         return QStringLiteral("no locale, as in English");
     }
     icu::UnicodeString title;
-    icu::Locale::createCanonical(name.toLatin1().constData()).getDisplayName(icu::Locale::getEnglish(), title);
+    icu::Locale::createCanonical(name.toLatin1().constData())
+        .getDisplayName(icu::Locale(language.toLatin1().constData()), title);
     std::string text;
     return QString::fromStdString(title.toUTF8String(text));
 }

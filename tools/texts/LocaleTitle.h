@@ -5,8 +5,8 @@
 
 namespace zel::tool {
 
-/** The English name of a locale, as in "German (Germany)". */
-QString localeTitle(const QString& name);
+/** The name of a locale in the language of another one: "German (Germany)" in English. */
+QString localeTitle(const QString& name, const QString& language = QStringLiteral("en"));
 
 } // namespace zel::tool
 
