@@ -21,8 +21,16 @@ if(ZEL_BUILD_TOOL)
     install(TARGETS zel-i18n RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT tool)
     install(FILES "${PROJECT_SOURCE_DIR}/tools/zel-i18n.1"
         DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT tool)
+    # Where shells look. Debian's zsh looks below /usr in share/zsh/vendor-completions instead.
+    if(NOT ZEL_ZSH_COMPLETIONS)
+        set(ZEL_ZSH_COMPLETIONS "${CMAKE_INSTALL_DATADIR}/zsh/site-functions")
+    endif()
     install(FILES "${PROJECT_SOURCE_DIR}/tools/zel-i18n.bash-completion"
         DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" RENAME zel-i18n COMPONENT tool)
+    install(FILES "${PROJECT_SOURCE_DIR}/tools/zel-i18n.zsh-completion"
+        DESTINATION "${ZEL_ZSH_COMPLETIONS}" RENAME _zel-i18n COMPONENT tool)
+    install(FILES "${PROJECT_SOURCE_DIR}/tools/zel-i18n.fish"
+        DESTINATION "${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d" COMPONENT tool)
 endif()
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/include/zel/utility"
     DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/zel" COMPONENT development)

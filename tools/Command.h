@@ -5,6 +5,7 @@
 #include <QtCore/QCommandLineOption>
 #include <QtCore/QList>
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 
 namespace zel::tool {
 
@@ -36,6 +37,15 @@ public:
 
     /** The options besides those of every command. */
     virtual QList<QCommandLineOption> options() const { return {}; }
+
+    /** The options of this command and of every command. */
+    QList<QCommandLineOption> allOptions() const;
+
+    /** The values of an option that has only a few. */
+    virtual QStringList choices(const QString& /*option*/) const { return {}; }
+
+    /** The possible next arguments, given the complete ones and the beginning of the next one. */
+    virtual QStringList proposals(const QStringList& /*before*/, const QString& /*word*/) const { return {}; }
 
     /** Runs the command; throws a Failure. */
     virtual ExitStatus run(const Arguments& arguments, Console& console) const = 0;

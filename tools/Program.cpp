@@ -2,6 +2,7 @@
 
 #include "Arguments.h"
 #include "commands/Commands.h"
+#include "Completion.h"
 #include "device/ThrowAwayDevice.h"
 #include "terminal/Console.h"
 #include <algorithm>
@@ -10,20 +11,6 @@
 namespace zel::tool {
 
 namespace {
-
-QList<QCommandLineOption> allOptions(const Command& command)
-{
-    QList<QCommandLineOption> options = command.options();
-    options.append({QStringLiteral("json"), QStringLiteral("Print one JSON object per line, for scripts.")});
-    if (command.takesDevice()) {
-        options.append({QStringLiteral("device"),
-                        QStringLiteral("Simulate a device with these settings (see 'device'), for\n"
-                                       "example region=de_DE,hour-format=24."),
-                        QStringLiteral("KEY=VALUE,...")});
-    }
-    options.append({{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show the help of this command.")});
-    return options;
-}
 
 // Two columns; the right one may have several lines.
 QString entry(const QString& left, QString right)
@@ -72,6 +59,8 @@ ExitStatus Program::run(const QStringList& words, Console& console) const
         console.line(helpOn(words.mid(1)));
     } else if (first == QLatin1String("--version") || first == QLatin1String("-V")) {
         console.line(QStringLiteral("zel-i18n " ZEL_VERSION));
+    } else if (first == QLatin1String("complete")) {
+        return Completion(m_commands).run(words.mid(1), console);
     } else {
         return runCommand(find(first), words.mid(1), console);
     }
@@ -80,7 +69,7 @@ ExitStatus Program::run(const QStringList& words, Console& console) const
 
 ExitStatus Program::runCommand(const Command& command, const QStringList& words, Console& console) const
 try {
-    const Arguments arguments(allOptions(command), words);
+    const Arguments arguments(command.allOptions(), words);
     if (arguments.has(QStringLiteral("help"))) {
         console.line(help(command));
         return Worked;
@@ -139,7 +128,7 @@ QString Program::help(const Command& command)
     const CommandHelp about = command.help();
     QString text = QStringLiteral("Usage: zel-i18n %1 [OPTION...] %2").arg(about.name, about.arguments).trimmed() +
                    QLatin1String("\n\n") + about.description + QLatin1String("\n\nOptions:\n");
-    for (const QCommandLineOption& option : allOptions(command)) {
+    for (const QCommandLineOption& option : command.allOptions()) {
         text += entry(optionNames(option), option.description());
     }
     text += QLatin1String("\nExamples:");

@@ -78,6 +78,7 @@ class DeviceCommand : public Command
 public:
     CommandHelp help() const override;
     QList<QCommandLineOption> options() const override;
+    QStringList proposals(const QStringList& before, const QString& word) const override;
     ExitStatus run(const Arguments& arguments, Console& console) const override;
 };
 
@@ -108,6 +109,14 @@ QList<QCommandLineOption> DeviceCommand::options() const
              QStringLiteral("With set: overwrite a settings object that cannot be\ndecoded, with the "
                             "given settings only.")},
             {QStringLiteral("create"), QStringLiteral("With set: create /pps on a machine without it.")}};
+}
+
+QStringList DeviceCommand::proposals(const QStringList& before, const QString& word) const
+{
+    if (before.isEmpty()) {
+        return {QStringLiteral("get"), QStringLiteral("set"), QStringLiteral("unset")};
+    }
+    return before.first() == QLatin1String("set") ? Assignments::proposals(word) : Assignments::keys();
 }
 
 ExitStatus DeviceCommand::run(const Arguments& arguments, Console& console) const

@@ -209,6 +209,7 @@ class RelativeCommand : public Command
 public:
     CommandHelp help() const override;
     QList<QCommandLineOption> options() const override;
+    QStringList choices(const QString& option) const override;
     ExitStatus run(const Arguments& arguments, Console& console) const override;
 };
 
@@ -256,6 +257,14 @@ QList<QCommandLineOption> RelativeCommand::options() const
         {QStringLiteral("until"),
          QStringLiteral("Append a tab and the anchor time at which the text changes,\nor \"never\".")},
         {QStringLiteral("table"), QStringLiteral("Show one moment for each slot of the formatting tables.")}};
+}
+
+QStringList RelativeCommand::choices(const QString& option) const
+{
+    const QMap<QString, QMap<QString, int>> choices = {{QStringLiteral("type"), types()},
+                                                       {QStringLiteral("clock"), clocks()},
+                                                       {QStringLiteral("wording"), wordings()}};
+    return choices.value(option).keys();
 }
 
 ExitStatus RelativeCommand::run(const Arguments& arguments, Console& console) const

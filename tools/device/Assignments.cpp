@@ -1,7 +1,10 @@
 #include "device/Assignments.h"
 
 #include "terminal/Failure.h"
+#include "texts/KnownLocale.h"
 #include <memory>
+#include <unicode/errorcode.h>
+#include <unicode/strenum.h>
 #include <unicode/timezone.h>
 #include <zel/system/LocaleName.h>
 
@@ -14,6 +17,29 @@ bool isTimeZone(const QString& value)
     const icu::UnicodeString id(reinterpret_cast<const char16_t*>(value.utf16()), static_cast<int32_t>(value.size()));
     const std::unique_ptr<icu::TimeZone> zone(icu::TimeZone::createTimeZone(id));
     return zone != nullptr && *zone != icu::TimeZone::getUnknown();
+}
+
+QStringList timeZones()
+{
+    QStringList names;
+    icu::ErrorCode status;
+    const std::unique_ptr<icu::StringEnumeration> all(
+        icu::TimeZone::createTimeZoneIDEnumeration(UCAL_ZONE_TYPE_ANY, nullptr, nullptr, status));
+    while (const char* const name = status.isSuccess() ? all->next(nullptr, status) : nullptr) {
+        names.append(QString::fromLatin1(name));
+    }
+    return names;
+}
+
+QStringList valuesOf(const QString& key)
+{
+    if (key == Assignments::hourFormat()) {
+        return {QStringLiteral("12"), QStringLiteral("24")};
+    }
+    if (key == Assignments::timeZone()) {
+        return timeZones();
+    }
+    return key == Assignments::region() ? KnownLocale::names() : QStringList();
 }
 
 } // namespace
@@ -29,13 +55,23 @@ void Assignments::requireKey(const QString& key)
 QString Assignments::fault(const QString& key, const QString& value)
 {
     if (key == hourFormat()) {
-        const bool good = value == QLatin1String("12") || value == QLatin1String("24");
+        const bool good = valuesOf(key).contains(value);
         return good ? QString() : key + QLatin1String(" is 12 or 24, not ") + quoted(value);
     }
     if (key == timeZone()) {
         return isTimeZone(value) ? QString() : QStringLiteral("unknown time zone ") + quoted(value);
     }
     return zel::system::LocaleName::find(value) ? QString() : QStringLiteral("unknown locale ") + quoted(value);
+}
+
+QStringList Assignments::proposals(const QString& word)
+{
+    const QString key = word.section(QLatin1Char('='), 0, 0);
+    QStringList words = key == word ? keys() : valuesOf(key);
+    for (QString& proposal : words) {
+        proposal = key == word ? proposal + QLatin1Char('=') : key + QLatin1Char('=') + proposal;
+    }
+    return words;
 }
 
 QMap<QString, QString> Assignments::parse(const QStringList& words)

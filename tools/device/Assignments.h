@@ -24,6 +24,9 @@ public:
     /** The reason why a value is invalid; empty if it is valid. */
     static QString fault(const QString& key, const QString& value);
 
+    /** The words KEY=VALUE for the key of a word that has one; otherwise KEY= for all keys. */
+    static QStringList proposals(const QString& word);
+
     /** The checked values by key, from words of the form KEY=VALUE. */
     static QMap<QString, QString> parse(const QStringList& words);
 };
