@@ -24,10 +24,8 @@
 #include <dlfcn.h>
 #include <memory>
 #include <unicode/dtptngen.h>
-#include <unicode/plurrule.h>
 #include <unicode/putil.h>
 #include <unicode/reldatefmt.h>
-#include <unicode/resbund.h>
 #include <unicode/smpdtfmt.h>
 
 using namespace zel::icudata;
@@ -221,62 +219,6 @@ QByteArray utf8(const icu::UnicodeString& text)
     return QByteArray::fromStdString(text.toUTF8String(bytes));
 }
 
-/** The phrases of a locale as anybody reads them through ICU from the tables that were added. */
-class Phrases
-{
-public:
-    Phrases(icu::Locale locale, UErrorCode& status)
-        : m_locale(std::move(locale)),
-          m_rules(icu::PluralRules::forLocale(m_locale, status)),
-          m_numbers(icu::NumberFormat::createInstance(m_locale, status))
-    {
-    }
-
-    /** The phrase for a count, that of "other" where the count's category has none; an error's name where it fails. */
-    QByteArray counted(const QByteArray& table, int count) const
-    {
-        UErrorCode status = U_ZERO_ERROR;
-        icu::UnicodeString text = read({"units", table.constData()}, utf8(m_rules->select(count)).constData(), status);
-        if (status == U_MISSING_RESOURCE_ERROR) {
-            status = U_ZERO_ERROR;
-            text = read({"units", table.constData()}, "other", status);
-        }
-        icu::UnicodeString number;
-        text.findAndReplace(u"{0}", m_numbers->format(count, number));
-        return U_SUCCESS(status) ? utf8(text) : QByteArray(u_errorName(status));
-    }
-
-    QByteArray ofDay(const char* key) const
-    {
-        UErrorCode status = U_ZERO_ERROR;
-        const icu::UnicodeString text = read({"calendar", "gregorian", "fields", "day", "relative"}, key, status);
-        return U_SUCCESS(status) ? utf8(text) : QByteArray(u_errorName(status));
-    }
-
-private:
-    icu::UnicodeString read(std::initializer_list<const char*> path, const char* key, UErrorCode& status) const
-    {
-        icu::ResourceBundle bundle(nullptr, m_locale, status);
-        for (const char* part : path) {
-            bundle = bundle.get(part, status);
-        }
-        return bundle.getStringEx(key, status);
-    }
-
-    icu::Locale m_locale;
-    std::unique_ptr<icu::PluralRules> m_rules;
-    std::unique_ptr<icu::NumberFormat> m_numbers;
-};
-
-constexpr std::array<std::pair<const char*, UDateRelativeUnit>, 3> phraseTables{
-    {{"minute", UDAT_RELATIVE_MINUTES}, {"hour", UDAT_RELATIVE_HOURS}, {"year", UDAT_RELATIVE_YEARS}}};
-
-constexpr std::array<std::pair<const char*, UDateDirection>, 2> phraseSides{
-    {{"-past", UDAT_DIRECTION_LAST}, {"-future", UDAT_DIRECTION_NEXT}}};
-
-constexpr std::array<std::pair<const char*, UDateDirection>, 3> dayPhrases{
-    {{"-1", UDAT_DIRECTION_LAST}, {"0", UDAT_DIRECTION_THIS}, {"1", UDAT_DIRECTION_NEXT}}};
-
 /** What ICU makes of the data that the copies add to: dates in three calendars, the week, and where they came from. */
 QByteArray describe(const char* name)
 {
@@ -383,33 +325,6 @@ private Q_SLOTS:
         for (std::size_t i = 0; i < names.size(); ++i) {
             QCOMPARE(describe(names[i].c_str()), expected[static_cast<int>(i)]);
         }
-    }
-
-    void phrasesAreThoseOfIcu_data() { addLocales(); }
-
-    void phrasesAreThoseOfIcu()
-    {
-        QFETCH(const QByteArray, locale);
-        const icu::Locale icuLocale(locale.constData());
-        UErrorCode status = U_ZERO_ERROR;
-        const icu::RelativeDateTimeFormatter formatter(icuLocale, status);
-        const Phrases phrases(icuLocale, status);
-        QVERIFY(U_SUCCESS(status));
-        for (const auto& [name, unit] : phraseTables) {
-            for (const auto& [side, direction] : phraseSides) {
-                for (const int count : {0, 1, 2, 3, 5, 11, 21, 100, 1000000}) {
-                    icu::UnicodeString expected;
-                    formatter.format(count, direction, unit, expected, status);
-                    QCOMPARE(phrases.counted(QByteArray(name) + side, count), utf8(expected));
-                }
-            }
-        }
-        for (const auto& [key, direction] : dayPhrases) {
-            icu::UnicodeString expected;
-            formatter.format(direction, UDAT_ABSOLUTE_DAY, expected, status);
-            QCOMPARE(phrases.ofDay(key), utf8(expected));
-        }
-        QVERIFY(U_SUCCESS(status));
     }
 
     void aliasesAreFollowed_data() { addLocales(); }

@@ -2,6 +2,7 @@
 
 #include "bridge/Locale.h"
 #include "bridge/String.h"
+#include "resources/ResourceFormatter.h"
 #include "settings/ClockSetting.h"
 #include "support/MessageLog.h"
 #include "support/Rows.h"
@@ -13,6 +14,7 @@
 #include <QtCore/QLocale>
 #include <QtCore/QRegularExpression>
 #include <QtTest/QTest>
+#include <tuple>
 #include <unicode/dtptngen.h>
 #include <unicode/locid.h>
 #include <unicode/numfmt.h>
@@ -354,11 +356,17 @@ private:
     {
         UErrorCode status = U_ZERO_ERROR;
         const icu::RelativeDateTimeFormatter phrases(Locale::toICU(locale), status);
-        for (const auto& [unit, seconds] : {std::pair{UDAT_REL_UNIT_MINUTE, 60}, std::pair{UDAT_REL_UNIT_HOUR, 3600}}) {
-            for (const int count : {-6, -1, 1, 5}) {
+        for (const auto& [unit, element, seconds] : {std::tuple{UDAT_REL_UNIT_MINUTE, RelativeDateElement::Minutes, 60},
+                                                     std::tuple{UDAT_REL_UNIT_HOUR, RelativeDateElement::Hours, 3600},
+                                                     std::tuple{UDAT_REL_UNIT_YEAR, RelativeDateElement::Years, 0}}) {
+            const ResourceFormatter table(locale, element, nullptr);
+            for (const int count :
+                 {-1'000'000, -100, -21, -11, -5, -3, -2, -1, 0, 1, 2, 3, 5, 11, 21, 100, 1'000'000}) {
                 icu::UnicodeString expected;
                 phrases.formatNumeric(count, unit, expected, status);
-                const QString text = formatter.format(moment.addSecs(qint64(count) * seconds));
+                const bool isShown = seconds != 0 && count != 0 && qAbs(count) <= 5;
+                const QString text =
+                    isShown ? formatter.format(moment.addSecs(qint64(count) * seconds)) : table.format(count);
                 check(U_SUCCESS(status) && text == String::toQt(expected), locale,
                       text + QStringLiteral(" instead of ") + String::toQt(expected));
             }
