@@ -1,64 +1,10 @@
 #include "patterns/FormattingPrivate.h"
 
 #include <algorithm>
-#include <array>
 #include <QtCore/QLatin1String>
+#include <zel/icu/QtField.h>
 
 namespace zel::utility::i18n {
-
-namespace {
-
-// The Qt field for a run of one, two, three, and four or more of a letter; null if Qt has none.
-struct Field
-{
-    char letter;
-    std::array<const char*, 4> text;
-};
-
-constexpr std::array<const char*, 4> noSuchField{};
-
-constexpr Field fields[] = {
-    {'y', {"yyyy", "yy", "yyyy", "yyyy"}},
-    {'M', {"M", "MM", "MMM", "MMMM"}},
-    {'L', {"M", "MM", "MMM", "MMMM"}},
-    {'d', {"d", "dd", "dd", "dd"}},
-    {'E', {"ddd", "ddd", "ddd", "dddd"}},
-    {'c', {nullptr, nullptr, "ddd", "dddd"}},
-    {'e', {nullptr, nullptr, "ddd", nullptr}},
-    {'H', {"h", "hh", "hh", "hh"}},
-    {'h', {"h", "hh", "hh", "hh"}},
-    {'m', {"m", "mm", "mm", "mm"}},
-    {'s', {"s", "ss", "ss", "ss"}},
-    {'S', {"z", "zzz", "zzz", "zzz"}},
-    {'a', {"AP", "AP", "AP", "AP"}},
-    {'z', {"t", "t", "t", "t"}},
-    {'Z', {"t", "t", "t", "t"}},
-    {'v', {"t", "t", "t", "t"}},
-    {'V', {"t", "t", "t", "t"}},
-    {'G', noSuchField},
-    {'Y', noSuchField},
-    {'u', noSuchField},
-    {'Q', noSuchField},
-    {'q', noSuchField},
-    {'w', noSuchField},
-    {'W', noSuchField},
-    {'D', noSuchField},
-    {'F', noSuchField},
-    {'g', noSuchField},
-    {'A', noSuchField},
-    {'k', noSuchField},
-    {'K', noSuchField},
-};
-
-const Field* findField(QChar letter)
-{
-    const auto* const found = std::find_if(std::begin(fields), std::end(fields), [letter](const Field& field) {
-        return QLatin1Char(field.letter) == letter;
-    });
-    return found == std::end(fields) ? nullptr : found;
-}
-
-} // namespace
 
 QString getQtDateTimePatternFromICU(const QString& icuPattern)
 {
@@ -73,14 +19,13 @@ QString getQtDateTimePatternFromICU(const QString& icuPattern)
             c = close == end ? end : close + 1;
             continue;
         }
-        const Field* const field = findField(*c);
+        const icudata::QtField* const field = icudata::QtField::find(c->unicode());
         if (field == nullptr) {
             result.append(*c++);
             continue;
         }
         const QChar* const next = std::find_if(c, end, [c](QChar other) { return other != *c; });
-        const auto column = std::min<std::ptrdiff_t>(next - c, 4) - 1;
-        const char* const text = field->text.at(static_cast<std::size_t>(column));
+        const char* const text = field->text(next - c);
         if (text == nullptr) {
             return {};
         }

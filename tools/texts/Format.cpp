@@ -5,6 +5,7 @@
 #include <memory>
 #include <QtCore/QStringList>
 #include <unicode/smpdtfmt.h>
+#include <zel/icu/QtField.h>
 #include <zel/utility/i18n/Formatting.h>
 
 namespace zel::tool {
@@ -32,12 +33,18 @@ icu::DateFormat::EStyle styleOf(Format::Length length)
 
 bool hasFieldThatQtLacks(const QString& pattern)
 {
-    const QString known = QStringLiteral("yMLdEceHhmsSaBbzZvV");
     bool quoted = false;
-    return std::any_of(pattern.begin(), pattern.end(), [&](QChar c) {
-        quoted = quoted != (c == QLatin1Char('\''));
-        return !quoted && c.unicode() < 0x80 && c.isLetter() && !known.contains(c);
-    });
+    const QChar* const end = pattern.cend();
+    for (const QChar* c = pattern.cbegin(); c != end;) {
+        const QChar* const next = std::find_if(c, end, [c](QChar other) { return other != *c; });
+        const auto* const field = zel::icudata::QtField::find(c->unicode());
+        if (!quoted && field != nullptr && field->text(next - c) == nullptr) {
+            return true;
+        }
+        quoted = quoted != (*c == QLatin1Char('\'') && (next - c) % 2 == 1);
+        c = next;
+    }
+    return false;
 }
 
 } // namespace
