@@ -49,9 +49,10 @@ void showRelativeDates(QTextStream& out)
 {
     RelativeDateFormatter formatter(RelativeDateFormat::TimeCritical);
     formatter.setAnchorTime(moment);
-    out << "Relative dates\n"
-        << "  " << formatter.format(moment.addSecs(-300)) << '\n'
-        << "  " << formatter.format(moment.addDays(-1)) << '\n';
+    out << "Relative dates\n";
+    for (const QString& text : formatter.formatAll({moment.addSecs(-300), moment.addDays(-1)})) {
+        out << "  " << text << '\n';
+    }
 
     formatter.setClockFormat(ClockFormat::Use12hourClock);
     out << "  on a 12-hour clock: " << formatter.format(moment.addDays(-1)) << '\n';

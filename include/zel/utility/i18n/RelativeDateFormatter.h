@@ -128,7 +128,8 @@ public:
     /**
      * Formats many moments: the texts and messages of one format() call each, in order, at a fraction of the cost.
      *
-     * The call blocks and cannot be cancelled; nothing is kept afterwards. Call on the formatter's thread.
+     * The call blocks and cannot be cancelled. It needs memory for the texts only, and nothing is kept afterwards. Call
+     * on the formatter's thread.
      *
      * @param dateTimes the moments, as for format()
      * @return one text for each moment; a null string where format() would return one
