@@ -76,8 +76,7 @@ public:
                                                 : QFile::encodeName("tcp:host=localhost,port=1;" + address()));
     }
 
-    /** A program of the "new" or "old" kind answers as the portal, or the bus can start one: "starting", "activated".
-     */
+    /** A program of the "new" or "old" kind is the portal, or the bus can start one: "starting", "activated". */
     bool startPortal(const QString& kind, const QString& value)
     {
         if (kind == QLatin1String("starting") || kind == QLatin1String("activated")) {
@@ -120,7 +119,7 @@ public:
         qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=" + path);
     }
     ~SilentBus() { ::close(m_socket); }
-    Q_DISABLE_COPY(SilentBus)
+    Q_DISABLE_COPY_MOVE(SilentBus)
 
     bool isReady() const { return m_isReady; }
 

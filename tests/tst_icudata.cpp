@@ -51,7 +51,7 @@ class StockData
 public:
     StockData() : m_directory(u_getDataDirectory()) { u_setDataDirectory(""); }
     ~StockData() { u_setDataDirectory(m_directory.constData()); }
-    Q_DISABLE_COPY(StockData)
+    Q_DISABLE_COPY_MOVE(StockData)
 
 private:
     QByteArray m_directory;

@@ -82,7 +82,7 @@ public:
         s_action = std::move(action);
     }
     ~Interruption() { qInstallMessageHandler(m_previous); }
-    Q_DISABLE_COPY(Interruption)
+    Q_DISABLE_COPY_MOVE(Interruption)
 
     static bool happened() { return !s_action; }
 

@@ -28,7 +28,7 @@ class DefaultLocale
 public:
     explicit DefaultLocale(const char* name) { icu::Locale::setDefault(icu::Locale(name), m_status); }
     ~DefaultLocale() { icu::Locale::setDefault(m_previous, m_status); }
-    Q_DISABLE_COPY(DefaultLocale)
+    Q_DISABLE_COPY_MOVE(DefaultLocale)
 
 private:
     const icu::Locale m_previous = icu::Locale::getDefault();

@@ -59,7 +59,7 @@ class Worker
 public:
     explicit Worker(const std::atomic<bool>& settled) : m_thread([this, &settled] { run(settled); }) {}
     ~Worker() { m_thread.join(); }
-    Q_DISABLE_COPY(Worker)
+    Q_DISABLE_COPY_MOVE(Worker)
 
     bool isDone() const { return m_done; }
     /** Valid when it is done. */

@@ -28,7 +28,7 @@ class Command
 public:
     Command() = default;
     virtual ~Command() = default;
-    Q_DISABLE_COPY(Command)
+    Q_DISABLE_COPY_MOVE(Command)
 
     virtual CommandHelp help() const = 0;
 

@@ -19,7 +19,7 @@ class Program
 public:
     Program();
     ~Program();
-    Q_DISABLE_COPY(Program)
+    Q_DISABLE_COPY_MOVE(Program)
 
     /** @param words the command line without the name of the program */
     ExitStatus run(const QStringList& words, Console& console) const;

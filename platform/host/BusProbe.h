@@ -28,8 +28,7 @@ public:
     /** Why nobody can be asked; empty otherwise. */
     QString reason() const { return m_reason; }
 
-    /** Whether an answer comes within some milliseconds. An address that is not one of a local socket counts as good.
-     */
+    /** Whether an answer comes within some milliseconds. An address of no local socket counts as good. */
     bool waitForAnswer(int milliseconds) const;
 
     /** From now on answered() is emitted, once, when an answer has come, or soon where none can be waited for. */

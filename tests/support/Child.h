@@ -27,7 +27,7 @@ public:
         m_process.start(program, arguments);
     }
     ~Child() { stop(); }
-    Q_DISABLE_COPY(Child)
+    Q_DISABLE_COPY_MOVE(Child)
 
     void feed(const QByteArray& input)
     {

@@ -32,8 +32,7 @@ public:
         FunctionCount
     };
 
-    /** What a call does: works, fails after its work was done, returns a null pointer and no error, or fails at once.
-     */
+    /** What a call does: works, fails after its work, returns a null pointer and no error, or fails at once. */
     static constexpr int Works = U_ZERO_ERROR;
     static constexpr int FailsLate = U_INTERNAL_PROGRAM_ERROR;
     static constexpr int ReturnsNull = -1;

@@ -19,7 +19,7 @@ public:
         qInstallMessageHandler(m_previous);
         s_current = nullptr;
     }
-    Q_DISABLE_COPY(MessageLog)
+    Q_DISABLE_COPY_MOVE(MessageLog)
 
     /** What was recorded since the last call. */
     QStringList take()

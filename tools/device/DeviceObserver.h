@@ -12,7 +12,7 @@ namespace zel::tool {
 class DeviceObserver : public QObject
 {
     Q_OBJECT
-    Q_DISABLE_COPY(DeviceObserver)
+    Q_DISABLE_COPY_MOVE(DeviceObserver)
 
 public:
     explicit DeviceObserver(QObject* parent = nullptr);

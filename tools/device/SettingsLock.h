@@ -18,8 +18,7 @@ class SettingsLock
 public:
     explicit SettingsLock(const QString& path);
     ~SettingsLock();
-    SettingsLock(const SettingsLock&) = delete;
-    SettingsLock& operator=(const SettingsLock&) = delete;
+    Q_DISABLE_COPY_MOVE(SettingsLock)
 
 private:
     mode_t m_umask;

@@ -30,7 +30,7 @@ public:
 
     Console();
     ~Console();
-    Q_DISABLE_COPY(Console)
+    Q_DISABLE_COPY_MOVE(Console)
 
     void line(const QString& text);
     /** Prints one JSON document on a line. */

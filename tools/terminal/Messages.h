@@ -12,7 +12,7 @@ class Messages
 public:
     Messages() : m_previous(qInstallMessageHandler(&Messages::handle)) { s_taken.clear(); }
     ~Messages() { qInstallMessageHandler(m_previous); }
-    Q_DISABLE_COPY(Messages)
+    Q_DISABLE_COPY_MOVE(Messages)
 
     /** The messages since the last call. */
     QStringList take();

@@ -11,7 +11,7 @@ class ProgressBar
 public:
     explicit ProgressBar(qint64 total);
     ~ProgressBar() { erase(); }
-    Q_DISABLE_COPY(ProgressBar)
+    Q_DISABLE_COPY_MOVE(ProgressBar)
 
     /** Starts the next step. */
     void step(const QString& name) { show(m_done++, name); }

@@ -2,6 +2,7 @@
 #define ZEL_TOOL_UTF8ENVIRONMENT_H
 
 #include <optional>
+#include <QtCore/QtGlobal>
 #include <string>
 
 namespace zel::tool {
@@ -16,8 +17,7 @@ class Utf8Environment
 public:
     Utf8Environment();
     ~Utf8Environment();
-    Utf8Environment(const Utf8Environment&) = delete;
-    Utf8Environment& operator=(const Utf8Environment&) = delete;
+    Q_DISABLE_COPY_MOVE(Utf8Environment)
 
 private:
     bool m_changed = false;

@@ -20,7 +20,7 @@ class Console;
 class LiveText : public QObject
 {
     Q_OBJECT
-    Q_DISABLE_COPY(LiveText)
+    Q_DISABLE_COPY_MOVE(LiveText)
 
 public:
     /** @param moment the moment to show; the current time if empty */
