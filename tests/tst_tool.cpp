@@ -135,6 +135,12 @@ private Q_SLOTS:
         row("locales|台灣", "locale      script  phrases  English name                   own name\n"
                             "zh_Hant_TW  Hant    own      Chinese (Traditional, Taiwan)  中文（繁體，台灣）\n"
                             "zh_TW       Hant    own      Chinese (Taiwan)               中文（台灣）");
+        row("complete|perc", "percent\tFormat numbers as percentages.");
+        row("complete|relative|--locale|de|--wording=n", "--wording=natural\t");
+        row("complete|help|percent|--version", "--version\tShow the version.");
+        row("complete|format|--locale|de_A", "de_AT\tGerman (Austria)");
+        row("complete|format|--device|region=de_AT,time-zone=Europe/Berl", "region=de_AT,time-zone=Europe/Berlin\t");
+        row("complete|device|--json|set|region=de_AT|h", "hour-format=\t");
         row("device|--device|hour-format=24,region=de_DE", "hour-format  24\ntime-zone    not set\nregion       de_DE");
         row("device|get|time-zone|--device|time-zone=Asia/Tokyo", "Asia/Tokyo");
     }
