@@ -4,7 +4,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-/** Ends a fuzz target with a finding where what must hold does not. */
+/** Ends a fuzz target with a finding unless a condition holds. */
 #define ZEL_REQUIRE(condition)                                                                                         \
     do {                                                                                                               \
         if (!(condition)) {                                                                                            \

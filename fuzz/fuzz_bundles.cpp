@@ -1,5 +1,5 @@
-// Reads anything at all as a compiled resource bundle, and as the texts of one. One that opens can be read everywhere,
-// and a copy with more in it opens again and has what was added.
+// Reads arbitrary bytes as a compiled resource bundle and as its texts. A bundle that opens can be read everywhere, and
+// a copy with additional entries opens and has them.
 
 #include "Require.h"
 
@@ -74,7 +74,7 @@ void readAll(const BundleData& data, const ResourceBundleReader* pool)
     }
 }
 
-/** A bundle of two texts in 16-bit units, both somewhere in the input. */
+// A bundle of two texts in 16-bit units, both somewhere in the input.
 std::string bundleAround(std::string_view input)
 {
     constexpr std::uint32_t root = 5U << 28U; // a table with 16-bit keys and items, at the first unit
@@ -110,7 +110,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     ZEL_REQUIRE(bundle.has_value() == error.empty());
     if (bundle) {
         readAll(*bundle, stockPool());
-        // Damaged pools: the bundle shares with itself.
+        // A damaged pool: the bundle is its own pool.
         const auto self = ResourceBundleReader::open(*bundle, nullptr, error);
         readAll(*bundle, self ? &*self : nullptr);
     }

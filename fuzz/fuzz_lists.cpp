@@ -1,6 +1,6 @@
-// Reads anything at all as the list of a data directory. What can be read comes back from its own file as it was; a
-// directory is sound exactly where a plain reading of its list finds each file in its size, and the bytes in one that
-// was changed later.
+// Reads arbitrary bytes as the list of a data directory. A valid list is unchanged after writing and reading it. A
+// directory is valid exactly if a simple reading of the list finds each file with its size, and the contents of files
+// changed later.
 
 #include "Require.h"
 
@@ -42,7 +42,7 @@ void write(const fs::path& path, const std::string& contents)
     std::ofstream(path, std::ios::binary) << contents;
 }
 
-/** A directory that holds little, with a list. */
+// A small directory with a list.
 class Directory
 {
 public:
@@ -56,7 +56,7 @@ public:
     const fs::path& path() const { return m_path; }
     void setList(const std::string& list) const { write(m_path / BundleList::fileName, list); }
 
-    /** Makes a file look as if it had been changed after the list. */
+    // Sets the time of a file to one after the list.
     void touch(const char* name) const
     {
         fs::last_write_time(m_path / name, fs::file_time_type::clock::now() + std::chrono::hours(24));
@@ -113,7 +113,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     changed.touch("a.res");
     ZEL_REQUIRE(BundleList::problemOf(changed.path()).empty() == (text == "abc"));
 
-    // Files of this directory alone, whose times are known.
+    // Only files of this directory, whose times are known.
     std::replace(text.begin(), text.end(), '/', '_');
     std::replace(text.begin(), text.end(), '\0', '_');
     const auto count = std::count(text.begin(), text.end(), '\n');

@@ -1,5 +1,5 @@
-// Takes anything at all as a date pattern: translates it, searches it and puts a phrase into it. What comes out is
-// compared with plain forms of the same rules, which care for clarity alone.
+// Takes arbitrary text as a date pattern: translates it, searches it and inserts a phrase. The results are compared
+// with simple implementations of the same rules.
 
 #include "Require.h"
 
@@ -20,7 +20,7 @@ namespace {
 constexpr QLatin1Char apostrophe('\'');
 constexpr std::size_t longestPhrase = 16;
 
-// The Qt text for a run of a letter; null where Qt has no such field.
+// The Qt field for a run of a letter; null if Qt has none.
 QString plainField(QChar letter, int run)
 {
     const auto atMost = [run](int longest, char text) { return QString(std::min(run, longest), QLatin1Char(text)); };
@@ -96,8 +96,7 @@ int plainIndex(const QString& format, QChar character, int from, Qt::CaseSensiti
     return -1;
 }
 
-// Whatever is not one of the letters outside quotes stays, and the phrase goes where the first letter that there is
-// stood first.
+// All text except the unquoted letters stays; the phrase goes to the first position of the first letter found.
 QString plainApply(const QString& format, const QString& letters, const QString& phrase)
 {
     int first = -1;

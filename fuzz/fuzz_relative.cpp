@@ -1,5 +1,5 @@
-// Calls the setters of a relative date formatter in any order. It says when it changes, and formatAll(), which counts
-// on its own, gives the texts and messages of format().
+// Calls the setters of a relative date formatter in any order. It emits changed() when it changes, and formatAll(),
+// which counts separately, gives the texts and messages of format().
 
 #include "Require.h"
 #include "support/SettingsRoot.h"

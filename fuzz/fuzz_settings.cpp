@@ -1,5 +1,5 @@
-// Decodes anything at all as a settings object, and encodes any record. What decodes comes back from its encoded form
-// as it was, and what encodes decodes to what it was.
+// Decodes arbitrary bytes as a settings object, and encodes any record. Decoding and encoding are inverse where they
+// succeed.
 
 #include "Require.h"
 
@@ -12,7 +12,7 @@ using zel::PpsObject;
 
 namespace {
 
-// Values alone compare equal across types.
+// Compares types, too: values alone are equal across types.
 void requireSame(const QVariantMap& one, const QVariantMap& other)
 {
     ZEL_REQUIRE(one == other);

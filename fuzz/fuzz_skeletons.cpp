@@ -1,5 +1,5 @@
-// Formats with anything at all as a skeleton, in locales that write dates in different ways, under both clocks and in
-// several time zones. A formatter that is valid shows what ICU shows, and one that is not shows nothing.
+// Formats with arbitrary skeletons, in locales that write dates in different ways, under both clocks and in several
+// time zones. A valid formatter gives the text of ICU, an invalid one none.
 
 #include "Require.h"
 #include "support/SettingsRoot.h"
@@ -27,7 +27,7 @@ constexpr std::array<const char*, 2> clocks{"12", "24"};
 constexpr std::array<const char*, 4> zones{"Europe/Berlin", "Asia/Kolkata", "America/St_Johns", "Pacific/Apia"};
 constexpr std::array<const char*, 8> regions{"en_US", "de_DE", "fr_CA", "ja_JP", "zh_TW", "ar_EG", "th_TH", "fa_IR"};
 
-// ICU itself is not instrumented and gives the fuzzer no hints, so bytes are made letters and runs of letters here.
+// ICU is not instrumented and does not guide the fuzzer, so bytes are mapped to runs of letters here.
 QString skeletonOf(const std::string& bytes)
 {
     static const QString alphabet = QStringLiteral("GyYuUrQqMLwWdDFgEecabBhHkKjJCmsSAzZOvVXxIlnopPtTfiNR' ,.:-/09@_") +
@@ -41,7 +41,7 @@ QString skeletonOf(const std::string& bytes)
     return skeleton;
 }
 
-/** A setting of the device, written where it is another one. */
+// A setting of the device, written if it changes.
 class Setting
 {
 public:
@@ -63,7 +63,7 @@ private:
     const char* m_value = nullptr;
 };
 
-/** The settings of the device, and the text that ICU makes of a skeleton under them. */
+// The settings of the device, and the text of ICU for a skeleton under them.
 struct Device
 {
     const char* region;

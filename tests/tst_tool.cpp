@@ -186,8 +186,7 @@ private Q_SLOTS:
         row("gallery|--compare|x|--tsv|-", 2,
             "--compare writes to standard output, so --tsv takes the name of a file; see 'zel-i18n gallery --help'");
         row("gallery|--compare|/dev/null", 1, "'/dev/null' is not a table written with --tsv");
-        row("gallery|--tsv|x|--device|region=de_DE", 2,
-            "--device makes no difference here; see 'zel-i18n gallery --help'");
+        row("gallery|--tsv|x|--device|region=de_DE", 2, "--device has no effect here; see 'zel-i18n gallery --help'");
 
         row("gallery|--html|/nowhere/x|--locale|de_DE", 1, "cannot write '/nowhere/x': No such file or directory");
         row("locales|xq", 1, "no locale matches 'xq'");
@@ -502,7 +501,7 @@ private Q_SLOTS:
             expectRefusal(line, reason);
         }
         QCOMPARE(run("percent|1").status, 0); // asks for the region only
-        expectRefusal("device|set|hour-format=24", reason + QStringLiteral("; --replace writes it anew"));
+        expectRefusal("device|set|hour-format=24", reason + QStringLiteral("; --replace overwrites it"));
         QCOMPARE(run("device|set|--replace|hour-format=24").status, 0);
         QCOMPARE(textOf(root.file(settings)), QByteArray("@settings\nhourFormat:n:24\n"));
     }

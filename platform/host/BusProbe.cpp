@@ -17,7 +17,7 @@ namespace zel::host {
 namespace {
 
 // The socket of an address of the form "unix:path=/run/user/1000/bus,guid=..."; an abstract one begins with a zero
-// byte. Empty where the address is of another kind.
+// byte. Empty for another kind of address.
 QByteArray socketOf(const QString& address)
 {
     const QString first = address.section(QLatin1Char(';'), 0, 0);
@@ -44,7 +44,7 @@ QString BusProbe::sessionAddress()
     if (!address.isEmpty()) {
         return address;
     }
-    // Where libdbus would start a bus of its own, nobody could answer on it.
+    // libdbus would start a separate bus, on which no portal answers.
     const QString socket = qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/bus");
     return QFileInfo::exists(socket) ? QStringLiteral("unix:path=") + socket : QString();
 }
@@ -78,14 +78,14 @@ bool BusProbe::waitForAnswer(int milliseconds) const
 
 void BusProbe::listen()
 {
-    // A notifier needs the event loop of the thread, which may not be there yet.
+    // A notifier needs the event loop of the thread, which may not exist yet.
     QMetaObject::invokeMethod(this, "startListening", Qt::QueuedConnection);
 }
 
 void BusProbe::startListening()
 {
     if (m_socket < 0) {
-        Q_EMIT answered(); // nothing is known of the address, so that somebody has to try it
+        Q_EMIT answered(); // cannot be probed: let the owner try it
         return;
     }
     m_notifier = std::make_unique<QSocketNotifier>(m_socket, QSocketNotifier::Read);
@@ -111,7 +111,7 @@ void BusProbe::open(const QByteArray& name)
     std::copy(name.begin(), name.end(), &target.sun_path[0]);
     m_socket = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
     const auto length = static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + size);
-    static constexpr char word[] = "\0AUTH\r\n"; // asks which ways to authenticate there are
+    static constexpr char word[] = "\0AUTH\r\n"; // asks for the authentication mechanisms
     if (m_socket < 0 || ::connect(m_socket, reinterpret_cast<const sockaddr*>(&target), length) != 0 ||
         ::send(m_socket, &word[0], sizeof(word) - 1, MSG_NOSIGNAL) < 0) {
         m_reason = QStringLiteral("no session bus: ") + qt_error_string(errno);

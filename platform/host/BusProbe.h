@@ -10,8 +10,8 @@
 namespace zel::host {
 
 /**
- * Tells whether there is somebody at the address of a message bus who answers. Qt D-Bus waits for half a minute for a
- * bus that takes connections but is silent; this says a first word and lets its owner decide how long to wait.
+ * Tests whether a message bus answers. Qt D-Bus waits half a minute for a bus that accepts connections but is silent;
+ * the probe sends a first message and lets its owner choose the timeout.
  */
 class BusProbe : public QObject
 {
@@ -19,19 +19,20 @@ class BusProbe : public QObject
     Q_DISABLE_COPY_MOVE(BusProbe)
 
 public:
-    /** The address of the user's session bus; empty where there is none. */
+    /** The address of the user's session bus; empty if there is none. */
     static QString sessionAddress();
 
     BusProbe(const QString& address, Reporter reporter, QObject* parent);
     ~BusProbe() override;
 
-    /** Why nobody can be asked; empty otherwise. */
+    /** The reason why the bus cannot be probed; empty otherwise. */
     QString reason() const { return m_reason; }
 
-    /** Whether an answer comes within some milliseconds. An address of no local socket counts as good. */
+    /** Whether an answer arrives within the timeout in milliseconds. True for an address that is not a local socket.
+     */
     bool waitForAnswer(int milliseconds) const;
 
-    /** From now on answered() is emitted, once, when an answer has come, or soon where none can be waited for. */
+    /** Emits answered() once: when an answer arrives, or soon if it cannot be waited for. */
     void listen();
 
 Q_SIGNALS:

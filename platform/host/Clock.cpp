@@ -27,7 +27,7 @@ std::optional<int> clockOf(const QVariant& answer)
     return {};
 }
 
-// With the territory, which Qt leaves out of the BCP 47 name where it is the likely one.
+// With the territory, which Qt omits from the BCP 47 name if it is the likely one.
 icu::Locale toIcu(const QLocale& locale)
 {
     if (locale.language() == QLocale::C) {
@@ -77,7 +77,7 @@ std::unique_ptr<SettingsPortal> Clock::ask(int timeoutMs)
 {
     auto portal = std::make_unique<SettingsPortal>(QStringLiteral("org.gnome.desktop.interface"),
                                                    QStringLiteral("clock-format"), timeoutMs, m_reporter);
-    // Direct: this belongs to the thread that asked first, which may be gone.
+    // Direct: this belongs to the thread of the first query, which may be gone.
     checkConnection(m_reporter,
                     connect(portal.get(), SIGNAL(changed(QVariant, QString)), this, SLOT(onAnswer(QVariant, QString)),
                             Qt::DirectConnection),

@@ -5,13 +5,13 @@
 
 namespace zel::host {
 
-/** A setting that the environment chose for this process. It is looked at whenever the value is asked for. */
+/** A setting from an environment variable, which is read by every query. */
 class EnvironmentSetting : public Setting
 {
     Q_OBJECT
 
 public:
-    /** Whether the environment has the variable, and the process listens to it. */
+    /** Whether the variable is set and the process has no raised privileges. */
     static bool isInUse(const char* variable);
 
     explicit EnvironmentSetting(const char* variable) : m_variable(variable) {}

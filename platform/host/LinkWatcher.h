@@ -11,8 +11,8 @@
 namespace zel::host {
 
 /**
- * Hears, through the event loop of the thread that created it, when a symbolic link may have been replaced. Where its
- * directory cannot be watched, there is a message, and the link may have been replaced every second.
+ * Reports, through the event loop of the thread that created it, that a symbolic link may have been replaced. If its
+ * directory cannot be watched, writes a message and reports every second.
  */
 class LinkWatcher : public QObject
 {
@@ -33,7 +33,7 @@ private:
     const QString m_link;
     const Reporter m_reporter;
     std::unique_ptr<QFileSystemWatcher> m_watcher;
-    QTimer m_poll; // where the directory cannot be watched
+    QTimer m_poll; // if the directory cannot be watched
 };
 
 } // namespace zel::host

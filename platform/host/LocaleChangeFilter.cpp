@@ -13,7 +13,7 @@ void LocaleChangeFilter::call(QObject* receiver, const char* member, QObject* ow
     if (application == nullptr) {
         return;
     }
-    // An application's events can be filtered on its own thread only.
+    // An application's events can be filtered on its thread only.
     auto* const filter = new LocaleChangeFilter;
     filter->moveToThread(application->thread());
     constexpr const char* signature =
@@ -43,7 +43,7 @@ void LocaleChangeFilter::stop()
     deleteLater();
 }
 
-// The application shows its filters the events of all objects of its thread.
+// An event filter of the application receives the events of all objects of its thread.
 bool LocaleChangeFilter::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == parent() && event->type() == QEvent::LocaleChange) {

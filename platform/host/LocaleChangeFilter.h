@@ -5,14 +5,14 @@
 
 namespace zel::host {
 
-/** Hears of the locale changes that the application hears of. It lives on the application's thread. */
+/** Receives the locale changes of the application. Lives on the application's thread. */
 class LocaleChangeFilter : public QObject
 {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(LocaleChangeFilter)
 
 public:
-    /** Calls a signal or slot at every locale change, for as long as the owner lives. Any thread may call. */
+    /** Calls a signal or slot at every locale change while the owner exists. Call on any thread. */
     static void call(QObject* receiver, const char* member, QObject* owner, Reporter reporter,
                      Qt::ConnectionType type = Qt::AutoConnection);
 

@@ -10,7 +10,7 @@ namespace zel::host {
 
 namespace {
 
-/** The last locale and the name it was made from. */
+// The last locale and its name.
 struct Cache
 {
     std::mutex mutex;
@@ -27,7 +27,7 @@ Region::Region(Reporter reporter)
 
 QLocale Region::now()
 {
-    // Never destroyed: something may still be formatted while the process destroys its static objects.
+    // Never destroyed: texts may be formatted while the process destroys its static objects.
     static Cache* const cache = std::make_unique<Cache>().release();
     const char* const variable = system::LocaleName::variable();
     const QByteArray name = variable == nullptr ? QByteArray() : qgetenv(variable);

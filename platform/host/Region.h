@@ -6,7 +6,7 @@
 
 namespace zel::host {
 
-/** The region locale: the one that the environment names for dates and times. */
+/** The region locale: the environment's locale for dates and times. */
 class Region : public Setting
 {
     Q_OBJECT
@@ -14,7 +14,7 @@ class Region : public Setting
 public:
     explicit Region(Reporter reporter);
 
-    /** The region as the environment names it now. A name is read again only when it changes. */
+    /** The region in the environment now. A name is parsed again only if it changed. */
     static QLocale now();
 
     QVariant value() const override { return now().name(); }

@@ -13,14 +13,14 @@ namespace zel::host {
 
 namespace {
 
-// A retry that fails doubles the time to the next one.
+// A failed retry doubles the time to the next one.
 constexpr int firstRetryMs = 1000;
 constexpr int lastRetryMs = 60000;
 
 constexpr const char* constructor =
     "zel::utility::i18n::SettingsPortal::SettingsPortal(const QString&, const QString&, int)";
 
-// Functions, because nothing is to be constructed when the library is loaded.
+// Functions, so that nothing is constructed when the library is loaded.
 QString service()
 {
     return QStringLiteral("org.freedesktop.portal.Desktop");
@@ -46,7 +46,7 @@ QString read()
     return QStringLiteral("Read");
 }
 
-// The bus itself is a service of this name.
+// The bus itself has this service name.
 QString busService()
 {
     return QStringLiteral("org.freedesktop.DBus");
@@ -57,14 +57,14 @@ QString busPath()
     return QStringLiteral("/org/freedesktop/DBus");
 }
 
-// A connection of its own: what becomes of the common one is the application's business.
+// A separate connection: the application may close the shared one.
 QString connectionName()
 {
     static std::atomic<int> last(0);
     return QStringLiteral("zel-settings-portal-%1").arg(++last);
 }
 
-// "Read", the older way to ask, has the value in a variant within the variant.
+// The older method "Read" returns the value in a variant within a variant.
 QVariant unwrapped(QVariant value)
 {
     while (value.userType() == qMetaTypeId<QDBusVariant>()) {
@@ -84,7 +84,7 @@ QString explanation(const QDBusError& error)
     return QStringLiteral("the settings portal does not tell: ") + error.message();
 }
 
-// No signal will come when this is over.
+// Errors whose end no signal reports.
 bool isSilence(const QDBusError& error)
 {
     switch (error.type()) {
@@ -107,7 +107,7 @@ SettingsPortal::SettingsPortal(const QString& group, const QString& key, int tim
       m_bus(QString()),
       m_retry(this)
 {
-    // The slot's argument types are looked up by name, which Qt does not know before a type's first use.
+    // The slot's argument types are looked up by name, which Qt registers at the first use of a type.
     qRegisterMetaType<QDBusVariant>();
     m_retry.setSingleShot(true);
     checkConnection(m_reporter, connect(&m_retry, SIGNAL(timeout()), this, SLOT(retry())), constructor,
@@ -235,7 +235,7 @@ void SettingsPortal::ask(const QString& method)
 void SettingsPortal::onFinished()
 {
     if (!m_call || !m_call->isFinished()) {
-        return; // of a call that was given up
+        return; // of an abandoned call
     }
     const QDBusPendingReply<QDBusVariant> reply = *m_call;
     if (!reply.isError()) {
@@ -256,7 +256,7 @@ void SettingsPortal::onOwnerChanged(const QString& /*name*/, const QString& /*pr
 {
     if (owner.isEmpty()) {
         lose(QStringLiteral("the settings portal has gone"));
-        retryLater(); // the bus starts it for whoever asks
+        retryLater(); // the bus starts it on request
     } else {
         ask(readOne());
     }
@@ -276,7 +276,7 @@ void SettingsPortal::onBusAnswered()
     }
 }
 
-// The bus answers at once, also where the portal does not.
+// The bus answers at once, even if the portal does not.
 QString SettingsPortal::silence() const
 {
     constexpr int timeoutMs = 10;
@@ -288,7 +288,7 @@ QString SettingsPortal::silence() const
                                                    : QStringLiteral("the settings portal does not answer");
 }
 
-// Whatever is heard last holds; an answer that is still under way would be older.
+// The last value holds; a pending answer would be older.
 void SettingsPortal::take(const QDBusVariant& value)
 {
     m_call.reset();

@@ -18,8 +18,8 @@ class QDeadlineTimer;
 namespace zel::host {
 
 /**
- * One setting of the desktop, asked of the settings portal on the session bus and followed there, also when the portal
- * or the bus goes away and comes back. Follows through the event loop of its thread.
+ * A setting of the desktop, read from the settings portal on the session bus and followed there, even if the portal or
+ * the bus goes away and comes back. Changes arrive through the event loop of its thread.
  */
 class SettingsPortal : public QObject
 {
@@ -28,9 +28,9 @@ class SettingsPortal : public QObject
 
 public:
     /**
-     * Asks for the setting and waits for the answer, but not longer than the timeout. A later answer is taken when it
-     * comes. With `later`, asks as soon as the event loop of the thread runs, and tells of nothing before the first
-     * answer: somebody else may have one, and does not lose it to this one's failure.
+     * Requests the setting and waits up to the timeout. A later answer is used when it arrives. With `later`, requests
+     * it when the event loop of the thread runs, and reports nothing before the first answer: another portal may have a
+     * value, which a failure of this one must not replace.
      *
      * @param group the namespace of the setting
      */
@@ -38,14 +38,14 @@ public:
     SettingsPortal(const QString& group, const QString& key, int timeoutMs, Reporter reporter);
     ~SettingsPortal() override;
 
-    /** The setting; invalid as long as the portal does not answer. */
+    /** The setting; invalid while the portal does not answer. */
     QVariant value() const { return m_value; }
 
-    /** Why there is no value. */
+    /** The reason why there is no value. */
     QString reason() const { return m_reason; }
 
 Q_SIGNALS:
-    /** What value() and reason() are now. */
+    /** The value or the reason changed. */
     void changed(const QVariant& value, const QString& reason);
 
 private Q_SLOTS:

@@ -24,14 +24,14 @@ bool isInDatabase(const QString& path)
     return path.contains(directory);
 }
 
-// The name of a file of the time zone database within it; other names as they are.
+// The name of a file within the time zone database; other names unchanged.
 QString withoutDirectory(const QString& id)
 {
     const auto start = id.lastIndexOf(directory);
     return start < 0 ? id : id.mid(start + directory.size());
 }
 
-// The link, and what it leads to: a file of the database, perhaps through other links.
+// The link and its targets: a file of the database, perhaps through other links.
 QStringList chainOf(const QString& link)
 {
     constexpr int mostLinks = 8;
@@ -60,7 +60,7 @@ QString idOf(const QByteArray& variable, const QString& link)
     if (isKnown(*zone)) {
         return id;
     }
-    // A rule such as "CET-1CEST" is no identifier, and a copied file has none. ICU finds a zone that keeps it.
+    // A rule such as "CET-1CEST" is not an identifier, and a copied file has none. ICU finds an equivalent zone.
     const std::unique_ptr<icu::TimeZone> host(icu::TimeZone::detectHostTimeZone());
     icu::UnicodeString hostId;
     std::string text;
@@ -106,7 +106,7 @@ QByteArray TimeZone::stamp() const
         const QByteArray path = QFile::encodeName(name);
         struct stat status = {};
         ::lstat(path.constData(), &status);
-        stamp += path; // a link made anew within a tick of the clock may be the same in all that follows
+        stamp += path; // a link replaced within a tick of the clock may have the same status
         append(status.st_dev);
         append(status.st_ino);
         append(status.st_mtim);

@@ -8,8 +8,8 @@
 namespace zel::host {
 
 /**
- * The identifier of the host's time zone, as ICU knows it; empty where there is none. The environment's TZ goes before
- * the system's local-time link. Both are looked at whenever the value is asked for.
+ * The identifier of the host's time zone in ICU; empty if there is none. The environment's TZ takes precedence over the
+ * system's local-time link. Every query reads both.
  */
 class TimeZone : public Setting
 {
@@ -24,12 +24,12 @@ public:
     std::unique_ptr<QObject> listen() override;
 
 private:
-    /** Identifies TZ and one version of the link and of all that it leads to. */
+    /** Identifies TZ and one version of the link and everything it leads to. */
     QByteArray stamp() const;
 
     const Reporter m_reporter;
     const QString m_link;
-    mutable std::mutex m_mutex; // for what is below
+    mutable std::mutex m_mutex; // guards the members below
     mutable QByteArray m_stamp;
     mutable QString m_id;
 };

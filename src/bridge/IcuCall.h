@@ -8,8 +8,8 @@
 namespace zel::utility::i18n {
 
 /**
- * The one way to report a failed ICU call: a message with its error, or that it returned no object, and one with what
- * follows from that.
+ * The only way to report a failed ICU call: a message with its error, or that it returned no object, and a message with
+ * the consequence.
  *
  * @code
  * if (status.isFailure()) {
@@ -20,7 +20,7 @@ namespace zel::utility::i18n {
  */
 struct IcuCall
 {
-    /** How the first message goes on behind the call: "f(): U_ERROR" or "f() : U_ERROR". */
+    /** The spelling of the first message after the call: "f(): U_ERROR" or "f() : U_ERROR". */
     enum Spelling { Joined, Spaced };
 
     const char* name;
@@ -28,7 +28,7 @@ struct IcuCall
     QtMsgType failure = QtWarningMsg;
     QtMsgType consequence = QtWarningMsg;
 
-    /** The items are those of the second message; without one there is none. */
+    /** The items of the second message; none for no second message. */
     template <typename... Items>
     void report(UErrorCode status, const Items&... items) const
     {

@@ -10,9 +10,9 @@ namespace zel::utility::i18n {
 class PpsManager;
 
 /**
- * The clock setting of the device. An object of this class relays the changes of the one reader that the process keeps.
- * They arrive through the event loop of the thread that created the object; a thread without one can ask at any time.
- * On a desktop the answer is what was last heard, through the event loop of any thread.
+ * The clock setting of the device. An object relays the changes of the process's shared reader, through the event loop
+ * of the thread that created it; a thread without one can query at any time. On a desktop the value is the last one
+ * that arrived through the event loop of any thread.
  */
 class ClockSetting : public QObject
 {
@@ -25,17 +25,17 @@ public:
     ~ClockSetting() override = default;
 
     /**
-     * The clock that the user chose: Use12hourClock or Use24hourClock. It is the 12-hour clock where the device does
-     * not say, and, with a message, where it says something else. Any thread may call.
+     * The user's clock: Use12hourClock or Use24hourClock. Default: 12-hour; with a message if the setting is invalid.
+     * Call on any thread.
      */
     static zel::utility::i18n::ClockFormat::Type clockFormat();
 
     ZEL_UTILITY_I18N_SIGNALS
-    /** The setting has changed. */
+    /** The setting changed. */
     Q_SIGNAL void changed();
 
 private:
-    /** The one reader; null on a thread that is just creating it, and when the process has destroyed it. */
+    /** The shared reader; null on a thread that is creating it, and after the process has destroyed it. */
     static PpsManager* getPpsManager();
 };
 

@@ -5,7 +5,7 @@
 
 namespace zel::utility::i18n {
 
-/** Writes a message about the Linux host as one of the product. */
+/** Writes a message about the Linux host as one of the library. */
 inline void reportOfHost(QtMsgType type, const QString& text)
 {
     Diagnostic::write(type, text.toUtf8().constData());

@@ -10,13 +10,13 @@
 namespace zel::utility::i18n {
 
 /**
- * Follows one attribute of one settings object, or the setting of the host that stands for it.
+ * Follows one attribute of a settings object, or the corresponding setting of the host.
  *
- * It belongs to the thread that created it and hears of changes through that thread's event loop; value() may be asked
- * on any thread. An object that cannot be opened leaves the value invalid for good; one that cannot be read or decoded
- * leaves it as it was.
+ * Belongs to the thread that created it and receives changes through that thread's event loop; value() may be called on
+ * any thread. An object that cannot be opened leaves the value invalid; one that cannot be read or decoded leaves the
+ * last value.
  *
- * One that several threads use is moved to none: instead of an event loop, refresh() makes it notice changes.
+ * A manager shared by several threads is moved to no thread: there refresh(), not an event loop, detects changes.
  *
  * @code
  * PpsManager manager("/pps/system/settings", "@settings", "hourFormat", nullptr);
@@ -41,28 +41,28 @@ public:
     {
     }
 
-    /** What a Linux host has in the place of an attribute. */
+    /** The settings of a Linux host by attribute. */
     enum class HostSetting { None, Clock, TimeZone };
 
-    /** The same for a build that follows a Linux host; the device platform needs the three strings only. */
+    /** The same for the desktop build; the device platform needs the three strings only. */
     PpsManager(const char* path, const char* map, const char* key, HostSetting host, QObject* parent);
     ~PpsManager() override;
 
     const char* path() const { return m_path; }
 
-    /** The attribute's last value; invalid where it is not set. */
+    /** The attribute's last value; invalid if it is not set. */
     QVariant value() const;
 
     /**
-     * Reads the attribute again if the object has changed; an unchanged one costs one stat(). Any thread may call once
-     * the manager belongs to none. A broken object is reported once.
+     * Reads the attribute again if the object changed; costs one stat() otherwise. Call on any thread once the manager
+     * belongs to none. A broken object is reported once.
      *
-     * @return false if the object is being written just now and cannot be read, so that another call is needed soon
+     * @return false if the object is being written and cannot be read, so that another call is needed soon
      */
     bool refresh();
 
     ZEL_UTILITY_I18N_SIGNALS
-    /** The value has been replaced by a different one. */
+    /** The value changed. */
     Q_SIGNAL void changed();
 
 private Q_SLOTS:
@@ -71,14 +71,14 @@ private Q_SLOTS:
 private:
     friend class SettingListener;
 
-    /** What the platform has behind the attribute; each platform unit defines its own. */
+    /** The source of the attribute; each platform file defines it. */
     class Source;
 
-    /** Reads the object, as refresh() does; what was announced is reported in any case. */
+    /** Reads the object, as refresh() does, and reports a broken one in any case. */
     bool update(bool announced);
     void report(const QString& error, const QByteArray& payload, bool again);
 
-    /** Returns whether the value is another one. */
+    /** Returns whether the value changed. */
     bool setValue(const QVariant& value);
 
     std::unique_ptr<Source> m_source;

@@ -8,16 +8,16 @@
 
 namespace zel::utility::i18n {
 
-/** The setting of the Linux host that stands for an attribute of the device platform. */
+/** The setting of the Linux host for an attribute of the device platform. */
 class PpsManager::Source
 {
 public:
     explicit Source(HostSetting host);
 
-    /** Null where the host has no such setting. */
+    /** Null if the host has no such setting. */
     const std::unique_ptr<zel::host::Setting> setting;
 
-    std::mutex mutex; // for the way of a value from the setting to the manager
+    std::mutex mutex; // held while a value goes from the setting to the manager
 };
 
 } // namespace zel::utility::i18n

@@ -1,4 +1,4 @@
-// Settings, taken from the Linux host.
+// Settings of the Linux host.
 
 #include "settings/PpsManager.h"
 
@@ -70,7 +70,7 @@ void PpsManager::onPpsUpdate()
 bool PpsManager::update(bool /*announced*/)
 {
     const DeferredMessages messages;
-    // Both in one step: what one thread has read is not to be stored after a later answer that another has.
+    // Both under one lock, so that a value that one thread read is not stored after a later one of another thread.
     std::unique_lock lock(m_source->mutex);
     const bool isOther = setValue(m_source->setting->value());
     lock.unlock();

@@ -1,4 +1,4 @@
-// Settings, read from the settings service of the device platform.
+// Settings of the device platform.
 
 #include "settings/PpsManager.h"
 
@@ -24,7 +24,7 @@ class PpsManager::Source : public zel::PpsObject
 public:
     using PpsObject::PpsObject;
 
-    std::shared_mutex mutex; // for everything but notification
+    std::shared_mutex mutex; // guards everything except notification
     QByteArray failure;      // what was last reported
 };
 
@@ -57,7 +57,7 @@ bool PpsManager::refresh()
         return true;
     }
     {
-        // Threads look at the file side by side; only a change makes them wait for each other.
+        // Threads check the file in parallel; only a change makes them wait for each other.
         const std::shared_lock lock(m_source->mutex);
         if (m_source->isCurrent()) {
             return true;

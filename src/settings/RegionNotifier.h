@@ -6,8 +6,8 @@
 namespace zel::utility::i18n {
 
 /**
- * Calls a signal or slot of a receiver whenever the user's region locale changes, for as long as it lives. Changes
- * arrive through the event loop of the thread that created it.
+ * Calls a signal or slot of a receiver whenever the user's region locale changes, while it exists. Changes arrive
+ * through the event loop of the thread that created it.
  *
  * @code
  * RegionNotifier notifier(receiver, SLOT(onRegionChange()), nullptr);

@@ -1,4 +1,4 @@
-// Changes of the region, heard from the locale service of the device platform.
+// Changes of the region, from the locale service of the device platform.
 
 #include "settings/RegionNotifier.h"
 

@@ -9,8 +9,8 @@ namespace zel::utility::i18n {
 class PpsManager;
 
 /**
- * What one thread hears of a setting. It notices changes through the event loop of the thread that created it, has the
- * shared reader take them, and relays what the reader announces, whichever thread made the reader notice.
+ * Reports changes of a setting to one thread. Detects changes through the event loop of the thread that created it,
+ * refreshes the shared reader, and relays the reader's signals, whichever thread triggered them.
  */
 class SettingListener : public QObject
 {
@@ -21,17 +21,17 @@ public:
     explicit SettingListener(PpsManager* manager);
     ~SettingListener() override;
 
-    /** Begins to notice changes anew, as in an event loop that has taken the place of another. */
+    /** Starts detecting changes again, in an event loop that replaced another. */
     void listen();
 
-    /** Always through the event loop: a query that notices a change does not call anybody in the middle of it. */
+    /** Always emitted from the event loop, never inside a query that detects a change. */
     Q_SIGNAL void changed();
 
 private Q_SLOTS:
     void onChange();
 
 private:
-    /** What the platform announces changes with; each platform unit defines its own. */
+    /** The source of changes; each platform file defines it. */
     class Source;
 
     PpsManager* m_manager;

@@ -1,4 +1,4 @@
-// Changes of settings, heard from the Linux host.
+// Changes of settings of the Linux host.
 
 #include "settings/SettingListener.h"
 
@@ -34,7 +34,7 @@ void SettingListener::listen()
     }
 }
 
-// The host's setting announces its changes to the manager itself.
+// The host's setting reports its changes to the manager itself.
 void SettingListener::onChange() {}
 
 } // namespace zel::utility::i18n

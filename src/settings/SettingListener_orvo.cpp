@@ -1,4 +1,4 @@
-// Changes of settings, heard from the settings service of the device platform.
+// Changes of settings of the device platform.
 
 #include "settings/SettingListener.h"
 
@@ -29,7 +29,7 @@ SettingListener::SettingListener(PpsManager* manager)
     Diagnostic::checkConnection(connect(m_source.get(), SIGNAL(readyRead()), this, SLOT(onChange())), signature,
                                 "zel::PpsObject::readyRead()");
     listen();
-    // Connected last: what changed before anybody listened is no news.
+    // Connected last, so that earlier changes are not reported.
     Diagnostic::checkConnection(connect(manager, SIGNAL(changed()), this, SIGNAL(changed()), Qt::QueuedConnection),
                                 signature, "PpsManager::changed()");
 }
@@ -39,8 +39,7 @@ SettingListener::~SettingListener() = default;
 void SettingListener::listen()
 {
     m_source->open(zel::PpsOpenMode::Subscribe);
-    // After the source has read the object, so that no change falls between. Half an object is noticed when it is
-    // whole.
+    // After the source has read the object, so that no change is missed. Half an object is reported when it is whole.
     m_manager->refresh();
 }
 

@@ -12,20 +12,20 @@
 
 namespace zel::utility::i18n {
 
-/** The reader of a setting that all threads share, and what each thread hears of it. Setting tells settings apart. */
+/** The reader of a setting that all threads share, and its listener on each thread. One instance per Setting. */
 template <typename Setting>
 class SharedReader
 {
 public:
     SharedReader() = delete;
 
-    /** The one reader; null on a thread that is just creating it, and when the process has destroyed it. */
+    /** The shared reader; null on a thread that is creating it, and after the process has destroyed it. */
     static PpsManager* get(QRecursiveMutex& mutex, const char* path, const char* map, const char* key,
                            PpsManager::HostSetting host)
     {
         const DeferredMessages messages;
         const QMutexLocker locker(&mutex);
-        // A message handler that Qt calls while the reader is created may ask for the setting.
+        // A message handler that runs while the reader is created may query the setting.
         static thread_local bool creating = false;
         if (creating || s_destroyed) {
             return nullptr;
@@ -36,7 +36,7 @@ public:
         return &ppsManager;
     }
 
-    /** The value as of now; invalid without a reader. */
+    /** The value as it is now; invalid without a reader. */
     static QVariant value(PpsManager* manager)
     {
         if (manager == nullptr) {
@@ -46,19 +46,19 @@ public:
         return manager->value();
     }
 
-    /** The listener of this thread; null without a reader, and when the thread has destroyed it. */
+    /** The listener of this thread; null without a reader, and after the thread has destroyed it. */
     static const SettingListener* listener(PpsManager* manager)
     {
         static thread_local bool destroyed = false;
         if (manager == nullptr || destroyed) {
             return nullptr;
         }
-        // A message handler may ask for the listener, too, but not while it is made.
+        // Message handlers may request the listener, too, but not while it is created.
         const DeferredMessages messages;
         static thread_local QPointer<QAbstractEventDispatcher> dispatcher(QAbstractEventDispatcher::instance());
         static thread_local SettingListener threadListener(manager);
         static thread_local const auto atExit = qScopeGuard([] { destroyed = true; });
-        // What was queued or timed for the event loop of an application object is lost with it.
+        // Queued events and timers are lost with the event loop of an application object.
         if (dispatcher != QAbstractEventDispatcher::instance()) {
             dispatcher = QAbstractEventDispatcher::instance();
             threadListener.listen();
@@ -67,7 +67,7 @@ public:
     }
 
 private:
-    /** Belongs to no thread, so that none that ends leaves it deaf. */
+    /** Belongs to no thread, so that it survives the end of every thread. */
     class Reader : public PpsManager
     {
     public:
@@ -79,7 +79,7 @@ private:
         ~Reader() override { s_destroyed = true; }
     };
 
-    // Something may still be formatted when the process has destroyed the reader.
+    // Texts may be formatted after the process has destroyed the reader.
     inline static bool s_destroyed = false;
 };
 

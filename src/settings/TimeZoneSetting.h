@@ -10,8 +10,8 @@ namespace zel::utility::i18n {
 class PpsManager;
 
 /**
- * The time zone of the device. An object of this class relays the changes of the one reader that the process keeps.
- * They arrive through the event loop of the thread that created the object; a thread without one can ask at any time.
+ * The time zone of the device. An object relays the changes of the process's shared reader, through the event loop of
+ * the thread that created it; a thread without one can query at any time.
  */
 class TimeZoneSetting : public QObject
 {
@@ -24,17 +24,16 @@ public:
     ~TimeZoneSetting() override = default;
 
     /**
-     * The identifier of the time zone, unchecked; empty where the device does not say.
-     * Any thread may call.
+     * The identifier of the time zone, unchecked; empty if it is not set. Call on any thread.
      */
     static QString timeZone();
 
     ZEL_UTILITY_I18N_SIGNALS
-    /** The setting has changed. */
+    /** The setting changed. */
     Q_SIGNAL void changed();
 
 private:
-    /** The one reader; null on a thread that is just creating it, and when the process has destroyed it. */
+    /** The shared reader; null on a thread that is creating it, and after the process has destroyed it. */
     static PpsManager* getPpsManager();
 };
 

@@ -25,7 +25,7 @@ QStringList localesOfIcu()
     return names;
 }
 
-// A locale that only ICU knows is shown as such where all are, but is a mistake where it was asked for.
+// A locale that only ICU knows is shown as such among all, but is an error if requested.
 QStringList localesFor(const Arguments& arguments)
 {
     if (!arguments.has(QStringLiteral("locale"))) {
@@ -38,7 +38,7 @@ QStringList localesFor(const Arguments& arguments)
     return names;
 }
 
-// A file is replaced in one step. A device or a pipe stays what it is and is written to.
+// A file is replaced atomically; a device or a pipe is written to.
 void write(const QString& path, const QByteArray& contents)
 {
     const QFileInfo target(path);
@@ -79,10 +79,10 @@ void requireUsage(const Arguments& arguments)
     }
     requireUsage(!arguments.has(QStringLiteral("compare")) || arguments.value(QStringLiteral("tsv")) != standardOutput,
                  QStringLiteral("--compare writes to standard output, so --tsv takes the name of a file"));
-    requireUsage(!arguments.has(QStringLiteral("device")), QStringLiteral("--device makes no difference here"));
+    requireUsage(!arguments.has(QStringLiteral("device")), QStringLiteral("--device has no effect here"));
 }
 
-// `gallery`: everything that depends on the locale, for every locale, on one page.
+// `gallery`: the patterns and texts of every locale on one page.
 class GalleryCommand : public Command
 {
 public:

@@ -17,19 +17,18 @@ class Device
 public:
     Device() = delete;
 
-    /** The value of a setting, nothing where it is not set; a Failure where it cannot be read. */
+    /** The value of a setting; none if it is not set. Throws a Failure if it cannot be read. */
     static std::optional<QString> get(const QString& key);
 
-    /** What set() may do that is a Failure otherwise. */
+    /** Actions that set() must be allowed to take. */
     struct Permissions
     {
-        bool replace = false; ///< write what cannot be read anew, with nothing beside the settings
-        bool create = false;  ///< make a device of a machine that is none
+        bool replace = false; ///< overwrite an object that cannot be decoded
+        bool create = false;  ///< create the settings directory
     };
 
     /**
-     * Changes settings, each in one step that no reader sees half done and no other of these commands comes between,
-     * and leaves alone what stands beside them.
+     * Changes settings, each object atomically and under a lock, and keeps its other attributes.
      */
     static void set(const QMap<QString, QString>& values, Permissions permissions);
     static void unset(const QStringList& keys);
@@ -37,13 +36,13 @@ public:
     /** The user's region locale. */
     static QLocale region();
 
-    /** A Failure where a setting cannot be read, so that no answer is given under a setting that nobody chose. */
+    /** Throws a Failure if a setting cannot be read, so that no text depends on a wrong default. */
     static void requireReadable();
 
-    /** Becomes, for this process, a device whose settings are kept in a directory, and none of them set. */
+    /** Simulates, for this process, a device with its settings in a directory, none of them set. */
     static void useEmpty(const QString& directory);
 
-    /** Becomes, for this process, the same device with another region. What changes is kept in a directory. */
+    /** Changes the region for this process only. The change is kept in a directory. */
     static void useRegion(const QString& name, const QString& directory);
 
     /** The state of the settings, and each setting with its source. */

@@ -18,7 +18,7 @@ public:
     explicit DeviceObserver(QObject* parent = nullptr);
     ~DeviceObserver() override;
 
-    /** The clock that the device was seen with last: 12 or 24. */
+    /** The last known clock of the device: 12 or 24. */
     int clock() const { return m_values.value(Assignments::hourFormat()) == QLatin1String("24") ? 24 : 12; }
 
 Q_SIGNALS:
@@ -29,7 +29,7 @@ private Q_SLOTS:
 
 private:
     QMap<QString, QString> m_values;
-    int m_attempts = 0; // to read an object that is being written
+    int m_attempts = 0; // of reading an object that is being written
 };
 
 } // namespace zel::tool

@@ -7,7 +7,7 @@
 
 namespace zel::tool {
 
-// These are beside the library's: each of the two has a connection of its own to the session bus.
+// Separate from the library's, with a separate connection to the session bus.
 DeviceObserver::DeviceObserver(QObject* parent) : QObject(parent)
 {
     const auto observe = [this](const QString& key, std::unique_ptr<zel::host::Setting> setting) {

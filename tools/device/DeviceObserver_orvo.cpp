@@ -12,11 +12,10 @@ namespace zel::tool {
 
 namespace {
 
-constexpr int writeInterval = 20; // milliseconds that an object may be half written
+constexpr int writeInterval = 20; // milliseconds for which an object may be half written
 constexpr int mostAttempts = 10;
 
-// Takes the values as they are now; what cannot be read stays as it was, as it does for the library. Returns whether
-// all could be read.
+// Reads all values; one that cannot be read keeps its last value, as in the library. Returns whether all could be read.
 bool update(QMap<QString, QString>& values)
 {
     bool isComplete = true;
@@ -45,7 +44,7 @@ DeviceObserver::DeviceObserver(QObject* parent) : QObject(parent)
     auto* const region = new system::LocaleHandler(system::LocaleType::Region);
     region->setParent(this);
     requireConnection(connect(region, SIGNAL(changed()), this, SLOT(look())));
-    // Last, so that what changes meanwhile is announced.
+    // Last, so that changes in between are reported.
     look();
 }
 
@@ -54,7 +53,7 @@ DeviceObserver::~DeviceObserver() = default;
 void DeviceObserver::look()
 {
     QMap<QString, QString> values = m_values;
-    // What was announced may be torn by now, and is not announced again if it becomes whole with the same contents.
+    // The object may be torn by now; it is not reported again if it becomes whole with the same contents.
     if (!update(values) && m_attempts < mostAttempts) {
         ++m_attempts;
         QTimer::singleShot(writeInterval, this, SLOT(look()));

@@ -1,4 +1,4 @@
-// The settings of a Linux host. They are the user's, so they are shown here and changed in the desktop.
+// The settings of a Linux host. They are shown here, and changed in the desktop's settings.
 
 #include "device/Assignments.h"
 #include "device/Device.h"
@@ -9,7 +9,7 @@ namespace zel::tool {
 
 namespace {
 
-// The settings of this process, where it has its own.
+// The settings of this process, if it overrides them.
 std::optional<QMap<QString, QString>> ownSettings;
 
 QString advice(const QString& key)
@@ -24,7 +24,7 @@ QString advice(const QString& key)
     return ways.value(key);
 }
 
-// What the host says about a setting, apart from what the library has heard of it.
+// The host setting, read independently of the library.
 std::unique_ptr<zel::host::Setting> hostSetting(const QString& key, int portalTimeoutMs = zel::host::portalTimeoutMs)
 {
     if (key == Assignments::hourFormat()) {
@@ -58,7 +58,7 @@ Finding examineOwn(const QString& key)
 
 Finding examineSetting(const QString& key)
 {
-    // Nobody waits for a text here: long enough for a portal that is just being started.
+    // Long enough for a portal that is starting.
     constexpr int portalTimeoutMs = 5000;
     const auto setting = hostSetting(key, portalTimeoutMs);
     const QString value = setting->value().toString();

@@ -1,4 +1,4 @@
-// The settings of a device, kept in settings objects.
+// The settings of a device, in settings objects.
 
 #include "device/Assignments.h"
 #include "device/Device.h"
@@ -18,7 +18,7 @@ namespace zel::tool {
 
 namespace {
 
-/** Where a setting is kept. */
+// The object and attribute of a setting.
 struct Place
 {
     QString object;
@@ -41,7 +41,7 @@ QVariant encoded(const QString& key, const QString& value)
     return key == Assignments::hourFormat() ? QVariant(value.toInt()) : QVariant(value);
 }
 
-// A settings object to change; empty where it is missing or may be replaced.
+// A settings object to change; empty if it is missing or may be replaced.
 SettingsObject toBeChanged(const QString& key, bool replace)
 {
     SettingsObject object(placeOf(key).object);
@@ -53,7 +53,7 @@ SettingsObject toBeChanged(const QString& key, bool replace)
 
 constexpr const char* settingsDirectory = "/pps";
 
-// A directory that ZEL_PPS_ROOT names is there to be filled; on the machine itself only a device has settings.
+// The directory of ZEL_PPS_ROOT may be created; without it, only a device has a settings directory.
 bool isDevice()
 {
     return *PpsObject::root() != '\0' || QFileInfo::exists(QLatin1String(settingsDirectory));
@@ -91,7 +91,7 @@ Finding examineRoot()
     }
     if (!root.isDir() || !root.isReadable() || !root.isExecutable()) {
         return {Finding::Wrong, subject, text + QLatin1String("; it is not a directory that can be read"),
-                QStringLiteral("let ZEL_PPS_ROOT name one")};
+                QStringLiteral("set ZEL_PPS_ROOT to a directory")};
     }
     return {Finding::Good, subject, text, {}};
 }
@@ -106,21 +106,21 @@ Finding examineObject(const QString& path)
     case SettingsObject::Missing:
         return {Finding::Note, subject, PpsObject::filePath(path) + QLatin1String(": missing"), {}};
     case SettingsObject::Torn:
-        return {Finding::Wrong, subject, object.fault(), QStringLiteral("'device set --replace' writes it anew")};
+        return {Finding::Wrong, subject, object.fault(), QStringLiteral("'device set --replace' overwrites it")};
     case SettingsObject::Unreadable:
         break;
     }
-    return {Finding::Wrong, subject, object.fault(), QStringLiteral("make it a file that can be read")};
+    return {Finding::Wrong, subject, object.fault(), QStringLiteral("make it a readable file")};
 }
 
-// What applies where a setting is not set, and why.
+// The default of a setting that is not set, and the reason.
 QString fallback(const QString& key)
 {
     if (key == Assignments::hourFormat()) {
         return QStringLiteral("12, the default");
     }
     if (key == Assignments::timeZone()) {
-        return QStringLiteral("none, so that moments with a zone are shown in GMT");
+        return QStringLiteral("none; texts with a zone show GMT");
     }
     for (const char* const variable : {"LC_ALL", "LC_TIME", "LANG"}) {
         if (!qEnvironmentVariableIsEmpty(variable)) {
@@ -167,11 +167,11 @@ void Device::set(const QMap<QString, QString>& values, Permissions permissions)
     if (!permissions.create) {
         requireDevice(values.keys());
     }
-    // All are looked at before the first is written.
+    // All are checked before the first is written.
     for (const QString& key : values.keys()) {
         const SettingsObject object(placeOf(key).object);
         if (object.state() == SettingsObject::Torn && !permissions.replace) {
-            throw Failure(object.fault() + QStringLiteral("; --replace writes it anew"));
+            throw Failure(object.fault() + QStringLiteral("; --replace overwrites it"));
         }
         toBeChanged(key, permissions.replace);
     }
@@ -219,7 +219,7 @@ void Device::useEmpty(const QString& directory)
 
 void Device::useRegion(const QString& name, const QString& directory)
 {
-    // The other objects stay where they are, and are followed there.
+    // Links to the other objects, so that they are followed in place.
     for (const QString& key : {Assignments::hourFormat(), Assignments::timeZone()}) {
         const QString object = placeOf(key).object;
         const QString link = directory + object;

@@ -19,7 +19,7 @@ namespace zel::tool {
 
 namespace {
 
-/** A change of the device reaches the library through the event loop. */
+// A change of the device reaches the library through the event loop.
 void useClock(const QString& clock)
 {
     constexpr int timeout = 5000;
@@ -59,7 +59,7 @@ Gallery::Gallery(const QStringList& locales, const Console& console)
     }
 }
 
-/** Adds the rows under the clock that the device has now. */
+// Adds the rows under the current clock of the device.
 void Gallery::fill(ProgressBar& progress, const Console& console)
 {
     for (GalleryEntry& entry : m_entries) {
@@ -68,7 +68,7 @@ void Gallery::fill(ProgressBar& progress, const Console& console)
         }
         progress.step(entry.locale);
         if (const auto locale = zel::system::LocaleName::find(entry.locale)) {
-            // The region of a device that has none set is that of the environment, and this costs no file.
+            // Without a region setting, the region is that of the environment, which needs no file.
             qputenv("LC_ALL", entry.locale.toLatin1());
             entry.clocks.append(GalleryEntry::rows(*locale));
         }

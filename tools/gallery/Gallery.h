@@ -12,15 +12,15 @@ class Console;
 class GalleryComparison;
 class ProgressBar;
 
-/** What the library answers for many locales, under each clock. */
+/** The texts of many locales, under each clock. */
 class Gallery
 {
 public:
-    /** Asks the library on a device of its own, with progress on a terminal. Ends early when a signal asks for it. */
+    /** Formats all texts on a simulated device, with progress on a terminal. Ends early on a signal. */
     Gallery(const QStringList& locales, const Console& console);
 
     int size() const { return static_cast<int>(m_entries.size()); }
-    /** How many locales have a text with notes, or are not known to Qt. */
+    /** The number of locales that have a text with notes, or that Qt does not know. */
     int marked() const;
 
     void compareWith(GalleryComparison& comparison);

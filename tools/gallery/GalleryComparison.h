@@ -9,16 +9,16 @@
 
 namespace zel::tool {
 
-/** What reads otherwise than in an older table of the gallery. */
+/** The differences from an older table of the gallery. */
 class GalleryComparison
 {
 public:
-    /** @param file a GalleryTable; a Failure where it is none */
+    /** @param file a GalleryTable; a Failure otherwise */
     explicit GalleryComparison(const QString& file);
 
-    /** Gives each row that differs what the older table has, and counts. @param clocks the names of the clocks */
+    /** Sets the older text of each row that differs, and counts. @param clocks the names of the clocks */
     void mark(QList<GalleryEntry>& entries, const QStringList& clocks);
-    /** Called where not all locales were asked for: the others are not gone. */
+    /** For a selection of locales: the others do not count as gone. */
     void forgetOthers() { m_olderLocales.clear(); }
 
     int locales() const { return m_locales; } ///< that are in both
@@ -29,12 +29,12 @@ public:
     QStringList goneLocales() const;
     int differentLocales() const { return m_differentLocales; }
     int differentTexts() const;
-    /** How many texts differ in each group that has some. */
+    /** The number of different texts by group. */
     QMap<QString, int> differences() const { return m_differences; }
 
 private:
     void mark(GalleryEntry& entry, const QStringList& clocks);
-    /** Whether a row differs, which is given what the older table has then. */
+    /** Returns whether a row differs, and sets its older text then. */
     bool mark(GalleryRow& row, const QString& place);
 
     QHash<QString, GalleryText> m_older; ///< by place: locale, clock, group and name

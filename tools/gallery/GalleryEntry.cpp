@@ -16,7 +16,7 @@ using zel::utility::i18n::RelativeDateFormatter;
 namespace RelativeDateFormat = zel::utility::i18n::RelativeDateFormat;
 namespace RelativeDateWording = zel::utility::i18n::RelativeDateWording;
 
-// In the evening, when the clocks differ, and in a zone that is the same everywhere.
+// In the evening, when the clocks differ, and in UTC.
 QDateTime moment()
 {
     return QDateTime::fromString(QStringLiteral("2012-09-03T22:30Z"), Qt::ISODate);
@@ -43,7 +43,7 @@ QDateTime newYear()
     return {QDate(2013, 1, 1), QTime(0, 30)};
 }
 
-// Where the wordings differ.
+// Moments for which the wordings differ.
 QList<Rung> aroundNewYear()
 {
     return {{QStringLiteral("2 days before"), newYear().addDays(-2)},
@@ -51,7 +51,7 @@ QList<Rung> aroundNewYear()
             {QStringLiteral("0 minutes"), newYear()}};
 }
 
-/** Collects rows, each with the messages that came up while it was made. */
+// Collects rows, each with the messages that were written meanwhile.
 class Rows
 {
 public:

@@ -10,7 +10,7 @@ class QLocale;
 
 namespace zel::tool {
 
-/** A text, and the pattern or skeleton that it was written with; none for percentages and relative dates. */
+/** A text with its pattern or skeleton; without one for percentages and relative dates. */
 struct GalleryText
 {
     QString pattern;
@@ -20,28 +20,28 @@ struct GalleryText
     bool operator!=(const GalleryText& other) const { return !(*this == other); }
 };
 
-/** One text of a locale, how it came about, and what there is to say about it. */
+/** One text of a locale, with its pattern and notes. */
 struct GalleryRow
 {
     QString group; ///< "date", "relative, time-critical", ...
     QString name;  ///< within the group
     GalleryText now;
-    QStringList notes;                 ///< that Qt had to answer, and the messages of the library
-    std::optional<GalleryText> before; ///< in the table compared with, where it was another one
+    QStringList notes;                 ///< a fallback to Qt, and the messages of the library
+    std::optional<GalleryText> before; ///< the older text, if it differs
 };
 
-/** What the library answers for one locale: the same rows under each clock. */
+/** The texts of one locale: the same rows under each clock. */
 struct GalleryEntry
 {
     QString locale;
-    QList<QList<GalleryRow>> clocks; ///< empty where Qt does not know the locale, so that nobody can ask for it
+    QList<QList<GalleryRow>> clocks; ///< empty if Qt does not know the locale
 
     int size() const { return clocks.isEmpty() ? 0 : static_cast<int>(clocks.first().size()); }
 
     /** The rows for a locale under the clock and in the region of the device. */
     static QList<GalleryRow> rows(const QLocale& locale);
 
-    /** The clocks under which a row is not the same as under the one before. */
+    /** The clocks under which a row differs from the previous clock. */
     QList<int> distinctClocks(int row) const;
 };
 

@@ -66,7 +66,7 @@ td{font-size:.87rem}code{font-size:.72rem}}
 <body>
 )";
 
-// The filter shows the locales of which a word of the title begins with what was typed, those with such a name first.
+// The filter shows the locales with a word of the title that starts with the input, matching names first.
 constexpr const char* tail = R"(</main>
 <script>
 (function () {
@@ -133,7 +133,7 @@ bool isIdeographic(QChar character)
            character.script() == QChar::Script_Katakana;
 }
 
-// Text without blanks, with a mark behind each word at which a line may end.
+// Text without blanks, with a line break opportunity after each word.
 QByteArray breakable(const QString& text)
 {
     if (std::none_of(text.begin(), text.end(), &isIdeographic)) {
@@ -205,7 +205,7 @@ struct Heads
     const char* labels; ///< of the first column
 };
 
-// The rows from one to another, a body a group.
+// A range of rows, one table body per group.
 QByteArray table(const GalleryEntry& entry, const QStringList& clocks, const Heads& heads, int from, int to)
 {
     const QList<GalleryRow>& rows = entry.clocks.first();

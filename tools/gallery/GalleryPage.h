@@ -7,15 +7,15 @@
 
 namespace zel::tool {
 
-/** The gallery as one HTML page, which needs nothing beside itself and, but for its filter, no script. */
+/** The gallery as one self-contained HTML page; only its filter needs a script. */
 class GalleryPage
 {
 public:
     GalleryPage() = delete;
 
     /**
-     * @param locales how many there are on the page, and of how many of them texts are marked
-     * @param isCompared whether rows know what an older table has
+     * @param locales the number of locales, and of those with marks
+     * @param isCompared whether rows may have an older text
      */
     static QByteArray begin(int locales, int marked, bool isCompared);
     /** @param clocks the names of the clocks */

@@ -15,11 +15,11 @@ class GallerySummary
 public:
     GallerySummary() = delete;
 
-    /** @param comparison null where nothing was compared */
+    /** @param comparison null without a comparison */
     static QJsonObject json(const Gallery& gallery, const GalleryComparison* comparison);
     static void write(const Gallery& gallery, const GalleryComparison* comparison, Console& console);
 
-    /** Each text that differs, before and now. */
+    /** Each different text, old and new. */
     static void writeDifferences(const Gallery& gallery, Console& console);
 };
 

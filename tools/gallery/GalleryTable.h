@@ -7,7 +7,7 @@
 
 namespace zel::tool {
 
-/** The gallery as tab-separated text, one text a line, to compare between versions of ICU. */
+/** The gallery as tab-separated text, one text per line, to compare versions of ICU. */
 class GalleryTable
 {
 public:
@@ -20,7 +20,7 @@ public:
     /** The cells of one line: locale, clock, group, name, pattern, text, notes. */
     enum Column { Locale, Clock, Group, Name, Pattern, Text, Notes };
 
-    /** A text as it stands in a cell: without tabs and line ends. */
+    /** A text for a cell: without tabs and line ends. */
     static QString cell(QString text);
 };
 

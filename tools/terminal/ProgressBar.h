@@ -16,10 +16,10 @@ public:
     /** Starts the next step. */
     void step(const QString& name) { show(m_done++, name); }
 
-    /** Shows how much is done. */
+    /** Shows the progress. */
     void show(qint64 done, const QString& name = {});
 
-    /** Makes room for a line; the next show() draws the bar again. */
+    /** Erases the bar for a line of output; the next show() draws it again. */
     void erase();
 
 private:

@@ -8,7 +8,7 @@ namespace zel::tool {
 
 namespace {
 
-/** What a text says, before it is known to make a moment. */
+// What a text says, before it is known to make a moment.
 struct Reading
 {
     QDate day;
@@ -18,7 +18,7 @@ struct Reading
 
 constexpr int largestOffset = 14 * 3600; // that a place has ever had
 
-/** A time with or without seconds, and a fraction of them. */
+// A time with or without seconds, and a fraction of them.
 QTime time(Scanner& scanner, bool extended)
 {
     const int hour = scanner.number(2);
@@ -31,7 +31,7 @@ QTime time(Scanner& scanner, bool extended)
     return {hour, minute, second, scanner.accept(".,") ? scanner.thousandths() : 0};
 }
 
-/** The seconds of an offset, invalid where there is none. */
+// The seconds of an offset, invalid where there is none.
 std::optional<int> offset(Scanner& scanner)
 {
     if (scanner.accept("Z")) {

@@ -8,10 +8,10 @@
 
 namespace zel::host {
 
-/** Takes a message about the host, one line without a space at its end. It is called on any thread. */
+/** Receives a message about the host: one line, without a trailing space. Called on any thread. */
 using Reporter = void (*)(QtMsgType type, const QString& text);
 
-/** A setting of the Linux host. All functions may be called on any thread. */
+/** A setting of the Linux host. Call every function on any thread. */
 class Setting : public QObject
 {
     Q_OBJECT
@@ -23,17 +23,17 @@ public:
 
     virtual QVariant value() const = 0;
 
-    /** Where the value comes from, for people. */
+    /** Returns the source of the value, for people. */
     virtual QString source() const = 0;
 
     /**
-     * Lets the calling thread hear of changes through its event loop for as long as the result lives; null where the
-     * thread hears of them already.
+     * Delivers changes through the event loop of the calling thread while the result exists; null if they arrive there
+     * already.
      */
     virtual std::unique_ptr<QObject> listen() = 0;
 
 Q_SIGNALS:
-    /** The value may have become another one. Emitted on the thread that hears of it. */
+    /** The value may have changed. Emitted on the thread that received the change. */
     void changed();
 };
 
