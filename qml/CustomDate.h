@@ -6,11 +6,11 @@
 namespace zel::utility::i18n::qml {
 
 /**
- * A moment formatted by an ICU skeleton for the user's region, clock and time zone, which are followed.
+ * A moment formatted by an ICU skeleton, following the user's region, clock and time zone.
  *
  * @code
  * CustomDate { id: day; skeleton: "yMMMd"; moment: model.date }
- * Label { text: day.text } // "May 16, 2012"
+ * Label { text: day.text } // "Sep 3, 2012"
  * @endcode
  */
 class CustomDate : public zel::utility::i18n::qml::DateText // in full for the type registration of Qt 6.4
@@ -20,7 +20,7 @@ class CustomDate : public zel::utility::i18n::qml::DateText // in full for the t
 
     /** The fields to show, in any order: letters of an ICU date/time skeleton. Default: "", and the text is empty. */
     Q_PROPERTY(QString skeleton READ skeleton WRITE setSkeleton NOTIFY skeletonChanged FINAL)
-    /** Whether a pattern could be made of the skeleton; if not, the text is empty. */
+    /** Whether ICU can build a pattern from the skeleton; if not, the text is empty. */
     Q_PROPERTY(bool valid READ isValid NOTIFY validChanged FINAL)
 
 public:

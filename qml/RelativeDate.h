@@ -28,11 +28,11 @@ class RelativeDate : public zel::utility::i18n::qml::DateText // in full for the
     Q_PROPERTY(QLocale locale READ locale WRITE setLocale RESET resetLocale NOTIFY localeChanged FINAL)
     /** The clock of times in the text. Default: ApplyUserFormat. */
     Q_PROPERTY(Clock clockFormat READ clockFormat WRITE setClockFormat NOTIFY clockFormatChanged FINAL)
-    /** How near moments are worded. Default: Natural. */
+    /** The wording. Default: Natural. */
     Q_PROPERTY(Wording wording READ wording WRITE setWording NOTIFY wordingChanged FINAL)
     /** The moment counted from. Default: now, and the text is renewed when it changes. */
     Q_PROPERTY(QDateTime anchor READ anchor WRITE setAnchor RESET resetAnchor NOTIFY anchorChanged FINAL)
-    /** The first anchor at which the text may be another one; an invalid date if it never changes. */
+    /** The first anchor at which the text may change; an invalid date if it never changes. */
     Q_PROPERTY(QDateTime validUntil READ validUntil NOTIFY validUntilChanged FINAL)
 
 public:
@@ -43,16 +43,16 @@ public:
     };
     Q_ENUM(Table)
 
-    /** Which clock a text shows. */
+    /** The clock that a text shows. */
     enum Clock : int {
-        ApplyUserFormat = ClockFormat::ApplyUserFormat,     ///< the one that the user has chosen, which is followed
-        ApplyLocaleFormat = ClockFormat::ApplyLocaleFormat, ///< the one that is customary in the locale
+        ApplyUserFormat = ClockFormat::ApplyUserFormat,     ///< the clock setting of the user, which is followed
+        ApplyLocaleFormat = ClockFormat::ApplyLocaleFormat, ///< the clock customary in the locale
         Use12hourClock = ClockFormat::Use12hourClock,       ///< 12 hours, with AM and PM
         Use24hourClock = ClockFormat::Use24hourClock        ///< 24 hours
     };
     Q_ENUM(Clock)
 
-    /** How texts are worded. */
+    /** The wording of texts. */
     enum Wording : int {
         Exact = RelativeDateWording::Exact,    ///< every count is written: "in 0 minutes"
         Natural = RelativeDateWording::Natural ///< "now", and "yesterday" across the turn of the year, too

@@ -10,7 +10,7 @@ QT_END_NAMESPACE
 
 namespace zel::utility::i18n::qml {
 
-/** Announces that the clock of the system was set, or that the system was suspended and is awake again. */
+/** Reports that the system clock was set, or that the system woke up. */
 class SystemClock : public QObject
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ public:
     explicit SystemClock(QObject* parent);
     ~SystemClock() override;
 
-    /** False where the system does not announce this: whoever waits for a time has to look at the clock meanwhile. */
+    /** False if the system does not report this, so that the clock has to be polled. */
     bool isWatched() const { return m_notifier != nullptr; }
 
     Q_SIGNAL void changed();

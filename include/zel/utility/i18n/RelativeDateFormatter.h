@@ -148,9 +148,9 @@ public:
     QDateTime validUntil(const QDateTime& dateTime) const;
 
     /**
-     * Calls a slot or signal of a receiver whenever the user's clock, region or time zone changes, for as long as both
-     * live: what this library wrote before may be out of date. The formatter itself stays as it is. Calls come through
-     * the event loop of the formatter's thread.
+     * Calls a slot or signal of a receiver whenever the user's clock, region or time zone changes, while both objects
+     * exist: texts may be out of date then. The formatter keeps its own locale and clock. Calls arrive through the
+     * event loop of the formatter's thread. Call on that thread.
      *
      * @param receiver the object to call
      * @param member the slot or signal without arguments, in SLOT() or SIGNAL()
