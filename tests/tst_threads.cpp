@@ -70,10 +70,10 @@ private:
     {
         QEventLoop events;
         Formatters formatters;
-        QElapsedTimer patience;
-        while (!patience.isValid() || (m_texts != finalTexts && !patience.hasExpired(10000))) {
-            if (settled && !patience.isValid()) {
-                patience.start();
+        QElapsedTimer sinceSettled;
+        while (!sinceSettled.isValid() || (m_texts != finalTexts && !sinceSettled.hasExpired(10000))) {
+            if (settled && !sinceSettled.isValid()) {
+                sinceSettled.start();
             }
             events.processEvents();
             m_texts = formatters.texts();

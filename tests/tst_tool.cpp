@@ -635,7 +635,7 @@ private Q_SLOTS:
         format.feed("2012-05-16\n");
         QCOMPARE(format.line(), QStringLiteral("2012"));
         format.signal(SIGINT);
-        QVERIFY(format.process().waitForFinished(Child::patience));
+        QVERIFY(format.process().waitForFinished(Child::timeoutMs));
         QCOMPARE(format.process().exitStatus(), QProcess::CrashExit);
         QCOMPARE(format.process().exitCode(), SIGINT);
         QCOMPARE(devices(), QStringList());

@@ -75,7 +75,7 @@ const Found& checked()
     return once;
 }
 
-void complain(const std::string& problem)
+void report(const std::string& problem)
 {
     std::fprintf(stderr, "libzelicudata: %s; relative dates are without phrases\n", problem.c_str());
 }
@@ -94,7 +94,7 @@ bool leaveDamagedDirectory()
     const std::string used = u_getDataDirectory();
     const std::string problem = used.empty() ? used : problemOfNamed(used, &BundleList::problemOf);
     if (!problem.empty()) {
-        complain(problem);
+        report(problem);
         u_setDataDirectory("");
     }
     return problem.empty();
@@ -118,7 +118,7 @@ std::string findPhrasePackage()
     }
     const std::string bundles = found().directory + "/" U_ICUDATA_NAME;
     if (!BundleList::hasPool(bundles)) {
-        complain("ICU has opened its own data before this library was loaded");
+        report("ICU has opened its own data before this library was loaded");
         return {};
     }
     // ICU searches a package in the directory of its name, which has the pool, then in its own directory, which has the
@@ -131,7 +131,7 @@ __attribute__((constructor)) void pointIcuToDataDirectory()
     const std::string named = namedDirectory();
     const std::string problem = named.empty() ? found().problem : problemOfNamed(named, &BundleList::problemOfStart);
     if (!problem.empty()) {
-        complain(problem);
+        report(problem);
     }
     if (named.empty() || !problem.empty()) {
         u_setDataDirectory(named.empty() ? found().directory.c_str() : "");

@@ -18,7 +18,7 @@ public:
         QString errors;
     };
 
-    static constexpr int patience = 120000;
+    static constexpr int timeoutMs = 120000;
 
     Child(const QString& program, const QStringList& arguments,
           const QProcessEnvironment& environment = QProcessEnvironment::systemEnvironment())
@@ -54,7 +54,7 @@ public:
     {
         m_process.closeWriteChannel();
         Result result;
-        if (m_process.waitForFinished(patience) && m_process.exitStatus() == QProcess::NormalExit) {
+        if (m_process.waitForFinished(timeoutMs) && m_process.exitStatus() == QProcess::NormalExit) {
             result.status = m_process.exitCode();
         }
         result.output = QString::fromUtf8(m_process.readAllStandardOutput());

@@ -18,7 +18,7 @@ namespace zel::tool {
 namespace {
 
 constexpr mode_t readableByAll = 022;
-constexpr int patience = 10000;
+constexpr int timeoutMs = 10000;
 constexpr unsigned long pause = 5;
 
 // Does not wait. Returns 0 or an errno.
@@ -37,7 +37,7 @@ SettingsLock::SettingsLock(const QString& path) : m_umask(::umask(readableByAll)
     int error = m_directory < 0 ? errno : lock(m_directory);
     QElapsedTimer timer;
     timer.start();
-    while (error == EWOULDBLOCK && !timer.hasExpired(patience)) {
+    while (error == EWOULDBLOCK && !timer.hasExpired(timeoutMs)) {
         QThread::msleep(pause);
         error = lock(m_directory);
     }

@@ -46,8 +46,8 @@ void LiveText::onChange()
 // The library hears of a change by itself, perhaps later. Time zone and region it reads for each text.
 void LiveText::follow()
 {
-    constexpr int patience = 5000;
-    if (libraryClock() != m_observer.clock() && m_sinceChange.elapsed() < patience) {
+    constexpr int timeoutMs = 5000;
+    if (libraryClock() != m_observer.clock() && m_sinceChange.elapsed() < timeoutMs) {
         m_again.start();
         return;
     }
