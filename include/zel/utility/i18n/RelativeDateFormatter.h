@@ -39,8 +39,8 @@ class RelativeDateFormatterPrivate;
  *   read "December 2012".
  * - Locale and clock are the user's at construction until they are set. A later change on the device does not change a
  *   formatter: call applyUserRegionLocale() or create another one.
- * - A text follows the spelling rules for the middle of a sentence. Where it stands alone, for example in a list, it
- * may need a capital first letter, which the application adds.
+ * - A text follows the spelling rules for the middle of a sentence. Alone, for example in a list, it may need a capital
+ *   first letter, which the application adds.
  *
  * Use a formatter only on the thread that created it; give each thread its own.
  *
