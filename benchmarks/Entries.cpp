@@ -19,7 +19,7 @@ using icu::DateFormat;
 
 const auto medium = zel::utility::i18n::DateFormat::Medium;
 
-/** A device in Berlin with a 24-hour clock. */
+// A device in Berlin with a 24-hour clock.
 class Device
 {
 public:
@@ -30,7 +30,7 @@ public:
         m_root.setClock("24");
         m_root.setTimeZone("Europe/Berlin");
         m_root.setRegion("en_US");
-        // A settings object that was written just now is read again until its time of change tells it from a later one.
+        // Let the settings object grow old enough: a new one is read again, as its time stamp may not show a change.
         std::this_thread::sleep_for(std::chrono::milliseconds(50));
     }
 
@@ -85,7 +85,7 @@ std::vector<Entry> patternEntries()
     };
 }
 
-/** Building and formatting with one skeleton; "H" is what the device makes of "h". */
+// Creating a formatter and formatting with one skeleton; on the device, "h" becomes "H".
 std::vector<Entry> customEntries(const std::string& title, const QString& skeleton)
 {
     const QString clocked = QString(skeleton).replace(QLatin1Char('h'), QLatin1Char('H'));
@@ -128,7 +128,7 @@ Entry setSkeletonEntry()
             Entry::Same};
 }
 
-/** The skeletons of the slots of the finer ladder, under a 24-hour clock. */
+// The skeletons of the slots of TimeCritical, under a 24-hour clock.
 const QStringList& ladderSkeletons()
 {
     static const QStringList side = {QStringLiteral("yMMMM"), QStringLiteral("MMMd"), QStringLiteral("EHmm"),
@@ -184,7 +184,8 @@ std::vector<Entry> ladderEntries()
              const QDateTime newAnchor = next() ? anchor : anchor.addSecs(1);
              if (newAnchor != copies->front()) {
                  std::fill(copies->begin(), copies->end(), newAnchor);
-                 QMetaObject::activate(sender.get(), &QObject::staticMetaObject, 0, nullptr); // a signal nobody hears
+                 QMetaObject::activate(sender.get(), &QObject::staticMetaObject, 0,
+                                       nullptr); // a signal without receivers
              }
              return QString();
          },
@@ -192,7 +193,7 @@ std::vector<Entry> ladderEntries()
     };
 }
 
-/** How the calls for one slot go: the tests up to its range, then its phrase and its pattern. */
+// The calls for one slot: the tests up to its range, then its phrase and its pattern.
 struct SlotCalls
 {
     const char* name;

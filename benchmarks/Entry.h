@@ -6,10 +6,10 @@
 #include <string>
 #include <vector>
 
-/** An entry of the library beside the calls of ICU and Qt that it cannot do without, on the same input. */
+/** An entry of the library and its floor, with the same input. */
 struct Entry
 {
-    /** What the texts of the two have in common. */
+    /** The relation of the two texts. */
     enum Texts { Same, Different };
 
     std::string name;
@@ -18,7 +18,7 @@ struct Entry
     Texts texts;
 };
 
-/** Every entry. Device settings and formatters are set up first, and stay for the rest of the process. */
+/** Every entry. Device settings and formatters are set up first and kept for the rest of the process. */
 const std::vector<Entry>& entries();
 
 /** The names of the entries whose two sides give different texts, although they do the same. */

@@ -16,7 +16,7 @@ namespace {
 
 icu::Locale toICU(const QLocale& locale)
 {
-    // The BCP 47 name leaves a likely territory out.
+    // The BCP 47 name omits a likely territory.
     QByteArray name = locale.bcp47Name().toUtf8();
     const QByteArray territory = locale.name().section(QLatin1Char('_'), -1).toUtf8();
     if (!name.endsWith(territory)) {
@@ -66,7 +66,7 @@ icu::ResourceBundle open(const icu::Locale& locale, std::initializer_list<const 
     return bundle;
 }
 
-/** What it takes to write counted phrases of one table. */
+// The objects for the counted phrases of one table.
 class Phrases
 {
 public:

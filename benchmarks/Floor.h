@@ -11,12 +11,12 @@
 #include <unicode/ucal.h>
 
 /**
- * The ICU and Qt calls that the entries of the library cannot do without, and nothing else: no objects of the library,
- * no messages, no checks. They are what the library is measured against.
+ * The ICU and Qt calls that the entries of the library need, and nothing else: no objects of the library, no messages,
+ * no checks.
  */
 namespace floors {
 
-/** One look at the status of the file that holds a setting. */
+/** One stat() of the file of a setting. */
 void lookAt(const char* file);
 
 /** ICU's pattern for two styles; no clock is applied, nothing is translated. */
@@ -52,13 +52,13 @@ int measure(const Distance& distance, const QDateTime& anchor, const QDateTime& 
 int remainder(UCalendarDateFields larger, UCalendarDateFields counted, const QDateTime& anchor,
               const QDateTime& moment);
 
-/** A phrase such as "5 minutes ago" from a pair of tables, both of which have to be there. */
+/** A phrase such as "5 minutes ago" from a pair of tables, both of which must exist. */
 QString countedPhrase(const QLocale& locale, const char* pastTable, const char* futureTable, int count);
 
 /** "yesterday", "today" or "tomorrow". */
 QString dayPhrase(const QLocale& locale, int count);
 
-/** A moment written with a pattern, by a formatter made for it. */
+/** Formats a moment with a pattern, by a formatter created for it. */
 QString write(const QString& pattern, const QDateTime& moment, const QLocale& locale);
 
 } // namespace floors

@@ -11,13 +11,13 @@ namespace {
 
 using namespace zel::utility::i18n;
 
-constexpr int few = 1000; // what costs the same for each moment, however many, is not measured with more
+constexpr int few = 1000; // ways with a constant cost per moment are not measured with more
 
 const QLocale locale(QStringLiteral("en_US"));
 const QDateTime anchor(QDate(2012, 5, 16), QTime(10, 30));
 const QString skeleton = QStringLiteral("yMMMdHm");
 
-/** One text after the other. */
+// One text after the other.
 template <typename Write>
 List::Texts each(Write write)
 {
@@ -61,7 +61,7 @@ std::shared_ptr<CustomDateFormatter> customFormatter()
     return std::make_shared<CustomDateFormatter>(skeleton);
 }
 
-/** ICU's formatter gets unit, count and direction ready made: it has no table that chooses them. */
+// ICU's formatter is given unit, count and direction: it has no table that chooses them.
 List::Texts icuRelative()
 {
     UErrorCode status = U_ZERO_ERROR;

@@ -8,12 +8,12 @@
 #include <string>
 #include <vector>
 
-/** Many moments, and the ways to get their texts. */
+/** Many moments, and the ways to format them. */
 struct List
 {
     using Texts = std::function<QStringList(const QList<QDateTime>&)>;
 
-    /** One way. It is prepared on the thread that uses it, and what it prepares is kept. */
+    /** One way, prepared on the thread that uses it and kept. */
     struct Side
     {
         std::string name;
@@ -29,7 +29,7 @@ struct List
 /** Counted phrases, dated texts, and a CustomDateFormatter. */
 const std::vector<List>& lists();
 
-/** The lists and sides whose texts are not those of formatAll(). */
+/** The lists and sides whose texts differ from formatAll(). */
 std::vector<std::string> listMismatches();
 
 #endif

@@ -6,7 +6,7 @@
 #include <QtCore/QDateTime>
 #include <QtCore/QList>
 
-/** Moments to format, the same ones in every run; for Qt 5 and Qt 6. */
+/** Moments to format, the same in every run; for Qt 5 and Qt 6. */
 namespace moments {
 
 /** Whole minutes from an anchor, 1 to 59, before and after it by turns. */

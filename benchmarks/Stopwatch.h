@@ -5,7 +5,7 @@
 #include <cstdio>
 #include <sys/resource.h>
 
-/** Tells on stderr how long the process took from main() to its first text, and its memory at that point. */
+/** Prints on standard error the time from main() to the first text, and the memory at that point. */
 class Stopwatch
 {
 public:

@@ -1,4 +1,4 @@
-// Times the texts of 1 to 100,000 moments in one call, beside what ICU and Qt offer, on one thread and on two.
+// Times the texts of 1 to 100,000 moments in one call, beside ICU and Qt, on one thread and on two.
 
 #include "Entry.h"
 #include "List.h"

@@ -24,7 +24,7 @@ void run(benchmark::State& state, const std::function<QString()>& side)
     }
 }
 
-// On one or more threads, each with a formatter of its own.
+// On one or more threads, each with its own formatter.
 
 void threadsCustom(benchmark::State& state)
 {

@@ -1,4 +1,4 @@
-// Times what KDE offers for many moments: one call of KFormat each. It stands on Qt 5, and so in a program of its own.
+// Times KFormat of KDE for many moments, one call each. A separate program, as it needs Qt 5.
 
 #include "Moments.h"
 
@@ -15,7 +15,7 @@ namespace {
 void run(benchmark::State& state)
 {
     const KFormat format(QLocale(QStringLiteral("en_US")));
-    // KFormat counts from the present time, and writes minutes within the hour before and after it.
+    // KFormat counts from the current time, and writes minutes within the hour before and after it.
     const QList<QDateTime> moments =
         moments::minutesFrom(QDateTime::currentDateTime(), static_cast<int>(state.range(0)));
     for (auto step : state) {
@@ -34,7 +34,7 @@ BENCHMARK(run)->Name("minutes/KFormat")->Arg(1)->Arg(10)->Arg(1000)->Arg(100'000
 
 int main(int argc, char** argv)
 {
-    // As in an application: without one, Qt looks for no translation.
+    // As in an application: without it, Qt does not look for translations.
     const QCoreApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
     std::fprintf(stderr, "KCoreAddons %s, Qt %s\n", KCOREADDONS_VERSION_STRING, qVersion());

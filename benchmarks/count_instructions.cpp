@@ -1,6 +1,6 @@
-// Counts the instructions of entries, library and floor, when run by callgrind: one dump a side, named after it.
+// Counts the instructions of entries and floors under callgrind: one dump per side, named after it.
 //
-// usage: valgrind --tool=callgrind count_instructions [ENTRY...]      (without a name: every entry)
+// usage: valgrind --tool=callgrind count_instructions [ENTRY...]      (default: every entry)
 
 #include "Entry.h"
 
@@ -11,7 +11,7 @@
 namespace {
 
 constexpr int warmUp = 4;
-// Even, so that entries that alternate between two inputs see both equally often.
+// Even, so that entries that alternate between two inputs use both equally often.
 constexpr int runs = 20;
 
 void repeat(const std::function<QString()>& side, int times)

@@ -1,4 +1,4 @@
-// The same first text from ICU alone. With Qt Core linked too, the moment and the locale come from there.
+// The same first text from ICU alone. If Qt Core is linked, too, moment and locale come from it.
 
 #include "Stopwatch.h"
 
