@@ -96,17 +96,15 @@ public:
 CommandHelp GalleryCommand::help() const
 {
     return {QStringLiteral("gallery"), QString(), QStringLiteral("Show every locale on one page."),
-            QStringLiteral("Writes one page that shows, for every locale of ICU or for those given, all patterns\n"
-                           "with a text for each, a custom date, percentages, and relative dates in both wordings,\n"
-                           "under both clocks. Where the library had to fall back or wrote a message, the row is\n"
-                           "marked and says so. The page is one HTML file that needs nothing beside itself. Its\n"
-                           "filter shows the locales of which a word begins with what is typed, and keeps it at\n"
-                           "the end of the address, as in '#filter=de'.\n\n"
+            QStringLiteral("Writes one HTML page with all patterns and their texts, a custom date, percentages and\n"
+                           "relative dates in both wordings, under both clocks, for every locale of ICU or the\n"
+                           "given ones. Rows with a fallback or a message of the library are marked. The page is\n"
+                           "self-contained. Its filter shows the locales with a word that starts with the input,\n"
+                           "and is kept in the address: '#filter=de'.\n\n"
                            "--tsv writes the same as tab-separated text. --compare reads such a table of an older\n"
-                           "ICU or library, marks each text on the page that differs, with both texts, and\n"
-                           "writes how many there are of each kind. Without --html and --tsv it also writes the\n"
-                           "texts. Moments and time zone are always the same, and no setting of the device\n"
-                           "matters."),
+                           "ICU or library, marks each different text on the page, with both texts, and prints\n"
+                           "the number of differences by kind; without --html and --tsv also the texts. Moments\n"
+                           "and time zone are fixed, and the settings of the device have no effect."),
             QStringLiteral("gallery --html gallery.html\n"
                            "gallery --html gallery.html --locale ar_EG --locale de_DE\n"
                            "gallery --tsv icu-72.tsv\n"
@@ -117,14 +115,11 @@ CommandHelp GalleryCommand::help() const
 QList<QCommandLineOption> GalleryCommand::options() const
 {
     return {
-        {QStringLiteral("html"), QStringLiteral("Write the page into this file."), QStringLiteral("FILE")},
-        {QStringLiteral("tsv"),
-         QStringLiteral("Write tab-separated text into this file; '-' is standard\noutput, with nothing else on it."),
+        {QStringLiteral("html"), QStringLiteral("File for the page."), QStringLiteral("FILE")},
+        {QStringLiteral("tsv"), QStringLiteral("File for the table; '-' is standard output, with nothing\nelse on it."),
          QStringLiteral("FILE")},
-        {QStringLiteral("compare"), QStringLiteral("Compare with a table that --tsv has written."),
-         QStringLiteral("FILE")},
-        {QStringLiteral("locale"),
-         QStringLiteral("A locale, instead of all that ICU has. May be given several\ntimes."), QStringLiteral("L")}};
+        {QStringLiteral("compare"), QStringLiteral("Table to compare with, written by --tsv."), QStringLiteral("FILE")},
+        {QStringLiteral("locale"), QStringLiteral("Locale (default: all of ICU). Repeatable."), QStringLiteral("L")}};
 }
 
 ExitStatus GalleryCommand::run(const Arguments& arguments, Console& console) const
