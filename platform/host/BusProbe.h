@@ -28,8 +28,7 @@ public:
     /** The reason why the bus cannot be probed; empty otherwise. */
     QString reason() const { return m_reason; }
 
-    /** Whether an answer arrives within the timeout in milliseconds. True for an address that is not a local socket.
-     */
+    /** Whether an answer arrives within the timeout in ms. True for an address that is not a local socket. */
     bool waitForAnswer(int milliseconds) const;
 
     /** Emits answered() once: when an answer arrives, or soon if it cannot be waited for. */

@@ -8,8 +8,7 @@
 
 namespace zel::icudata {
 
-/** A resource bundle: its header's fields, and the bytes after the header, which are not owned.
- */
+/** A resource bundle: its header's fields, and the bytes after the header, which are not owned. */
 struct BundleData
 {
     UDataInfo info;

@@ -35,8 +35,7 @@ public:
     /** A decimal fraction in thousandths; further digits are ignored. */
     int thousandths();
 
-    /** The number, from 1, of the name that follows, in any case. @param names of three letters each, one after another
-     */
+    /** The number, from 1, of the following name, in any case. @param names three letters each, without separators */
     int name(std::string_view names);
 
 private:
