@@ -15,7 +15,7 @@ QRegularExpression formOf(const QString& pattern)
 {
     QString form = QRegularExpression::escape(pattern);
     form.replace(QLatin1String("\\*"), QLatin1String(".*")).replace(QLatin1String("\\?"), QLatin1String("."));
-    return QRegularExpression(QLatin1String("(?<![\\p{L}\\p{M}\\p{N}])") + form,
+    return QRegularExpression(QLatin1String(R"((?<![\p{L}\p{M}\p{N}]))") + form,
                               QRegularExpression::CaseInsensitiveOption |
                                   QRegularExpression::UseUnicodePropertiesOption);
 }
