@@ -145,14 +145,27 @@ QString otherTypeDuringFormat()
     return text + QLatin1Char('|') + during;
 }
 
-/** The moment in the middle cannot be written; those behind it count from the new anchor. */
-QString otherAnchorDuringList()
+/** The moment in the middle cannot be written; those after it count from the new anchor. */
+QString listWithChange(const std::function<void(RelativeDateFormatter&)>& change)
 {
     RelativeDateFormatter formatter(RelativeDateFormat::TimeCritical);
     formatter.setAnchorTime(moment);
     IcuFaults::arm(IcuFaults::FormatDate, {works, late});
-    const Interruption interruption([&formatter] { formatter.setAnchorTime(moment.addSecs(300)); });
+    const Interruption interruption([&] { change(formatter); });
     return formatter.formatAll({moment, moment.addYears(10'000), moment}).join(QLatin1Char('|'));
+}
+
+QString otherAnchorDuringList()
+{
+    return listWithChange([](RelativeDateFormatter& formatter) { formatter.setAnchorTime(moment.addSecs(300)); });
+}
+
+QString otherTypeDuringList()
+{
+    return listWithChange([](RelativeDateFormatter& formatter) {
+        formatter.setType(RelativeDateFormat::NonTimeCritical);
+        formatter.setAnchorTime(moment.addDays(1));
+    });
 }
 
 /** The messages of a call that failed: each line is given without the space at its end. */
@@ -387,6 +400,7 @@ private Q_SLOTS:
         row("clock in an update", Call(otherClockDuringUpdate), "Thu 12:25|tomorrow 12:25");
         row("type in format", Call(otherTypeDuringFormat), "5 minutes ago|yesterday");
         row("anchor in a list", Call(otherAnchorDuringList), "in 0 minutes||5 minutes ago");
+        row("type in a list", Call(otherTypeDuringList), "in 0 minutes||yesterday");
     }
 
     void handlersUseTheFormatter()

@@ -166,28 +166,6 @@ QString RelativeDateFormatterPrivate::format(const QDateTime& dateTime) const
     return {};
 }
 
-QStringList RelativeDateFormatterPrivate::formatAll(const QList<QDateTime>& dateTimes) const
-{
-    const Use use(uses);
-    if (dateTimes.size() == 1) {
-        return {format(dateTimes.first())}; // nothing to share
-    }
-    QStringList texts;
-    texts.reserve(dateTimes.size());
-    std::optional<RelativeDateBatch> batch;
-    unsigned int prepared = 0;
-    for (const QDateTime& dateTime : dateTimes) {
-        // A message handler that format() called may have changed the formatter.
-        if (!batch || prepared != changes) {
-            prepared = changes;
-            batch.emplace(*this);
-        }
-        const std::optional<QString> text = batch->format(dateTime);
-        texts.append(text ? *text : format(dateTime));
-    }
-    return texts;
-}
-
 std::optional<QString> RelativeDateFormatterPrivate::naturalText(const QDateTime& dateTime) const
 {
     const RelativeDistance distance(RelativeDistance::reading(anchorTime), RelativeDistance::reading(dateTime));
@@ -270,7 +248,25 @@ QString RelativeDateFormatter::format(const QDateTime& dateTime) const
 
 QStringList RelativeDateFormatter::formatAll(const QList<QDateTime>& dateTimes) const
 {
-    return d->formatAll(dateTimes);
+    if (dateTimes.size() == 1) {
+        return {format(dateTimes.first())}; // nothing to share
+    }
+    QStringList texts;
+    texts.reserve(dateTimes.size());
+    std::optional<RelativeDateBatch> batch;
+    const RelativeDateFormatterPrivate* prepared = nullptr;
+    unsigned int changes = 0;
+    for (const QDateTime& dateTime : dateTimes) {
+        // A message handler that format() called may have changed the formatter.
+        if (prepared != d.get() || changes != d->changes) {
+            prepared = d.get();
+            changes = d->changes;
+            batch.emplace(*d);
+        }
+        const std::optional<QString> text = batch->format(dateTime);
+        texts.append(text ? *text : format(dateTime));
+    }
+    return texts;
 }
 
 QDateTime RelativeDateFormatter::validUntil(const QDateTime& dateTime) const

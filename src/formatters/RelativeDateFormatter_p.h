@@ -40,9 +40,6 @@ public:
     /** The text of a moment; a null string, with a message, on failure. */
     QString format(const QDateTime& dateTime) const;
 
-    /** The same for many moments. */
-    QStringList formatAll(const QList<QDateTime>& dateTimes) const;
-
     /** Deletes the replaced object, or keeps it while one of its calls is interrupted by a message handler. */
     void keepWhileInUse(std::unique_ptr<RelativeDateFormatterPrivate> previous);
 

@@ -42,7 +42,7 @@ qint64 nextCount(qint64 anchor, qint64 moment, qint64 unit)
 QDateTime RelativeDateValidity::until(const QDateTime& anchor, const QDateTime& moment) const
 {
     const qint64 target = RelativeDistance::reading(moment);
-    if (m_table.size() == 0 || !RelativeDistance::covers(target)) {
+    if (!anchor.isValid() || m_table.size() == 0 || !RelativeDistance::covers(target)) {
         return {};
     }
     const Step present = stepAt(RelativeDistance::reading(anchor), target);

@@ -143,7 +143,7 @@ public:
      *
      * @param dateTime the moment, in the years 1 to 9999
      * @return a time in the anchor's time zone; an invalid one if the text never changes again, if the moment or the
-     * anchor is outside the years 1 to 9999, or if the type is unknown
+     * anchor is invalid or outside the years 1 to 9999, or if the type is unknown
      */
     QDateTime validUntil(const QDateTime& dateTime) const;
 
