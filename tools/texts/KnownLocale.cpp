@@ -15,11 +15,11 @@ namespace zel::tool {
 
 namespace {
 
-using Table = std::vector<icu::UnicodeString>;
+using Texts = std::vector<icu::UnicodeString>;
 
-Table tableAt(icu::ResourceBundle bundle, std::initializer_list<const char*> path)
+Texts tableAt(icu::ResourceBundle bundle, std::initializer_list<const char*> path)
 {
-    Table texts;
+    Texts texts;
     UErrorCode status = U_ZERO_ERROR;
     for (const char* const key : path) {
         bundle = bundle.get(key, status);
@@ -30,11 +30,11 @@ Table tableAt(icu::ResourceBundle bundle, std::initializer_list<const char*> pat
     return texts;
 }
 
-std::vector<Table> phraseTables(const char* locale)
+std::vector<Texts> phraseTables(const char* locale)
 {
     UErrorCode status = U_ZERO_ERROR;
     const icu::ResourceBundle bundle(zel::icudata::phrasePackage(), icu::Locale(locale), status);
-    std::vector<Table> tables = {tableAt(bundle, {"calendar", "gregorian", "fields", "day", "relative"})};
+    std::vector<Texts> tables = {tableAt(bundle, {"calendar", "gregorian", "fields", "day", "relative"})};
     for (const char* const unit :
          {"minute-past", "minute-future", "hour-past", "hour-future", "year-past", "year-future"}) {
         tables.push_back(tableAt(bundle, {"units", unit}));
@@ -79,8 +79,8 @@ QString KnownLocale::script() const
 
 QString KnownLocale::phrases() const
 {
-    static const std::vector<Table> ofRoot = phraseTables("root");
-    const std::vector<Table> tables = phraseTables(m_name.toLatin1().constData());
+    static const std::vector<Texts> ofRoot = phraseTables("root");
+    const std::vector<Texts> tables = phraseTables(m_name.toLatin1().constData());
     int own = 0;
     for (std::size_t i = 0; i < tables.size(); ++i) {
         own += tables[i] == ofRoot[i] ? 0 : 1;
