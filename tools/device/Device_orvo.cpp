@@ -41,8 +41,8 @@ QVariant encoded(const QString& key, const QString& value)
     return key == Assignments::hourFormat() ? QVariant(value.toInt()) : QVariant(value);
 }
 
-// A settings object to change; empty if it is missing or may be replaced.
-SettingsObject toBeChanged(const QString& key, bool replace)
+// The object of a setting; empty if it is missing, or torn and to be replaced.
+SettingsObject objectOf(const QString& key, bool replace = false)
 {
     SettingsObject object(placeOf(key).object);
     if (object.state() == SettingsObject::Unreadable || (object.state() == SettingsObject::Torn && !replace)) {
@@ -157,7 +157,7 @@ Finding examineSetting(const QString& key)
 
 std::optional<QString> Device::get(const QString& key)
 {
-    const SettingsObject object = toBeChanged(key, false);
+    const SettingsObject object = objectOf(key);
     const QVariant value = object.attributes().value(placeOf(key).attribute);
     return value.isValid() ? std::make_optional(value.toString()) : std::nullopt;
 }
@@ -173,12 +173,12 @@ void Device::set(const QMap<QString, QString>& values, Permissions permissions)
         if (object.state() == SettingsObject::Torn && !permissions.replace) {
             throw Failure(object.fault() + QStringLiteral("; --replace overwrites it"));
         }
-        toBeChanged(key, permissions.replace);
+        objectOf(key, permissions.replace);
     }
     for (auto value = values.begin(); value != values.end(); ++value) {
         const Place place = placeOf(value.key());
         const SettingsLock lock(place.object);
-        const SettingsObject object = toBeChanged(value.key(), permissions.replace);
+        const SettingsObject object = objectOf(value.key(), permissions.replace);
         QVariantMap attributes = object.attributes();
         attributes[place.attribute] = encoded(value.key(), value.value());
         object.write(attributes);
@@ -192,7 +192,7 @@ void Device::unset(const QStringList& keys)
             continue;
         }
         const SettingsLock lock(placeOf(key).object);
-        const SettingsObject object = toBeChanged(key, false);
+        const SettingsObject object = objectOf(key);
         QVariantMap attributes = object.attributes();
         if (attributes.remove(placeOf(key).attribute) > 0) {
             object.write(attributes);

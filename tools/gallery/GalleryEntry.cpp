@@ -64,7 +64,7 @@ public:
             if (format.isFallback(locale)) {
                 notes.prepend(QStringLiteral("Qt's own pattern: ICU's has a field that Qt lacks"));
             }
-            m_messages.take();
+            m_messages.take(); // the pattern was asked for again
             m_rows.append({format.kind(), format.length(), {pattern, text}, notes, {}});
         }
     }

@@ -1,6 +1,5 @@
 #include "texts/LiveText.h"
 
-#include "device/LibrarySettings.h"
 #include "terminal/Console.h"
 #include "terminal/Failure.h"
 #include <zel/utility/i18n/CustomDateFormatter.h>
@@ -14,15 +13,13 @@ LiveText::LiveText(const QString& skeleton, const std::optional<QDateTime>& mome
       m_answers(console, json),
       m_moment(moment),
       m_skeleton(skeleton),
+      m_library(zel::utility::i18n::RelativeDateFormat::TimeCritical),
       m_interrupted(console.signalDescriptor(), QSocketNotifier::Read)
 {
     if (!CustomDateFormatter(skeleton).isValid()) {
         throw Failure(QStringLiteral("no pattern for the skeleton ") + quoted(skeleton));
     }
-    m_again.setSingleShot(true);
-    m_again.setInterval(5);
-    requireConnection(connect(&m_observer, SIGNAL(changed()), this, SLOT(onChange())));
-    requireConnection(connect(&m_again, SIGNAL(timeout()), this, SLOT(follow())));
+    requireConnection(m_library.connectToSettings(this, SLOT(write())));
     requireConnection(connect(&m_interrupted, SIGNAL(activated(int)), &m_loop, SLOT(quit())));
 }
 
@@ -35,24 +32,6 @@ void LiveText::run()
     if (m_failure) {
         std::rethrow_exception(m_failure);
     }
-}
-
-void LiveText::onChange()
-{
-    m_sinceChange.start();
-    follow();
-}
-
-// The library hears of a change by itself, perhaps later. Time zone and region it reads for each text.
-void LiveText::follow()
-{
-    constexpr int timeoutMs = 5000;
-    if (libraryClock() != m_observer.clock() && m_sinceChange.elapsed() < timeoutMs) {
-        m_again.start();
-        return;
-    }
-    m_again.stop();
-    write();
 }
 
 void LiveText::write()

@@ -1,16 +1,15 @@
 #ifndef ZEL_TOOL_LIVETEXT_H
 #define ZEL_TOOL_LIVETEXT_H
 
-#include "device/DeviceObserver.h"
 #include "texts/Answers.h"
 #include <exception>
 #include <optional>
 #include <QtCore/QDateTime>
-#include <QtCore/QElapsedTimer>
 #include <QtCore/QEventLoop>
 #include <QtCore/QObject>
 #include <QtCore/QSocketNotifier>
 #include <QtCore/QTimer>
+#include <zel/utility/i18n/RelativeDateFormatter.h>
 
 namespace zel::tool {
 
@@ -29,8 +28,6 @@ public:
     void run();
 
 private Q_SLOTS:
-    void onChange();
-    void follow();
     void write();
 
 private:
@@ -38,9 +35,7 @@ private:
     const Answers m_answers;
     const std::optional<QDateTime> m_moment;
     const QString m_skeleton;
-    DeviceObserver m_observer;
-    QElapsedTimer m_sinceChange;
-    QTimer m_again;
+    zel::utility::i18n::RelativeDateFormatter m_library; // announces changes of the settings
     QSocketNotifier m_interrupted;
     QEventLoop m_loop;
     std::exception_ptr m_failure;
