@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
+// SPDX-License-Identifier: Apache-2.0
+
 // Times KFormat of KDE for many moments, one call each. A separate program, as it needs Qt 5.
 
 #include "Moments.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
+// SPDX-License-Identifier: Apache-2.0
+
 // Times 10,000 elements of the QML module in one engine: their creation, each with its first text, and a renewal of
 // all.
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
+// SPDX-License-Identifier: Apache-2.0
+
 // Counts the instructions of entries and floors under callgrind: one dump per side, named after it.
 //
 // usage: valgrind --tool=callgrind count_instructions [ENTRY...]      (default: every entry)

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
+// SPDX-License-Identifier: Apache-2.0
+
 // The same first text from ICU alone. If Qt Core is linked, too, moment and locale come from it.
 
 #include "Stopwatch.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
+// SPDX-License-Identifier: Apache-2.0
+
 // The first text of an application that uses the library.
 
 #include "Stopwatch.h"

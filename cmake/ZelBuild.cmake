@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
+# SPDX-License-Identifier: Apache-2.0
+
 # How every target of this project is compiled, and where it is put.
 
 set(CMAKE_CXX_STANDARD 17)

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
+# SPDX-License-Identifier: Apache-2.0
+
 # The dependencies: Qt Core of the chosen major version, and ICU. The desktop build also needs Qt D-Bus.
 
 set(qtComponents Core)

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
+# SPDX-License-Identifier: Apache-2.0
+
 # What is installed, and with which part: the library, its data, the files to develop with, the tool.
 # Applications see the public headers and one library. The platform libraries come along because it needs them;
 # they have neither headers nor a name to link with.

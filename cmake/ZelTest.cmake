@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
+# SPDX-License-Identifier: Apache-2.0
+
 # zel_add_test(<name>) builds tests/tst_<name>.cpp against the static library and registers it, or only the
 # test functions in ZEL_TEST_FUNCTIONS, with ctest.
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
+// SPDX-License-Identifier: Apache-2.0
+
 // A list of ten thousand messages whose times grow older, and follow the settings of the user while it is shown.
 //
 // usage: example_messages [--print]      (also prints the first texts, and each when it changes)

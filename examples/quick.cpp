@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
+// SPDX-License-Identifier: Apache-2.0
+
 // The list of messages again, in QML: see Messages.qml.
 //
 // usage: example_quick [--print]      (also prints the first texts, and each when it changes)

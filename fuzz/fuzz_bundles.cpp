@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
+// SPDX-License-Identifier: Apache-2.0
+
 // Reads arbitrary bytes as a compiled resource bundle and as its texts. A bundle that opens can be read everywhere, and
 // a copy with additional entries opens and has them.
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
+// SPDX-License-Identifier: Apache-2.0
+
 // Reads arbitrary bytes as the list of a data directory. A valid list is unchanged after writing and reading it. A
 // directory is valid exactly if a simple reading of the list finds each file with its size, and the contents of files
 // changed later.

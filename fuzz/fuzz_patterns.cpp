@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
+// SPDX-License-Identifier: Apache-2.0
+
 // Takes arbitrary text as a date pattern: translates it, searches it and inserts a phrase. The results are compared
 // with simple implementations of the same rules.
 

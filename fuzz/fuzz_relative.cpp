@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
+// SPDX-License-Identifier: Apache-2.0
+
 // Calls the setters of a relative date formatter in any order. It emits changed() when it changes, and formatAll(),
 // which counts separately, gives the texts and messages of format().
 

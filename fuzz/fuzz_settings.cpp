@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
+// SPDX-License-Identifier: Apache-2.0
+
 // Decodes arbitrary bytes as a settings object, and encodes any record. Decoding and encoding are inverse where they
 // succeed.
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
+// SPDX-License-Identifier: Apache-2.0
+
 // Formats with arbitrary skeletons, in locales that write dates in different ways, under both clocks and in several
 // time zones. A valid formatter gives the text of ICU, an invalid one none.
 

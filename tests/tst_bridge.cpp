@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
+// SPDX-License-Identifier: Apache-2.0
+
 // Text, locales and messages on their way between Qt and ICU.
 
 #include "bridge/Diagnostic.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
+// SPDX-License-Identifier: Apache-2.0
+
 // The desktop build on a message bus of its own, with a settings portal that behaves and others that do not.
 
 #include "bridge/Locale.h"

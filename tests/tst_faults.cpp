@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
+// SPDX-License-Identifier: Apache-2.0
+
 // What happens to a device while the library runs on it: the library says what is wrong, and goes on.
 
 #include "settings/PpsManager.h"

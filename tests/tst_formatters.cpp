@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
+// SPDX-License-Identifier: Apache-2.0
+
 // The two formatter classes as an application sees them. Expectations hold for ICU 72.
 
 #include "formatters/CustomDateFormatter_p.h"

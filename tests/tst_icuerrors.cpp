@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
+// SPDX-License-Identifier: Apache-2.0
+
 // Failures that ICU reports for reasons of its own, call by call: the messages, the result, and nothing left behind.
 
 #include "bridge/Locale.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
+// SPDX-License-Identifier: Apache-2.0
+
 // Many moments in one call, and how long a text holds: both are held against format(), moment by moment.
 
 #include "relative/RelativeDate.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
+// SPDX-License-Identifier: Apache-2.0
+
 // Patterns: ICU's in Qt syntax, and under the clock of the device. Expectations hold for ICU 72.
 
 #include "patterns/AmPmField.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
+// SPDX-License-Identifier: Apache-2.0
+
 // The stand-ins of the device platform: settings objects and the locale service, on real files.
 
 #include "support/MessageLog.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
+// SPDX-License-Identifier: Apache-2.0
+
 // How far moments lie apart, which range takes them, and what a relative pattern makes of them.
 
 #include "relative/DateOffsetRange.h"

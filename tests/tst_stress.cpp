@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
+// SPDX-License-Identifier: Apache-2.0
+
 // Whatever is done to the settings, readers of every kind end with the last value. ZEL_STRESS=1 does more of it.
 
 #include "bridge/Locale.h"

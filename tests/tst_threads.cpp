@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
+// SPDX-License-Identifier: Apache-2.0
+
 // Formatters on several threads while the device changes, and what is left when a program ends.
 
 #include "settings/ClockSetting.h"

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
+# SPDX-License-Identifier: Apache-2.0
+
 # A big-endian machine, for what depends on the order of bytes.
 set(CMAKE_SYSTEM_PROCESSOR s390x)
 set(zelTriplet s390x-linux-gnu)

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
+// SPDX-License-Identifier: Apache-2.0
+
 // zel-icudata-gen [--unless-sound] [--for=<kind>] <directory>: writes ICU's locale bundles, with phrase tables added,
 // to <directory>/<icudtNNl>. A kind is that of ICU's data, "ICU 72.1, little-endian", in case that is another ICU's.
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
+// SPDX-License-Identifier: Apache-2.0
+
 #include <zel/utility/i18n/CustomDateFormatter.h>
 
 #include "bridge/DateTime.h"

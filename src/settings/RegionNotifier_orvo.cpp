@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
+// SPDX-License-Identifier: Apache-2.0
+
 // Changes of the region, from the locale service of the device platform.
 
 #include "settings/RegionNotifier.h"

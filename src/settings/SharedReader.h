@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
+// SPDX-License-Identifier: Apache-2.0
+
 #ifndef ZEL_UTILITY_I18N_SETTINGS_SHAREDREADER_H
 #define ZEL_UTILITY_I18N_SETTINGS_SHAREDREADER_H
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
+// SPDX-License-Identifier: Apache-2.0
+
 // Prints the text of the element in InQml.qml.
 #include <QtCore/QCoreApplication>
 #include <QtCore/QTextStream>

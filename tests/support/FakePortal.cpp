@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
+// SPDX-License-Identifier: Apache-2.0
+
 // A settings portal for tests, in a process of its own: FakePortal new|old VALUE
 
 #include <iostream>

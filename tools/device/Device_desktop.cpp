@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
+// SPDX-License-Identifier: Apache-2.0
+
 // The settings of a Linux host. They are shown here, and changed in the desktop's settings.
 
 #include "device/Assignments.h"
