@@ -37,9 +37,9 @@ CommandHelp FormatCommand::help() const
                 Skeleton::description() +
                 QStringLiteral("\n\nMoments are ISO 8601 (2012-09-03, 2012-09-03T10:30, 2012-09-03T10:30:00.500Z,\n"
                                "2012-09-03T10:30+02:00, 20120903T083000Z), RFC 2822 ('Mon, 3 Sep 2012 10:30:00\n"
-                               "+0200') or seconds since 1970 (@1346661000). Without an offset they are local\n"
-                               "time. Zones, and seconds since 1970, use the time zone of the device (default:\n"
-                               "GMT)."),
+                               "+0200', without two-digit years and zones such as EST) or seconds since 1970\n"
+                               "(@1346661000). Without an offset they are local time. Zones, and seconds since\n"
+                               "1970, use the time zone of the device (default: GMT)."),
             QStringLiteral("format yMMMMEEEEd\n"
                            "format yMMMMEEEEd 2012-09-03 --locale fr_FR\n"
                            "format hm 2012-09-03T22:30 --device region=en_US,hour-format=12\n"

@@ -91,9 +91,11 @@ ExitStatus PercentCommand::run(const Arguments& arguments, Console& console) con
             throw Failure(QStringLiteral("no percentages for the locale ") + quoted(locale.name));
         }
         if (arguments.json()) {
+            // JSON has no infinities.
+            const QJsonValue number = std::isfinite(value) ? QJsonValue(value) : QJsonValue(QString::number(value));
             console.json({{QStringLiteral("locale"), locale.name},
                           {QStringLiteral("text"), text},
-                          {QStringLiteral("value"), value}});
+                          {QStringLiteral("value"), number}});
         } else {
             console.line(text);
         }

@@ -227,7 +227,8 @@ CommandHelp RelativeCommand::help() const
                            "moments from standard input, one per line; invalid lines are reported and skipped.\n\n"
                            "Moments are written as in 'format'. Moments with an offset, and seconds since 1970,\n"
                            "are converted to the time zone of the device, or to local time where it has none.\n"
-                           "To compare the readings of clocks in several zones, omit the offsets.\n\n"
+                           "Without an offset, a moment is a reading of the device's clock, whatever the zone of\n"
+                           "the process. To compare the readings of clocks in several zones, omit the offsets.\n\n"
                            "With --table, shows one moment for each slot of the formatting tables, before and\n"
                            "after the anchor, for each locale."),
             QStringLiteral("relative 2012-09-03T10:25 --anchor 2012-09-03T10:30\n"

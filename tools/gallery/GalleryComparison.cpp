@@ -12,9 +12,9 @@ namespace zel::tool {
 
 namespace {
 
-QString placeOf(const QStringList& cells)
+QString placeOf(const QString& clock, const QString& group, const QString& name)
 {
-    return QStringList(cells.mid(GalleryTable::Locale, GalleryTable::Name + 1)).join(QLatin1Char('\t'));
+    return QStringList{clock, group, name}.join(QLatin1Char('\t'));
 }
 
 } // namespace
@@ -22,7 +22,7 @@ QString placeOf(const QStringList& cells)
 GalleryComparison::GalleryComparison(const QString& file)
 {
     QFile table(file);
-    if (!table.open(QIODevice::ReadOnly)) {
+    if (!table.open(QIODevice::ReadOnly | QIODevice::Text)) {
         throw Failure(QStringLiteral("cannot read ") + quoted(file) + QLatin1String(": ") + table.errorString());
     }
     if (table.readLine() != GalleryTable::header()) {
@@ -34,54 +34,62 @@ GalleryComparison::GalleryComparison(const QString& file)
         if (cells.size() != GalleryTable::Notes + 1) {
             throw Failure(quoted(file) + QStringLiteral(" has a damaged line: ") + quoted(line.trimmed()));
         }
-        m_olderLocales.insert(cells[GalleryTable::Locale]);
-        m_older.insert(placeOf(cells), {cells[GalleryTable::Pattern], cells[GalleryTable::Text]});
+        if (cells[GalleryTable::Clock].isEmpty()) {
+            continue; // a locale that Qt does not know
+        }
+        m_older[cells[GalleryTable::Locale]].insert(
+            placeOf(cells[GalleryTable::Clock], cells[GalleryTable::Group], cells[GalleryTable::Name]),
+            {cells[GalleryTable::Pattern], cells[GalleryTable::Text]});
     }
 }
 
 void GalleryComparison::mark(QList<GalleryEntry>& entries, const QStringList& clocks)
 {
     for (GalleryEntry& entry : entries) {
-        if (m_olderLocales.remove(entry.locale)) {
+        if (entry.clocks.isEmpty()) {
+            continue;
+        }
+        if (m_older.contains(entry.locale)) {
             ++m_locales;
-            mark(entry, clocks);
+            mark(entry, m_older.take(entry.locale), clocks);
         } else {
             m_newLocales.append(entry.locale);
         }
     }
 }
 
-void GalleryComparison::mark(GalleryEntry& entry, const QStringList& clocks)
+void GalleryComparison::mark(GalleryEntry& entry, Texts older, const QStringList& clocks)
 {
     bool differs = false;
     for (int clock = 0; clock < entry.clocks.size(); ++clock) {
         for (GalleryRow& row : entry.clocks[clock]) {
-            const bool rowDiffers = mark(row, placeOf({entry.locale, clocks[clock], row.group, row.name}));
+            const bool rowDiffers = mark(row, older, placeOf(clocks[clock], row.group, row.name));
             differs = rowDiffers || differs;
         }
     }
     m_differentLocales += differs ? 1 : 0;
+    m_goneTexts += static_cast<int>(older.size());
 }
 
-bool GalleryComparison::mark(GalleryRow& row, const QString& place)
+bool GalleryComparison::mark(GalleryRow& row, Texts& older, const QString& place)
 {
-    const auto older = m_older.constFind(place);
-    if (older == m_older.constEnd()) {
+    if (!older.contains(place)) {
         ++m_newTexts;
         return false;
     }
     ++m_texts;
-    if (*older == GalleryText{GalleryTable::cell(row.now.pattern), GalleryTable::cell(row.now.text)}) {
+    const GalleryText before = older.take(place);
+    if (before == GalleryText{GalleryTable::cell(row.now.pattern), GalleryTable::cell(row.now.text)}) {
         return false;
     }
-    row.before = *older;
+    row.before = before;
     ++m_differences[row.group];
     return true;
 }
 
 QStringList GalleryComparison::goneLocales() const
 {
-    QStringList gone = m_olderLocales.values();
+    QStringList gone = m_older.keys();
     gone.sort();
     return gone;
 }

@@ -108,10 +108,16 @@ constexpr const char* tail = R"(</main>
   }
   function follow() {
     var match = /^#filter=(.*)$/.exec(location.hash);
-    if (match) {
-      search.value = decodeURIComponent(match[1]);
+    try {
+      search.value = match ? decodeURIComponent(match[1]) : '';
+    } catch (error) { // a percent sign, typed into the address
+      search.value = match[1];
     }
     apply();
+    var target = !match && document.getElementById(location.hash.slice(1));
+    if (target) {
+      target.scrollIntoView();
+    }
   }
   form.hidden = false;
   search.addEventListener('input', keep);

@@ -7,6 +7,7 @@
 #include "gallery/GalleryComparison.h"
 #include "terminal/Console.h"
 #include "terminal/Table.h"
+#include <QtCore/QJsonArray>
 
 namespace zel::tool {
 
@@ -15,6 +16,13 @@ namespace {
 QString counted(int count, const char* noun)
 {
     return QStringLiteral("%1 %2%3").arg(count).arg(QLatin1String(noun), QLatin1String(count == 1 ? "" : "s"));
+}
+
+void writeTexts(const char* what, int count, Console& console)
+{
+    if (count > 0) {
+        console.line(counted(count, "text") + QLatin1String(what));
+    }
 }
 
 void writeLocales(const char* what, const QStringList& names, Console& console)
@@ -38,9 +46,8 @@ void write(const GalleryComparison& comparison, Console& console)
         table.add({QLatin1String("  ") + group.key(), QString::number(*group)});
     }
     table.write(console);
-    if (comparison.newTexts() > 0) {
-        console.line(counted(comparison.newTexts(), "text") + QStringLiteral(" not in the older table"));
-    }
+    writeTexts(" not in the older table", comparison.newTexts(), console);
+    writeTexts(" only in the older table", comparison.goneTexts(), console);
     writeLocales(" not in the older table: ", comparison.newLocales(), console);
     writeLocales(" only in the older table: ", comparison.goneLocales(), console);
 }
@@ -66,7 +73,11 @@ QJsonObject GallerySummary::json(const Gallery& gallery, const GalleryComparison
             QJsonObject{{QStringLiteral("texts"), comparison->texts()},
                         {QStringLiteral("locales"), comparison->locales()},
                         {QStringLiteral("differentLocales"), comparison->differentLocales()},
-                        {QStringLiteral("differences"), differences}};
+                        {QStringLiteral("differences"), differences},
+                        {QStringLiteral("newTexts"), comparison->newTexts()},
+                        {QStringLiteral("goneTexts"), comparison->goneTexts()},
+                        {QStringLiteral("newLocales"), QJsonArray::fromStringList(comparison->newLocales())},
+                        {QStringLiteral("goneLocales"), QJsonArray::fromStringList(comparison->goneLocales())}};
     }
     return summary;
 }

@@ -13,9 +13,11 @@ namespace {
 
 constexpr std::size_t longestLine = 1024;
 
-std::string_view withoutCarriageReturn(std::string_view line)
+std::string_view trimmed(std::string_view line)
 {
-    return line.substr(0, line.size() - (!line.empty() && line.back() == '\r' ? 1 : 0));
+    constexpr const char* blanks = " \t\r";
+    line.remove_prefix(std::min(line.find_first_not_of(blanks), line.size()));
+    return line.substr(0, line.find_last_not_of(blanks) + 1);
 }
 
 } // namespace
@@ -50,7 +52,8 @@ std::optional<std::string_view> LineReader::next()
         m_begin += complete ? end + 1 : text.size();
         if (!std::exchange(m_inLongLine, !complete)) {
             ++m_number;
-            return withoutCarriageReturn(text.substr(0, std::min(end, longestLine)));
+            const std::string_view line = text.substr(0, end);
+            return line.size() > longestLine ? line.substr(0, longestLine) : trimmed(line);
         }
     }
 }

@@ -27,8 +27,8 @@ public:
     void eraseProgress();
 
     /**
-     * The next line without its end; none at the end of the input. Of a line that is too long to be valid, only the
-     * beginning. Valid until a call made while hasLine() is false.
+     * The next line without its end and the blanks around it; none at the end of the input. Of a line that is too long
+     * to be valid, only the beginning. Valid until a call made while hasLine() is false.
      */
     std::optional<std::string_view> next();
 

@@ -39,6 +39,19 @@ QString name(const Distance& distance)
         .arg(units.at(static_cast<int>(distance.unit)), QLatin1String(distance.count == 1 ? "" : "s"));
 }
 
+// By the reading of a clock, as texts count, also where clocks are put forward or back.
+QDateTime movedReading(const QDateTime& anchor, qint64 seconds)
+{
+    QDateTime reading = QDateTime::fromMSecsSinceEpoch(0).toUTC();
+    reading.setDate(anchor.date());
+    reading.setTime(anchor.time());
+    reading = reading.addSecs(seconds);
+    QDateTime moment = anchor;
+    moment.setDate(reading.date());
+    moment.setTime(reading.time());
+    return moment.isValid() ? moment : anchor.addSecs(seconds);
+}
+
 QDateTime moved(const QDateTime& anchor, Unit unit, int count)
 {
     switch (unit) {
@@ -47,11 +60,11 @@ QDateTime moved(const QDateTime& anchor, Unit unit, int count)
     case Unit::Day:
         return anchor.addDays(count);
     case Unit::Hour:
-        return anchor.addSecs(count * qint64(3600));
+        return movedReading(anchor, count * qint64(3600));
     case Unit::Minute:
         break;
     }
-    return anchor.addSecs(count * qint64(60));
+    return movedReading(anchor, count * qint64(60));
 }
 
 // A shorter distance if the usual one leaves the anchor's day, as hours and minutes are for the same day only.

@@ -21,7 +21,7 @@ struct Reading
 
 constexpr int largestOffset = 14 * 3600; // that a place has ever had
 
-// A time with or without seconds, and a fraction of them.
+// A time with or without seconds, and a fraction of them. A leap second is read as the second before it.
 QTime time(Scanner& scanner, bool extended)
 {
     const int hour = scanner.number(2);
@@ -31,7 +31,7 @@ QTime time(Scanner& scanner, bool extended)
     const int minute = scanner.number(2);
     const bool hasSeconds = extended ? scanner.accept(":") : scanner.startsWithDigit();
     const int second = hasSeconds ? scanner.number(2) : 0;
-    return {hour, minute, second, scanner.accept(".,") ? scanner.thousandths() : 0};
+    return {hour, minute, second == 60 ? 59 : second, scanner.accept(".,") ? scanner.thousandths() : 0};
 }
 
 // The seconds of an offset, invalid where there is none.
@@ -70,11 +70,16 @@ Reading iso(Scanner& scanner)
 
 std::optional<int> mailZone(Scanner& scanner)
 {
-    if (!scanner.startsWith("UuGg")) {
-        return offset(scanner);
+    if (scanner.accept("Uu")) { // UT or UTC
+        scanner.expect("Tt");
+        scanner.accept("Cc");
+        return 0;
     }
-    scanner.name("UTCGMT");
-    return 0;
+    if (scanner.startsWith("Gg")) {
+        scanner.name("GMT");
+        return 0;
+    }
+    return offset(scanner);
 }
 
 // Mon, 3 Sep 2012 10:30:00 +0200 (CEST)
