@@ -30,7 +30,11 @@ public:
     static Timekeeper* of(const QObject* object);
 
     void add(DateText* element) { m_elements.insert(element); }
-    void remove(DateText* element) { m_elements.remove(element); }
+    void remove(DateText* element)
+    {
+        m_elements.remove(element);
+        m_waiting.remove(element);
+    }
 
     /** Renews an element with all others that wait, before the next frame. */
     void renewLater(DateText* element);
