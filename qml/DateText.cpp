@@ -80,12 +80,14 @@ QDateTime DateText::sourceMoment()
 // A change of settings may be one of the time zone.
 void DateText::forgetSource()
 {
+    ++m_revision;
     m_source.reset();
     m_sourceMoment = {};
 }
 
 void DateText::receive(const DatedText& text)
 {
+    ++m_revision;
     const bool isOtherText = std::exchange(m_text, text.text) != text.text;
     const bool isOtherTime = std::exchange(m_validUntil, text.validUntil) != text.validUntil;
     if (std::exchange(m_isStale, false)) {
@@ -107,6 +109,7 @@ Timekeeper* DateText::timekeeper() const
 
 void DateText::renew()
 {
+    ++m_revision;
     if (m_timekeeper) {
         m_isStale = true;
         m_timekeeper->renewLater(this);

@@ -58,6 +58,8 @@ public:
     QDateTime sourceMoment();
     virtual QDateTime fixedAnchor() const { return {}; }
     qint64 dueTime() const { return fixedAnchor().isValid() ? DatedText::never : m_validUntil; }
+    /** Counts the changes of the text and of what it is made from: a text made before the last one is out of date. */
+    quint32 revision() const { return m_revision; }
     void receive(const DatedText& text);
     void forgetSource();
 
@@ -89,6 +91,7 @@ private:
     QDateTime m_sourceMoment;
     QString m_text;
     qint64 m_validUntil = DatedText::never;
+    quint32 m_revision = 0;
     bool m_isStale = true; // readers know, and have not asked since
     bool m_isActive = true;
     std::optional<bool> m_requestedActive;

@@ -110,6 +110,12 @@ void Timekeeper::renewAll()
 
 void Timekeeper::renew(const QList<DateText*>& elements)
 {
+    struct Result
+    {
+        QPointer<DateText> element;
+        quint32 revision;
+        DatedText text;
+    };
     struct Batch
     {
         QDateTime anchor;
@@ -121,12 +127,12 @@ void Timekeeper::renew(const QList<DateText*>& elements)
         m_transition = later(0, now.toMSecsSinceEpoch());
     }
     // Everything is computed before anybody hears of it: listeners may change or delete elements.
-    QList<std::pair<QPointer<DateText>, DatedText>> results;
+    QList<Result> results;
     results.reserve(elements.size());
     std::map<std::pair<TextSource*, qint64>, Batch> batches;
     for (DateText* const element : elements) {
         if (!element->hasMoment()) {
-            results.append({element, DatedText()});
+            results.append({element, element->revision(), DatedText()});
             continue;
         }
         const QDateTime anchor = element->fixedAnchor();
@@ -139,11 +145,12 @@ void Timekeeper::renew(const QList<DateText*>& elements)
     for (const auto& [key, batch] : batches) {
         const QList<DatedText> texts = key.first->texts(batch.moments, batch.anchor);
         for (qsizetype i = 0; i < texts.size(); ++i) {
-            results.append({batch.elements.at(i), texts.at(i)});
+            DateText* const element = batch.elements.at(i);
+            results.append({element, element->revision(), texts.at(i)});
         }
     }
-    for (const auto& [element, text] : std::as_const(results)) {
-        if (element) {
+    for (const auto& [element, revision, text] : std::as_const(results)) {
+        if (element && element->revision() == revision) {
             element->receive(text);
         }
         if (element && element->isActive()) {
