@@ -4,6 +4,7 @@
 #include "CustomDate.h"
 
 #include "Timekeeper.h"
+#include <QtQml/QQmlInfo>
 
 namespace zel::utility::i18n::qml {
 
@@ -20,6 +21,14 @@ void CustomDate::setSkeleton(const QString& skeleton)
 bool CustomDate::isValid()
 {
     return timekeeper() != nullptr && static_cast<CustomDateSource&>(source()).isValid();
+}
+
+void CustomDate::classBegin()
+{
+    DateText::classBegin();
+    if (timekeeper() != nullptr && !connect(timekeeper(), SIGNAL(settingsChanged()), this, SIGNAL(validChanged()))) {
+        qmlWarning(this) << "cannot follow the region";
+    }
 }
 
 std::shared_ptr<TextSource> CustomDate::createSource()

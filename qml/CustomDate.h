@@ -34,6 +34,8 @@ public:
 
     bool isValid();
 
+    void classBegin() override;
+
 Q_SIGNALS:
     void skeletonChanged();
     void validChanged();

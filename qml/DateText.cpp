@@ -31,7 +31,7 @@ void DateText::setMoment(const QDateTime& moment)
 
 QString DateText::text()
 {
-    if (m_isStale && m_timekeeper) {
+    if (m_isStale && m_isComplete && m_timekeeper) {
         m_timekeeper->renewLater(this);
         m_timekeeper->renewWaiting();
     }
@@ -50,12 +50,18 @@ void DateText::resetActive()
     onVisibilityChanged();
 }
 
-void DateText::componentComplete()
+// Bindings are evaluated before the element is complete.
+void DateText::classBegin()
 {
     m_timekeeper = Timekeeper::of(this);
+}
+
+void DateText::componentComplete()
+{
     if (m_timekeeper == nullptr) {
         return;
     }
+    m_isComplete = true;
     m_timekeeper->add(this);
     onVisibilityChanged();
     renewWithOtherSource();
@@ -110,7 +116,7 @@ Timekeeper* DateText::timekeeper() const
 void DateText::renew()
 {
     ++m_revision;
-    if (m_timekeeper) {
+    if (m_isComplete && m_timekeeper) {
         m_isStale = true;
         m_timekeeper->renewLater(this);
         onValidityChanged();
@@ -127,7 +133,7 @@ void DateText::renewWithOtherSource()
 // The item is looked for when somebody wants to know, and not before the element has its place.
 void DateText::onVisibilityChanged()
 {
-    if (m_requestedActive || !m_timekeeper) {
+    if (m_requestedActive || !m_isComplete) {
         return;
     }
     if (m_visibility == nullptr) {
@@ -146,7 +152,7 @@ void DateText::applyActive(bool active)
         return;
     }
     m_isActive = active;
-    if (active && m_timekeeper) {
+    if (active && m_isComplete && m_timekeeper) {
         m_timekeeper->renewLater(this);
     }
     Q_EMIT activeChanged();

@@ -49,7 +49,7 @@ public:
     void setActive(bool active);
     void resetActive();
 
-    void classBegin() override {}
+    void classBegin() override;
     void componentComplete() override;
 
     // For the timekeeper.
@@ -78,7 +78,7 @@ protected:
     void renew();
     void renewWithOtherSource();
 
-    /** Null until the element is complete. */
+    /** Null if no engine created the element. */
     Timekeeper* timekeeper() const;
 
 private Q_SLOTS:
@@ -92,6 +92,7 @@ private:
     QString m_text;
     qint64 m_validUntil = DatedText::never;
     quint32 m_revision = 0;
+    bool m_isComplete = false;
     bool m_isStale = true; // readers know, and have not asked since
     bool m_isActive = true;
     std::optional<bool> m_requestedActive;

@@ -85,9 +85,9 @@ QDateTime RelativeDate::prepared(const QDateTime& moment) const
     return RelativeDateSource::reading(moment);
 }
 
-void RelativeDate::componentComplete()
+void RelativeDate::classBegin()
 {
-    DateText::componentComplete();
+    DateText::classBegin();
     if (timekeeper() != nullptr && !connect(timekeeper(), SIGNAL(settingsChanged()), this, SLOT(onSettingsChanged()))) {
         qmlWarning(this) << "cannot follow the region";
     }

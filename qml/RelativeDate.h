@@ -84,7 +84,7 @@ public:
     QDateTime validUntil();
 
     QDateTime fixedAnchor() const override { return m_anchor; }
-    void componentComplete() override;
+    void classBegin() override;
 
 Q_SIGNALS:
     void tableChanged();

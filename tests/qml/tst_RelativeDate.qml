@@ -27,6 +27,24 @@ Item {
         }
     }
 
+    RelativeDate {
+        id: other
+
+        readonly property string region: locale.name // as a binding reads it, before the element is complete
+    }
+
+    Timer {
+        id: destroyer
+
+        property var element
+
+        interval: 1
+        onTriggered: {
+            element.destroy();
+            element.moment = new Date();
+        }
+    }
+
     SignalSpy {
         id: changes
 
@@ -80,9 +98,37 @@ Item {
             compare(shown.table, RelativeDate.TimeCritical);
             compare(shown.clockFormat, RelativeDate.ApplyUserFormat);
             compare(shown.wording, RelativeDate.Natural);
-            compare(shown.locale.name, "en_GB");
+            compare(other.region, "en_GB");
             compare(shown.active, true);
             compare(shown.text, "");
+        }
+
+        function test_destroyedWhileWaiting() {
+            for (let i = 0; i < 5; ++i) {
+                destroyer.element = component.createObject(root);
+                destroyer.start();
+                tryVerify(() => !destroyer.running);
+            }
+            wait(10);
+        }
+
+        // A handler changes the other element, which is due at the same time.
+        function test_changedByHandler_data() {
+            return [{ tag: "first", changed: other, by: shown }, { tag: "second", changed: shown, by: other }];
+        }
+        function test_changedByHandler(row) {
+            device.setTime("2026-05-16T22:30:00", true);
+            shown.moment = other.moment = time("2026-05-16T22:26:00");
+            compare([shown.text, other.text].join(), "4 minutes ago,4 minutes ago");
+            const change = () => {
+                row.changed.moment = time("2026-05-16T20:30:00");
+                compare(row.changed.text, "2 hours ago");
+            };
+            row.by.textChanged.connect(change);
+            device.setTime("2026-05-16T22:31:00", true);
+            tryCompare(row.by, "text", "5 minutes ago");
+            row.by.textChanged.disconnect(change);
+            compare(row.changed.text, "2 hours ago");
         }
 
         function test_unknownValue() {
