@@ -47,6 +47,26 @@ QStringList valuesOf(const QString& key)
 
 } // namespace
 
+QString Assignments::hourFormat()
+{
+    return QStringLiteral("hour-format");
+}
+
+QString Assignments::timeZone()
+{
+    return QStringLiteral("time-zone");
+}
+
+QString Assignments::region()
+{
+    return QStringLiteral("region");
+}
+
+QStringList Assignments::keys()
+{
+    return {hourFormat(), timeZone(), region()};
+}
+
 void Assignments::requireKey(const QString& key)
 {
     if (!keys().contains(key)) {

@@ -11,28 +11,26 @@
 namespace zel::tool {
 
 /** The settings of a device by their names on the command line, and their valid values. */
-class Assignments
-{
-public:
-    Assignments() = delete;
+namespace Assignments {
 
-    static QString hourFormat() { return QStringLiteral("hour-format"); }
-    static QString timeZone() { return QStringLiteral("time-zone"); }
-    static QString region() { return QStringLiteral("region"); }
-    static QStringList keys() { return {hourFormat(), timeZone(), region()}; }
+QString hourFormat();
+QString timeZone();
+QString region();
+QStringList keys();
 
-    /** Throws a Failure if there is no such setting. */
-    static void requireKey(const QString& key);
+/** Throws a Failure if there is no such setting. */
+void requireKey(const QString& key);
 
-    /** The reason why a value is invalid; empty if it is valid. */
-    static QString fault(const QString& key, const QString& value);
+/** The reason why a value is invalid; empty if it is valid. */
+QString fault(const QString& key, const QString& value);
 
-    /** The words KEY=VALUE for the key of a word that has one; otherwise KEY= for all keys. */
-    static QStringList proposals(const QString& word);
+/** The words KEY=VALUE for the key of a word that has one; otherwise KEY= for all keys. */
+QStringList proposals(const QString& word);
 
-    /** The checked values by key, from words of the form KEY=VALUE. */
-    static QMap<QString, QString> parse(const QStringList& words);
-};
+/** The checked values by key, from words of the form KEY=VALUE. */
+QMap<QString, QString> parse(const QStringList& words);
+
+} // namespace Assignments
 
 } // namespace zel::tool
 

@@ -15,42 +15,40 @@
 namespace zel::tool {
 
 /** The settings of the device that the library follows. */
-class Device
+namespace Device {
+
+/** The value of a setting; none if it is not set. Throws a Failure if it cannot be read. */
+std::optional<QString> get(const QString& key);
+
+/** Actions that set() must be allowed to take. */
+struct Permissions
 {
-public:
-    Device() = delete;
-
-    /** The value of a setting; none if it is not set. Throws a Failure if it cannot be read. */
-    static std::optional<QString> get(const QString& key);
-
-    /** Actions that set() must be allowed to take. */
-    struct Permissions
-    {
-        bool replace = false; ///< overwrite an object that cannot be decoded
-        bool create = false;  ///< create the settings directory
-    };
-
-    /**
-     * Changes settings, each object atomically and under a lock, and keeps its other attributes.
-     */
-    static void set(const QMap<QString, QString>& values, Permissions permissions);
-    static void unset(const QStringList& keys);
-
-    /** The user's region locale. */
-    static QLocale region();
-
-    /** Throws a Failure if a setting cannot be read, so that no text depends on a wrong default. */
-    static void requireReadable();
-
-    /** Simulates, for this process, a device with its settings in a directory, none of them set. */
-    static void useEmpty(const QString& directory);
-
-    /** Changes the region for this process only. The change is kept in a directory. */
-    static void useRegion(const QString& name, const QString& directory);
-
-    /** The state of the settings, and each setting with its source. */
-    static QList<Finding> examine();
+    bool replace = false; ///< overwrite an object that cannot be decoded
+    bool create = false;  ///< create the settings directory
 };
+
+/**
+ * Changes settings, each object atomically and under a lock, and keeps its other attributes.
+ */
+void set(const QMap<QString, QString>& values, Permissions permissions);
+void unset(const QStringList& keys);
+
+/** The user's region locale. */
+QLocale region();
+
+/** Throws a Failure if a setting cannot be read, so that no text depends on a wrong default. */
+void requireReadable();
+
+/** Simulates, for this process, a device with its settings in a directory, none of them set. */
+void useEmpty(const QString& directory);
+
+/** Changes the region for this process only. The change is kept in a directory. */
+void useRegion(const QString& name, const QString& directory);
+
+/** The state of the settings, and each setting with its source. */
+QList<Finding> examine();
+
+} // namespace Device
 
 } // namespace zel::tool
 

@@ -11,20 +11,18 @@
 namespace zel::tool {
 
 /** The gallery as one self-contained HTML page; only its filter needs a script. */
-class GalleryPage
-{
-public:
-    GalleryPage() = delete;
+namespace GalleryPage {
 
-    /**
-     * @param locales the number of locales, and of those with marks
-     * @param isCompared whether rows may have an older text
-     */
-    static QByteArray begin(int locales, int marked, bool isCompared);
-    /** @param clocks the names of the clocks */
-    static QByteArray section(const GalleryEntry& entry, const QStringList& clocks);
-    static QByteArray end();
-};
+/**
+ * @param locales the number of locales, and of those with marks
+ * @param isCompared whether rows may have an older text
+ */
+QByteArray begin(int locales, int marked, bool isCompared);
+/** @param clocks the names of the clocks */
+QByteArray section(const GalleryEntry& entry, const QStringList& clocks);
+QByteArray end();
+
+} // namespace GalleryPage
 
 } // namespace zel::tool
 

@@ -13,18 +13,16 @@ class Gallery;
 class GalleryComparison;
 
 /** The figures of a gallery, and of its comparison with an older table. */
-class GallerySummary
-{
-public:
-    GallerySummary() = delete;
+namespace GallerySummary {
 
-    /** @param comparison null without a comparison */
-    static QJsonObject json(const Gallery& gallery, const GalleryComparison* comparison);
-    static void write(const Gallery& gallery, const GalleryComparison* comparison, Console& console);
+/** @param comparison null without a comparison */
+QJsonObject json(const Gallery& gallery, const GalleryComparison* comparison);
+void write(const Gallery& gallery, const GalleryComparison* comparison, Console& console);
 
-    /** Each different text, old and new. */
-    static void writeDifferences(const Gallery& gallery, Console& console);
-};
+/** Each different text, old and new. */
+void writeDifferences(const Gallery& gallery, Console& console);
+
+} // namespace GallerySummary
 
 } // namespace zel::tool
 

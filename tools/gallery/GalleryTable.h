@@ -11,21 +11,19 @@
 namespace zel::tool {
 
 /** The gallery as tab-separated text, one text per line, to compare versions of ICU. */
-class GalleryTable
-{
-public:
-    GalleryTable() = delete;
+namespace GalleryTable {
 
-    static QByteArray header();
-    /** @param clocks the names of the clocks */
-    static QByteArray lines(const GalleryEntry& entry, const QStringList& clocks);
+QByteArray header();
+/** @param clocks the names of the clocks */
+QByteArray lines(const GalleryEntry& entry, const QStringList& clocks);
 
-    /** The cells of one line: locale, clock, group, name, pattern, text, notes. */
-    enum Column { Locale, Clock, Group, Name, Pattern, Text, Notes };
+/** The cells of one line: locale, clock, group, name, pattern, text, notes. */
+enum Column { Locale, Clock, Group, Name, Pattern, Text, Notes };
 
-    /** A text for a cell: without tabs and line ends. */
-    static QString cell(QString text);
-};
+/** A text for a cell: without tabs and line ends. */
+QString cell(QString text);
+
+} // namespace GalleryTable
 
 } // namespace zel::tool
 

@@ -11,29 +11,30 @@
 namespace zel::tool {
 
 /** The syntax of moments on the command line. */
-class Moment
+namespace Moment {
+
+/**
+ * Parses one of these; anything else is a Failure:
+ * - ISO 8601, extended or compact: a date alone, which is midnight, or a date and a time with or without seconds, a
+ *   fraction of them, and `Z` or an offset. Without an offset it is the local time of the process.
+ * - RFC 2822, as in mail and HTTP, with or without a weekday.
+ * - `@` and the seconds since 1970, which may be negative or have a fraction, in UTC and in any year.
+ */
+QDateTime parse(std::string_view text);
+
+/** Whether a text is a number of seconds: an instant without a date and time in a zone. */
+inline bool isEpoch(std::string_view text)
 {
-public:
-    Moment() = delete;
+    return !text.empty() && text.front() == '@';
+}
 
-    /**
-     * Parses one of these; anything else is a Failure:
-     * - ISO 8601, extended or compact: a date alone, which is midnight, or a date and a time with or without seconds, a
-     *   fraction of them, and `Z` or an offset. Without an offset it is the local time of the process.
-     * - RFC 2822, as in mail and HTTP, with or without a weekday.
-     * - `@` and the seconds since 1970, which may be negative or have a fraction, in UTC and in any year.
-     */
-    static QDateTime parse(std::string_view text);
+/** Throws a Failure with the text and the reason unless a condition holds. */
+void require(bool condition, std::string_view text, const QString& reason);
 
-    /** Whether a text is a number of seconds: an instant without a date and time in a zone. */
-    static bool isEpoch(std::string_view text) { return !text.empty() && text.front() == '@'; }
+/** @param moment in the years 1 to 9999 */
+QString write(const QDateTime& moment);
 
-    /** Throws a Failure with the text and the reason unless a condition holds. */
-    static void require(bool condition, std::string_view text, const QString& reason);
-
-    /** @param moment in the years 1 to 9999 */
-    static QString write(const QDateTime& moment);
-};
+} // namespace Moment
 
 } // namespace zel::tool
 

@@ -10,17 +10,15 @@
 namespace zel::tool {
 
 /** The skeleton among the words of a command. */
-class Skeleton
-{
-public:
-    Skeleton() = delete;
+namespace Skeleton {
 
-    /** The first word; a Failure unless it has field letters only. */
-    static QString from(const QStringList& words);
+/** The first word; a Failure unless it has field letters only. */
+QString from(const QStringList& words);
 
-    /** The help text about skeletons. */
-    static QString description();
-};
+/** The help text about skeletons. */
+QString description();
+
+} // namespace Skeleton
 
 } // namespace zel::tool
 
