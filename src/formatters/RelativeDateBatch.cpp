@@ -37,9 +37,9 @@ RelativeDateBatch::RelativeDateBatch(const RelativeDateFormatterPrivate& formatt
       m_anchor(RelativeDistance::reading(formatter.anchorTime)),
       m_usable(formatter.count > 0 && RelativeDistance::covers(m_anchor) && isUsable(formatter))
 {
-    m_slots.reserve(formatter.patterns.size());
+    m_caches.reserve(formatter.patterns.size());
     for (const auto& pattern : formatter.patterns) {
-        m_slots.push_back({pattern.get(), pattern->isPhraseAlone(), nullptr, {}, {}});
+        m_caches.push_back({pattern.get(), pattern->isPhraseAlone(), nullptr, {}, {}});
     }
 }
 
@@ -52,7 +52,7 @@ std::optional<QString> RelativeDateBatch::format(const QDateTime& dateTime)
         return std::nullopt;
     }
     const Step step = m_formatter.table.stepOf(RelativeDistance(m_anchor, reading), m_formatter.wording);
-    if (slotOf(step).isPhraseAlone) {
+    if (cacheOf(step).isPhraseAlone) {
         const QString& text = phrase(step);
         return text.isEmpty() ? std::nullopt : std::make_optional(text);
     }
@@ -61,7 +61,7 @@ std::optional<QString> RelativeDateBatch::format(const QDateTime& dateTime)
 
 const QString& RelativeDateBatch::phrase(const Step& step)
 {
-    auto& phrases = slotOf(step).phrases;
+    auto& phrases = cacheOf(step).phrases;
     const auto known = phrases.find(step.count);
     return known != phrases.end() ? known->second : phrases.emplace(step.count, makePhrase(step)).first->second;
 }
@@ -77,7 +77,7 @@ QString RelativeDateBatch::makePhrase(const Step& step)
             return silence.isBroken() ? QString() : now;
         }
     }
-    std::unique_ptr<ResourceFormatter>& resource = slotOf(step).resource;
+    std::unique_ptr<ResourceFormatter>& resource = cacheOf(step).resource;
     if (!resource) {
         resource = std::make_unique<ResourceFormatter>(m_formatter.locale, element, nullptr);
     }
@@ -87,7 +87,7 @@ QString RelativeDateBatch::makePhrase(const Step& step)
 
 std::optional<QString> RelativeDateBatch::dated(const Step& step, qint64 reading)
 {
-    auto& formats = slotOf(step).formats;
+    auto& formats = cacheOf(step).formats;
     auto known = formats.find(step.count);
     if (known == formats.end()) {
         known = formats.emplace(step.count, makeFormat(step)).first;
@@ -108,7 +108,7 @@ std::optional<QString> RelativeDateBatch::dated(const Step& step, qint64 reading
 RelativeDateBatch::Format RelativeDateBatch::makeFormat(const Step& step)
 {
     const DiagnosticSilence silence;
-    const QString pattern = slotOf(step).pattern->patternFor(step.count);
+    const QString pattern = cacheOf(step).pattern->patternFor(step.count);
     icu::ErrorCode status;
     auto format =
         std::make_unique<icu::SimpleDateFormat>(String::toICU(pattern), Locale::toICU(m_formatter.locale), status);
@@ -122,9 +122,9 @@ RelativeDateBatch::Format RelativeDateBatch::makeFormat(const Step& step)
     return {std::move(format), std::move(calendar)};
 }
 
-RelativeDateBatch::Slot& RelativeDateBatch::slotOf(const Step& step)
+RelativeDateBatch::SlotCache& RelativeDateBatch::cacheOf(const Step& step)
 {
-    return m_slots[static_cast<std::size_t>(step.slot)];
+    return m_caches[static_cast<std::size_t>(step.slot)];
 }
 
 } // namespace zel::utility::i18n

@@ -45,8 +45,8 @@ private:
         std::unique_ptr<icu::Calendar> calendar;
     };
 
-    /** What the texts of a slot need; the maps are by count. */
-    struct Slot
+    /** What the texts of a slot need, kept for the next text; the maps are by count. */
+    struct SlotCache
     {
         const RelativeDatePattern* pattern;
         bool isPhraseAlone;
@@ -55,7 +55,7 @@ private:
         std::unordered_map<int, Format> formats;
     };
 
-    Slot& slotOf(const Step& step);
+    SlotCache& cacheOf(const Step& step);
     const QString& phrase(const Step& step);
     QString makePhrase(const Step& step);
     std::optional<QString> dated(const Step& step, qint64 reading);
@@ -64,7 +64,7 @@ private:
     const RelativeDateFormatterPrivate& m_formatter;
     qint64 m_anchor;
     bool m_usable;
-    std::vector<Slot> m_slots;
+    std::vector<SlotCache> m_caches;
 };
 
 } // namespace zel::utility::i18n
