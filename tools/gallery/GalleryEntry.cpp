@@ -64,10 +64,9 @@ public:
             const QString pattern = format.pattern(locale);
             const QString text = locale.toString(moment(), pattern);
             QStringList notes = m_messages.take();
-            if (format.isFallback(locale)) {
+            if (format.isFallback(locale, pattern)) {
                 notes.prepend(QStringLiteral("Qt's own pattern: ICU's has a field that Qt lacks"));
             }
-            m_messages.take(); // the pattern was asked for again
             m_rows.append({format.kind(), format.length(), {pattern, text}, notes, {}});
         }
     }

@@ -89,9 +89,9 @@ QString Format::pattern(const QLocale& locale) const
     return i18n::dateTimeFormat(locale, m_length);
 }
 
-bool Format::isFallback(const QLocale& locale) const
+bool Format::isFallback(const QLocale& locale, const QString& pattern) const
 {
-    return hasFieldThatQtLacks(patternOfIcu(locale)) && pattern(locale) == patternOfQt(locale);
+    return hasFieldThatQtLacks(patternOfIcu(locale)) && pattern == patternOfQt(locale);
 }
 
 QString Format::patternOfIcu(const QLocale& locale) const

@@ -25,8 +25,8 @@ public:
 
     QString pattern(const QLocale& locale) const;
 
-    /** Whether the pattern is QLocale's own, because ICU's has a field that Qt lacks. */
-    bool isFallback(const QLocale& locale) const;
+    /** Whether the pattern of the locale is QLocale's own, because ICU's has a field that Qt lacks. */
+    bool isFallback(const QLocale& locale, const QString& pattern) const;
 
 private:
     enum Kind { Date, Time, DateTime };
