@@ -57,13 +57,13 @@ Gallery::Gallery(const QStringList& locales, const Console& console)
     ProgressBar progress(static_cast<int>(m_entries.size() * clocks.size()));
     for (const QString& clock : clocks) {
         useClock(clock);
-        fill(progress, console);
+        addRows(progress, console);
         m_clocks.append(clock + QStringLiteral("-hour clock"));
     }
 }
 
 // Adds the rows under the current clock of the device.
-void Gallery::fill(ProgressBar& progress, const Console& console)
+void Gallery::addRows(ProgressBar& progress, const Console& console)
 {
     for (GalleryEntry& entry : m_entries) {
         if (const int signal = console.takeSignal(); signal != 0) {

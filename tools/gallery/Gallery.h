@@ -37,7 +37,7 @@ public:
     QByteArray table() const;
 
 private:
-    void fill(ProgressBar& progress, const Console& console);
+    void addRows(ProgressBar& progress, const Console& console);
 
     QList<GalleryEntry> m_entries;
     QStringList m_clocks;

@@ -43,7 +43,7 @@ std::optional<std::string_view> LineReader::next()
         const std::size_t end = text.find('\n');
         const bool complete = end != std::string_view::npos;
         if (!complete && !m_finished && text.size() <= longestLine) {
-            fill();
+            readMore();
             continue;
         }
         if (text.empty()) {
@@ -58,7 +58,7 @@ std::optional<std::string_view> LineReader::next()
     }
 }
 
-void LineReader::fill()
+void LineReader::readMore()
 {
     std::copy(m_buffer.data() + m_begin, m_buffer.data() + m_end, m_buffer.data());
     m_end -= std::exchange(m_begin, 0);

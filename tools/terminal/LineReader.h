@@ -40,7 +40,7 @@ public:
 
 private:
     std::string_view pending() const { return {m_buffer.data() + m_begin, m_end - m_begin}; }
-    void fill();
+    void readMore();
 
     Console& m_console;
     std::optional<ProgressBar> m_progress;
