@@ -9,7 +9,7 @@
 #include "terminal/Console.h"
 #include "terminal/Table.h"
 #include "texts/Answers.h"
-#include "texts/Ladder.h"
+#include "texts/ExampleMoments.h"
 #include "texts/Moment.h"
 #include "texts/MomentReader.h"
 #include "texts/Moments.h"
@@ -109,46 +109,46 @@ ExitStatus writeMoments(const Arguments& arguments, Console& console)
         });
 }
 
-// The texts of one ladder: one column per locale, in the order of the rungs.
-struct LadderTexts
+// The texts of the examples for one type: one column per locale, in the order of the moments.
+struct ExampleTexts
 {
     int type;
     QDateTime anchor;
-    QList<Rung> rungs;
+    QList<ExampleMoment> moments;
     QList<NamedLocale> locales;
     QList<QStringList> columns;
 };
 
-LadderTexts ladderTexts(int type, const QList<NamedLocale>& locales, const Formatters& formatters)
+ExampleTexts exampleTexts(int type, const QList<NamedLocale>& locales, const Formatters& formatters)
 {
-    LadderTexts texts = {type, formatters.anchor(), Ladder::rungs(type, formatters.anchor()), locales, {}};
+    ExampleTexts texts = {type, formatters.anchor(), exampleMoments(type, formatters.anchor()), locales, {}};
     for (const NamedLocale& locale : locales) {
         const auto formatter = formatters.make(type, locale.locale);
         QStringList column;
-        for (const Rung& rung : texts.rungs) {
-            column.append(formatter->format(rung.moment));
+        for (const ExampleMoment& example : texts.moments) {
+            column.append(formatter->format(example.moment));
         }
         texts.columns.append(column);
     }
     return texts;
 }
 
-void writeJson(const LadderTexts& texts, Console& console)
+void writeJson(const ExampleTexts& texts, Console& console)
 {
     for (int column = 0; column < texts.locales.size(); ++column) {
-        for (int row = 0; row < texts.rungs.size(); ++row) {
+        for (int row = 0; row < texts.moments.size(); ++row) {
             console.json({{QStringLiteral("type"), types().key(texts.type)},
                           {QStringLiteral("locale"), texts.locales[column].name},
                           {QStringLiteral("anchor"), Moment::write(texts.anchor)},
-                          {QStringLiteral("distance"), texts.rungs[row].distance},
-                          {QStringLiteral("moment"), Moment::write(texts.rungs[row].moment)},
+                          {QStringLiteral("distance"), texts.moments[row].distance},
+                          {QStringLiteral("moment"), Moment::write(texts.moments[row].moment)},
                           {QStringLiteral("text"), texts.columns[column][row]}});
         }
     }
 }
 
 // A range of columns, side by side.
-Table tableOf(const LadderTexts& texts, int from, int to)
+Table tableOf(const ExampleTexts& texts, int from, int to)
 {
     Table table;
     const QString minutes = QStringLiteral("yyyy-MM-dd HH:mm");
@@ -157,8 +157,8 @@ Table tableOf(const LadderTexts& texts, int from, int to)
         header.append(texts.locales[column].name);
     }
     table.add(header);
-    for (int row = 0; row < texts.rungs.size(); ++row) {
-        QStringList cells = {texts.rungs[row].distance, texts.rungs[row].moment.toString(minutes)};
+    for (int row = 0; row < texts.moments.size(); ++row) {
+        QStringList cells = {texts.moments[row].distance, texts.moments[row].moment.toString(minutes)};
         for (int column = from; column < to; ++column) {
             cells.append(texts.columns[column][row]);
         }
@@ -168,7 +168,7 @@ Table tableOf(const LadderTexts& texts, int from, int to)
 }
 
 // As many columns side by side as fit on the terminal.
-void writeTables(const LadderTexts& texts, Console& console)
+void writeTables(const ExampleTexts& texts, Console& console)
 {
     const auto count = static_cast<int>(texts.locales.size());
     for (int from = 0, to = 0; from < count; from = to) {
@@ -183,17 +183,17 @@ void writeTables(const LadderTexts& texts, Console& console)
     }
 }
 
-ExitStatus writeLadders(const Arguments& arguments, Console& console)
+ExitStatus writeExamples(const Arguments& arguments, Console& console)
 {
     if (!arguments.positional().isEmpty()) {
         throw Failure::usage(QStringLiteral("--table takes no moment, not ") + quoted(arguments.positional().first()));
     }
-    const Formatters formatters(arguments, MomentReader(MomentReader::Converted), Ladder::exampleAnchor());
+    const Formatters formatters(arguments, MomentReader(MomentReader::Converted), exampleAnchor());
     const int chosen = typeOf(arguments);
     const QList<NamedLocale> locales = arguments.locales();
     QList<int> both = {RelativeDateFormat::TimeCritical, RelativeDateFormat::NonTimeCritical};
     for (const int type : arguments.has(QStringLiteral("type")) ? QList<int>{chosen} : both) {
-        const LadderTexts texts = ladderTexts(type, locales, formatters);
+        const ExampleTexts texts = exampleTexts(type, locales, formatters);
         if (arguments.json()) {
             writeJson(texts, console);
             continue;
@@ -275,7 +275,8 @@ ExitStatus RelativeCommand::run(const Arguments& arguments, Console& console) co
 {
     Device::requireReadable();
     readSettings();
-    return arguments.has(QStringLiteral("table")) ? writeLadders(arguments, console) : writeMoments(arguments, console);
+    return arguments.has(QStringLiteral("table")) ? writeExamples(arguments, console)
+                                                  : writeMoments(arguments, console);
 }
 
 std::unique_ptr<Command> relativeCommand()

@@ -4,8 +4,8 @@
 #include "gallery/GalleryEntry.h"
 
 #include "terminal/Messages.h"
+#include "texts/ExampleMoments.h"
 #include "texts/Format.h"
-#include "texts/Ladder.h"
 #include <zel/utility/i18n/CustomDateFormatter.h>
 #include <zel/utility/i18n/Formatting.h>
 #include <zel/utility/i18n/RelativeDateFormatter.h>
@@ -28,17 +28,17 @@ QDateTime moment()
 constexpr qint64 minute = 60;
 
 // One for each plural category of any language.
-QList<Rung> minutes()
+QList<ExampleMoment> minutes()
 {
-    QList<Rung> before;
-    QList<Rung> after;
+    QList<ExampleMoment> before;
+    QList<ExampleMoment> after;
     for (const int count : {1, 2, 3, 5, 11, 21}) {
         const QString name =
             QStringLiteral("%1 %2 %3").arg(count).arg(QLatin1String(count == 1 ? "minute" : "minutes"));
-        before.prepend({name.arg(QLatin1String("before")), Ladder::exampleAnchor().addSecs(-minute * count)});
-        after.append({name.arg(QLatin1String("after")), Ladder::exampleAnchor().addSecs(minute * count)});
+        before.prepend({name.arg(QLatin1String("before")), exampleAnchor().addSecs(-minute * count)});
+        after.append({name.arg(QLatin1String("after")), exampleAnchor().addSecs(minute * count)});
     }
-    return before + QList<Rung>{{QStringLiteral("0 minutes"), Ladder::exampleAnchor()}} + after;
+    return before + QList<ExampleMoment>{{QStringLiteral("0 minutes"), exampleAnchor()}} + after;
 }
 
 QDateTime newYear()
@@ -47,7 +47,7 @@ QDateTime newYear()
 }
 
 // Moments for which the wordings differ.
-QList<Rung> aroundNewYear()
+QList<ExampleMoment> aroundNewYear()
 {
     return {{QStringLiteral("2 days before"), newYear().addDays(-2)},
             {QStringLiteral("31 minutes before"), newYear().addSecs(-31 * minute)},
@@ -85,11 +85,11 @@ public:
         }
     }
 
-    void addRelative(const QString& group, const RelativeDateFormatter& formatter, const QList<Rung>& rungs)
+    void addRelative(const QString& group, const RelativeDateFormatter& formatter, const QList<ExampleMoment>& moments)
     {
-        for (const Rung& rung : rungs) {
-            const QString text = formatter.format(rung.moment);
-            m_rows.append({group, rung.distance, {{}, text}, m_messages.take(), {}});
+        for (const ExampleMoment& example : moments) {
+            const QString text = formatter.format(example.moment);
+            m_rows.append({group, example.distance, {{}, text}, m_messages.take(), {}});
         }
     }
 
@@ -113,7 +113,7 @@ QList<GalleryRow> GalleryEntry::rows(const QLocale& locale)
     rows.addFormats(locale);
     rows.addCustom(QStringLiteral("yMMMMEEEEdhm"));
     rows.addPercentages(locale);
-    const QDateTime anchor = Ladder::exampleAnchor();
+    const QDateTime anchor = exampleAnchor();
     RelativeDateFormatter timeCritical(RelativeDateFormat::TimeCritical);
     RelativeDateFormatter nonTimeCritical(RelativeDateFormat::NonTimeCritical);
     for (RelativeDateFormatter* const formatter : {&timeCritical, &nonTimeCritical}) {
@@ -121,9 +121,9 @@ QList<GalleryRow> GalleryEntry::rows(const QLocale& locale)
         formatter->setAnchorTime(anchor);
     }
     rows.addRelative(QStringLiteral("relative, time-critical"), timeCritical,
-                     Ladder::rungs(RelativeDateFormat::TimeCritical, anchor));
+                     exampleMoments(RelativeDateFormat::TimeCritical, anchor));
     rows.addRelative(QStringLiteral("relative, non-time-critical"), nonTimeCritical,
-                     Ladder::rungs(RelativeDateFormat::NonTimeCritical, anchor));
+                     exampleMoments(RelativeDateFormat::NonTimeCritical, anchor));
     rows.addRelative(QStringLiteral("relative, minutes"), timeCritical, minutes());
     timeCritical.setAnchorTime(newYear());
     rows.addRelative(QStringLiteral("relative, on 1 January, exact wording"), timeCritical, aroundNewYear());

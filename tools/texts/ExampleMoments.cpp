@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "texts/Ladder.h"
+#include "texts/ExampleMoments.h"
 
 #include <QtCore/QStringList>
 #include <zel/utility/i18n/RelativeDateFormat.h>
@@ -76,10 +76,10 @@ Distance fitting(const QDateTime& anchor, const Distance& distance, int sign)
 
 } // namespace
 
-QList<Rung> Ladder::rungs(int type, const QDateTime& anchor)
+QList<ExampleMoment> exampleMoments(int type, const QDateTime& anchor)
 {
-    QList<Rung> before;
-    QList<Rung> after;
+    QList<ExampleMoment> before;
+    QList<ExampleMoment> after;
     for (const Distance& usual : distances(type)) {
         const Distance earlier = fitting(anchor, usual, -1);
         const Distance later = fitting(anchor, usual, 1);
@@ -90,6 +90,11 @@ QList<Rung> Ladder::rungs(int type, const QDateTime& anchor)
         before.append({QStringLiteral("the same day"), anchor});
     }
     return before + after;
+}
+
+QDateTime exampleAnchor()
+{
+    return {QDate(2012, 9, 3), QTime(10, 30)};
 }
 
 } // namespace zel::tool

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
 // SPDX-License-Identifier: Apache-2.0
 
-#ifndef ZEL_TOOL_LADDER_H
-#define ZEL_TOOL_LADDER_H
+#ifndef ZEL_TOOL_EXAMPLEMOMENTS_H
+#define ZEL_TOOL_EXAMPLEMOMENTS_H
 
 #include <QtCore/QDateTime>
 #include <QtCore/QList>
@@ -10,8 +10,8 @@
 
 namespace zel::tool {
 
-/** A distance from the anchor, and the moment at that distance. */
-struct Rung
+/** A moment with its distance from the anchor, as text. */
+struct ExampleMoment
 {
     QString distance;
     QDateTime moment;
@@ -20,18 +20,13 @@ struct Rung
 /**
  * Moments from long before an anchor to long after it. With an anchor around noon in the middle of a year, there is one
  * for each slot of the table.
+ *
+ * @param type a RelativeDateFormat::Type
  */
-class Ladder
-{
-public:
-    Ladder() = delete;
+QList<ExampleMoment> exampleMoments(int type, const QDateTime& anchor);
 
-    /** @param type a RelativeDateFormat::Type */
-    static QList<Rung> rungs(int type, const QDateTime& anchor);
-
-    /** An anchor with a moment for each slot. */
-    static QDateTime exampleAnchor() { return {QDate(2012, 9, 3), QTime(10, 30)}; }
-};
+/** An anchor with a moment for each slot. */
+QDateTime exampleAnchor();
 
 } // namespace zel::tool
 
