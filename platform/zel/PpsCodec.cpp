@@ -15,17 +15,16 @@ namespace zel {
 
 namespace {
 
-// The reason why decoding failed; null on success.
-using Reason = const char*;
+// The functions without a result return the reason why they failed; empty on success.
 
-Reason decodeText(const QByteArray& line, QString& text)
+QString decodeText(const QByteArray& line, QString& text)
 {
     if (line.contains('\0')) {
-        return "NUL character";
+        return QStringLiteral("NUL character");
     }
     text = QString::fromUtf8(line);
     // Qt replaces or drops invalid bytes, so that they do not come back.
-    return text.toUtf8() == line ? nullptr : "not valid UTF-8";
+    return text.toUtf8() == line ? QString() : QStringLiteral("not valid UTF-8");
 }
 
 bool hasControlCharacter(const QString& name)
@@ -33,18 +32,19 @@ bool hasControlCharacter(const QString& name)
     return std::any_of(name.begin(), name.end(), [](QChar c) { return c.category() == QChar::Other_Control; });
 }
 
-Reason decodeName(const QByteArray& line, QString& name)
+QString decodeName(const QByteArray& line, QString& name)
 {
-    if (const Reason reason = decodeText(line, name)) {
+    const QString reason = decodeText(line, name);
+    if (!reason.isEmpty()) {
         return reason;
     }
     if (name.size() < 2 || !name.startsWith(QLatin1Char('@'))) {
-        return "expected '@' and the name of the object";
+        return QStringLiteral("expected '@' and the name of the object");
     }
-    return hasControlCharacter(name) ? "control character in the name" : nullptr;
+    return hasControlCharacter(name) ? QStringLiteral("control character in the name") : QString();
 }
 
-Reason unescape(const QString& escaped, QVariant& value)
+QString unescape(const QString& escaped, QVariant& value)
 {
     QString text;
     text.reserve(escaped.size());
@@ -56,11 +56,11 @@ Reason unescape(const QString& escaped, QVariant& value)
         } else if (c != escaped.end() && *c == QLatin1Char('\\')) {
             text += QLatin1Char('\\');
         } else {
-            return "unknown escape";
+            return QStringLiteral("unknown escape");
         }
     }
     value = text;
-    return nullptr;
+    return {};
 }
 
 // Parses the whole text as a number in the C locale.
@@ -71,7 +71,7 @@ bool parse(const QByteArray& text, Number& number)
     return error == std::errc() && end == text.end();
 }
 
-Reason decodeNumber(const QString& text, QVariant& value)
+QString decodeNumber(const QString& text, QVariant& value)
 {
     const QByteArray digits = text.toLatin1();
     int small = 0;
@@ -84,18 +84,19 @@ Reason decodeNumber(const QString& text, QVariant& value)
     } else if (parse(digits, real) && std::isfinite(real)) {
         value = real;
     } else {
-        return "not a number";
+        return QStringLiteral("not a number");
     }
-    return nullptr;
+    return {};
 }
 
-Reason decodeBool(const QString& text, QVariant& value)
+QString decodeBool(const QString& text, QVariant& value)
 {
     value = text == QLatin1String("true");
-    return value.toBool() || text == QLatin1String("false") ? nullptr : "neither true nor false";
+    const bool isBool = value.toBool() || text == QLatin1String("false");
+    return isBool ? QString() : QStringLiteral("neither true nor false");
 }
 
-Reason decodeValue(const QString& encoding, const QString& text, QVariant& value)
+QString decodeValue(const QString& encoding, const QString& text, QVariant& value)
 {
     if (encoding.isEmpty()) {
         return unescape(text, value);
@@ -103,29 +104,30 @@ Reason decodeValue(const QString& encoding, const QString& text, QVariant& value
     if (encoding == QLatin1String("n")) {
         return decodeNumber(text, value);
     }
-    return encoding == QLatin1String("b") ? decodeBool(text, value) : "unknown encoding";
+    return encoding == QLatin1String("b") ? decodeBool(text, value) : QStringLiteral("unknown encoding");
 }
 
-Reason decodeAttribute(const QByteArray& line, QVariantMap& attributes)
+QString decodeAttribute(const QByteArray& line, QVariantMap& attributes)
 {
     QString text;
-    if (const Reason reason = decodeText(line, text)) {
+    const QString reason = decodeText(line, text);
+    if (!reason.isEmpty()) {
         return reason;
     }
     const auto nameEnd = text.indexOf(QLatin1Char(':'));
     const auto encodingEnd = text.indexOf(QLatin1Char(':'), nameEnd + 1);
     if (nameEnd < 0 || encodingEnd < 0) {
-        return "expected attribute:encoding:value";
+        return QStringLiteral("expected attribute:encoding:value");
     }
     const QString name = text.left(nameEnd);
     if (name.isEmpty()) {
-        return "empty attribute name";
+        return QStringLiteral("empty attribute name");
     }
     if (hasControlCharacter(name)) {
-        return "control character in the attribute name";
+        return QStringLiteral("control character in the attribute name");
     }
     if (attributes.contains(name)) {
-        return "attribute appears twice";
+        return QStringLiteral("attribute appears twice");
     }
     return decodeValue(text.mid(nameEnd + 1, encodingEnd - nameEnd - 1), text.mid(encodingEnd + 1), attributes[name]);
 }
@@ -177,8 +179,9 @@ QVariantMap PpsCodec::decode(const QByteArray& contents, QString& error)
     int number = 0;
     for (const QByteArray& line : lines) {
         ++number;
-        if (const Reason reason = number == 1 ? decodeName(line, name) : decodeAttribute(line, attributes)) {
-            error = QStringLiteral("line %1: %2").arg(number).arg(QLatin1String(reason));
+        const QString reason = number == 1 ? decodeName(line, name) : decodeAttribute(line, attributes);
+        if (!reason.isEmpty()) {
+            error = QStringLiteral("line %1: %2").arg(number).arg(reason);
             return {};
         }
     }

@@ -17,7 +17,7 @@ struct BundleData
     UDataInfo info;
     std::string_view body;
 
-    /** The bytes of a .res file. */
+    /** The data in the bytes of a .res file; none, with the reason in `error`, if they are not of this machine. */
     static std::optional<BundleData> fromFile(std::string_view file, std::string& error);
 
     /** Data that ICU opened. ICU does not give its length, so that the index declares it. */

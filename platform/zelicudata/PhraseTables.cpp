@@ -106,7 +106,8 @@ std::optional<ResourceTree> PhraseTables::forLocale(const std::string& locale, s
         for (const char* direction : {"past", "future"}) {
             ResourceTree& table = tree.children["units"].children[std::string(unit) + '-' + direction];
             const Path source{"fields", unit, "relativeTime", direction};
-            if (!addTexts(table, locale, source, pluralCategories(), {"other"}, error)) {
+            error = addTexts(table, locale, source, pluralCategories(), {"other"});
+            if (!error.empty()) {
                 return std::nullopt;
             }
         }
@@ -114,7 +115,8 @@ std::optional<ResourceTree> PhraseTables::forLocale(const std::string& locale, s
     const Path days{"-1", "0", "1"};
     ResourceTree& fields = tree.children["calendar"].children["gregorian"].children["fields"];
     ResourceTree& table = fields.children["day"].children["relative"];
-    if (!addTexts(table, locale, {"fields", "day", "relative"}, days, days, error)) {
+    error = addTexts(table, locale, {"fields", "day", "relative"}, days, days);
+    if (!error.empty()) {
         return std::nullopt;
     }
     // The root's word is English, so that other locales do not inherit it: empty means no word.
@@ -123,9 +125,10 @@ std::optional<ResourceTree> PhraseTables::forLocale(const std::string& locale, s
     return error.empty() ? std::make_optional(std::move(tree)) : std::nullopt;
 }
 
-bool PhraseTables::addTexts(ResourceTree& table, const std::string& locale, const Path& source, const Path& keys,
-                            const Path& required, std::string& error)
+std::string PhraseTables::addTexts(ResourceTree& table, const std::string& locale, const Path& source, const Path& keys,
+                                   const Path& required)
 {
+    std::string error;
     for (const std::string& key : keys) {
         if (auto phrase = text(locale, source + Path{key}, Root::Included, error)) {
             table.children[key].text = *std::move(phrase);
@@ -136,7 +139,7 @@ bool PhraseTables::addTexts(ResourceTree& table, const std::string& locale, cons
             error = locale + ": no text at " + joined(source + Path{key});
         }
     }
-    return error.empty();
+    return error;
 }
 
 std::optional<std::u16string> PhraseTables::text(const std::string& locale, const Path& path, Root root,

@@ -41,25 +41,19 @@ std::string problemOfSize(std::string_view body)
 
 } // namespace
 
-bool ResourceBundleChecker::checkFormat(const BundleData& data, std::string& error)
+std::string ResourceBundleChecker::checkFormat(const BundleData& data)
 {
-    error = problemOfInfo(data.info);
-    if (error.empty()) {
-        error = problemOfSize(data.body);
-    }
-    return error.empty();
+    const std::string reason = problemOfInfo(data.info);
+    return reason.empty() ? problemOfSize(data.body) : reason;
 }
 
-bool ResourceBundleChecker::check(std::string& error)
+std::string ResourceBundleChecker::check()
 {
-    error = problemOfIndex();
-    if (error.empty()) {
-        error = problemOfPool();
+    std::string reason = problemOfIndex();
+    if (reason.empty()) {
+        reason = problemOfPool();
     }
-    if (error.empty()) {
-        error = problemOfResources();
-    }
-    return error.empty();
+    return reason.empty() ? problemOfResources() : reason;
 }
 
 std::string ResourceBundleChecker::problemOfIndex() const

@@ -16,13 +16,13 @@ namespace zel::icudata {
 class ResourceBundleChecker
 {
 public:
-    /** To be checked before a reader uses the index. */
-    static bool checkFormat(const BundleData& data, std::string& error);
+    /** Call before a reader uses the index. Returns the reason why the format is unknown; empty if it is known. */
+    static std::string checkFormat(const BundleData& data);
 
     explicit ResourceBundleChecker(const ResourceBundleReader& bundle) : m_bundle(bundle) {}
 
-    /** To be checked before a reader is used. */
-    bool check(std::string& error);
+    /** Call before the reader is used. Returns the reason why the bundle cannot be read; empty if it can. */
+    std::string check();
 
 private:
     std::string problemOfIndex() const;

@@ -26,14 +26,13 @@ constexpr char16_t shortLengthMask = 0x3ff;
 std::optional<ResourceBundleReader> ResourceBundleReader::open(const BundleData& data, const ResourceBundleReader* pool,
                                                                std::string& error)
 {
-    if (!ResourceBundleChecker::checkFormat(data, error)) {
+    error = ResourceBundleChecker::checkFormat(data);
+    if (!error.empty()) {
         return std::nullopt;
     }
     ResourceBundleReader reader(data, pool);
-    if (!ResourceBundleChecker(reader).check(error)) {
-        return std::nullopt;
-    }
-    return reader;
+    error = ResourceBundleChecker(reader).check();
+    return error.empty() ? std::make_optional(reader) : std::nullopt;
 }
 
 ResourceBundleReader::ResourceBundleReader(const BundleData& data, const ResourceBundleReader* pool)

@@ -18,6 +18,7 @@
 #include <fstream>
 #include <iostream>
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -29,52 +30,59 @@ namespace {
 namespace fs = std::filesystem;
 using namespace zel::icudata;
 
-void writeFile(const fs::path& path, const std::string& bytes, std::string& error)
+[[noreturn]] void fail(const std::string& reason)
+{
+    throw std::runtime_error(reason + " (this is ICU " U_ICU_VERSION "; ICU 72 to 78 are supported)");
+}
+
+void writeFile(const fs::path& path, const std::string& bytes)
 {
     std::ofstream file(path, std::ios::binary);
     file << bytes;
     file.close();
     if (!file) {
-        error = path.string() + ": cannot be written";
+        fail(path.string() + ": cannot be written");
     }
 }
 
-std::optional<std::string> copyWithPhrases(const std::string& name, StockBundles& bundles, PhraseTables& phrases,
-                                           std::string& error)
+std::string copyWithPhrases(const std::string& name, StockBundles& bundles, PhraseTables& phrases)
 {
+    std::string error;
     const ResourceBundleReader* bundle = bundles.find(name, error);
     if (bundle == nullptr) {
-        error = error.empty() ? name + ": listed by ICU, but not there" : error;
-        return std::nullopt;
+        fail(error.empty() ? name + ": listed by ICU, but not there" : error);
     }
     const auto tables = phrases.forLocale(name, error);
-    auto copy = tables ? ResourceBundleWriter::write(*bundle, *tables, error) : std::nullopt;
-    if (tables && !copy) {
-        error.insert(0, name + ": ");
+    if (!tables) {
+        fail(error);
     }
-    return copy;
+    auto copy = ResourceBundleWriter::write(*bundle, *tables, error);
+    if (!copy) {
+        fail(name + ": " + error);
+    }
+    return *std::move(copy);
 }
 
-bool writeBundles(const fs::path& directory, std::string& error)
+void writeBundles(const fs::path& directory)
 {
+    std::string error;
     StockBundles bundles;
     PhraseTables phrases(bundles);
     const ResourceBundleReader* const pool = bundles.find("pool", error);
+    if (!error.empty()) {
+        fail(error);
+    }
     BundleList list(pool != nullptr ? pool->index(IndexWord::PoolChecksum) : 0);
     if (pool != nullptr) {
         fs::create_directories(directory / BundleList::packageName);
-        writeFile(directory / BundleList::packageName / BundleList::poolName, pool->data().toFile(), error);
+        writeFile(directory / BundleList::packageName / BundleList::poolName, pool->data().toFile());
     }
     for (const std::string& name : StockBundles::names()) {
-        const auto copy = copyWithPhrases(name, bundles, phrases, error);
-        if (!copy) {
-            return false;
-        }
-        list.add(name + ".res", *copy);
-        writeFile(directory / (name + ".res"), *copy, error);
+        const std::string copy = copyWithPhrases(name, bundles, phrases);
+        list.add(name + ".res", copy);
+        writeFile(directory / (name + ".res"), copy);
     }
-    writeFile(directory / BundleList::fileName, list.toFile(), error);
-    return error.empty();
+    writeFile(directory / BundleList::fileName, list.toFile());
 }
 
 // A directory for this run only, removed with this object.
@@ -118,14 +126,11 @@ private:
 
 // Moved into place when complete: the final directory is always whole, also with several runs at once, and running
 // programs keep their open files.
-bool generate(const fs::path& directory, std::string& error)
+void generate(const fs::path& directory)
 {
     const Unfinished unfinished(directory);
-    if (!writeBundles(unfinished.path(), error)) {
-        return false;
-    }
+    writeBundles(unfinished.path());
     unfinished.putInPlaceOf(directory / U_ICUDATA_NAME);
-    return true;
 }
 
 bool isSound(const fs::path& bundles)
@@ -175,17 +180,13 @@ int run(const std::vector<std::string>& arguments)
         return EXIT_FAILURE;
     }
     if (!options->kind.empty() && options->kind != kindOfData()) {
-        std::cerr << "zel-icudata-gen: the build needs data of " << options->kind << "; this generator has that of "
-                  << kindOfData() << '\n';
-        return EXIT_FAILURE;
+        throw std::runtime_error("the build needs data of " + options->kind + "; this generator has that of " +
+                                 kindOfData());
     }
     // Copy ICU's own data, whatever ICU_DATA is in the environment of the build.
     unsetenv("ICU_DATA"); // NOLINT(concurrency-mt-unsafe): the only thread
-    std::string error;
-    const bool isNeeded = !options->unlessSound || !isSound(options->directory / U_ICUDATA_NAME);
-    if (isNeeded && !generate(options->directory, error)) {
-        std::cerr << "zel-icudata-gen: " << error << " (this is ICU " U_ICU_VERSION "; ICU 72 to 78 are supported)\n";
-        return EXIT_FAILURE;
+    if (!options->unlessSound || !isSound(options->directory / U_ICUDATA_NAME)) {
+        generate(options->directory);
     }
     return EXIT_SUCCESS;
 }

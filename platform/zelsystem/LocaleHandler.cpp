@@ -35,11 +35,11 @@ void LocaleHandler::connectNotify(const QMetaMethod& signal)
 
 void LocaleHandler::startWatching()
 {
-    if (m_object) {
+    if (m_object != nullptr) {
         return;
     }
-    m_object = std::make_unique<PpsObject>(QStringLiteral("/pps/system/locale"), this);
-    bool isConnected = connect(m_object.get(), SIGNAL(readyRead()), this, SLOT(onObjectChanged()));
+    m_object = new PpsObject(QStringLiteral("/pps/system/locale"), this);
+    bool isConnected = connect(m_object, SIGNAL(readyRead()), this, SLOT(onObjectChanged()));
     m_object->open(PpsOpenMode::Subscribe);
     RegionCache& cache = RegionCache::instance();
     cache.refresh();

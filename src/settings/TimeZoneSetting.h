@@ -26,9 +26,7 @@ public:
     explicit TimeZoneSetting(QObject* parent);
     ~TimeZoneSetting() override = default;
 
-    /**
-     * The identifier of the time zone, unchecked; empty if it is not set. Call on any thread.
-     */
+    /** The identifier of the time zone, unchecked; empty if it is not set. Call on any thread. */
     static QString timeZone();
 
     ZEL_UTILITY_I18N_SIGNALS

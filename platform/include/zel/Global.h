@@ -4,9 +4,7 @@
 #ifndef ZEL_GLOBAL_H
 #define ZEL_GLOBAL_H
 
-#include <QtCore/QtGlobal>
-
-/** Exports a symbol of the platform libraries; the same for building and using them. */
-#define ZEL_EXPORT Q_DECL_EXPORT
+/** Exports a symbol of the platform libraries, and imports it elsewhere: one attribute on the systems they run on. */
+#define ZEL_EXPORT __attribute__((visibility("default")))
 
 #endif

@@ -4,6 +4,8 @@
 #ifndef ZEL_ICU_DATADIRECTORY_H
 #define ZEL_ICU_DATADIRECTORY_H
 
+#include <zel/Global.h>
+
 /**
  * The directory in which ICU finds the phrases of relative dates.
  *
@@ -27,29 +29,29 @@
 namespace zel::icudata {
 
 /** Returns the absolute path of the directory with phrase tables beside this library; "" if none can be used. */
-__attribute__((visibility("default"))) const char* dataDirectory() noexcept;
+ZEL_EXPORT const char* dataDirectory() noexcept;
 
 /** Returns the reason why dataDirectory() is ""; otherwise "". */
-__attribute__((visibility("default"))) const char* dataDirectoryProblem() noexcept;
+ZEL_EXPORT const char* dataDirectoryProblem() noexcept;
 
 /**
  * Checks every bundle in the directory that ICU uses, once in a process. If one is missing or damaged, ICU is taken
  * back to its own data. The other functions, and the whole library, call this before they ask ICU for a locale's data.
  */
-__attribute__((visibility("default"))) void checkDataDirectory() noexcept;
+ZEL_EXPORT void checkDataDirectory() noexcept;
 
 /** Returns whether ICU uses dataDirectory(): false if it uses another directory, or if there is none. */
-__attribute__((visibility("default"))) bool isDataDirectoryInUse() noexcept;
+ZEL_EXPORT bool isDataDirectoryInUse() noexcept;
 
 /** Returns whether the data that ICU opens by default has phrase tables, from whichever directory. */
-__attribute__((visibility("default"))) bool hasPhraseTables() noexcept;
+ZEL_EXPORT bool hasPhraseTables() noexcept;
 
 /**
  * Returns the ICU package from which to open bundles with phrase tables; null for ICU's default data. It is null unless
  * ICU had opened its own root bundle before this library was loaded: ICU keeps that one, and the package is a way round
  * it.
  */
-__attribute__((visibility("default"))) const char* phrasePackage() noexcept;
+ZEL_EXPORT const char* phrasePackage() noexcept;
 
 } // namespace zel::icudata
 

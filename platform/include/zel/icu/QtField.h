@@ -10,8 +10,7 @@
 
 namespace zel::icudata {
 
-/** A field of ICU's date/time patterns in Qt's syntax. Header only: the library and the command line share the table.
- */
+/** A field of ICU's patterns in Qt's syntax. Header only: the library and the command line share the table. */
 class QtField
 {
 public:

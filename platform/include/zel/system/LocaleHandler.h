@@ -4,7 +4,6 @@
 #ifndef ZEL_SYSTEM_LOCALEHANDLER_H
 #define ZEL_SYSTEM_LOCALEHANDLER_H
 
-#include <memory>
 #include <QtCore/QLocale>
 #include <QtCore/QObject>
 #include <zel/Global.h>
@@ -63,7 +62,7 @@ private Q_SLOTS:
 
 private:
     const LocaleType::Type m_type;
-    std::unique_ptr<PpsObject> m_object; // announces changes; null while nobody is connected
+    PpsObject* m_object = nullptr; // a child that announces changes; null while nobody is connected
 };
 
 } // namespace system
