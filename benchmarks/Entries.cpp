@@ -285,7 +285,7 @@ Entry slotEntry(const SlotCalls& calls)
             Entry::Same};
 }
 
-/** formatAll() beside ICU's kept formatter; the text is the last one. */
+// formatAll() beside ICU's kept formatter. Returns the last text.
 std::vector<Entry> listEntries()
 {
     std::vector<Entry> all;

@@ -17,7 +17,7 @@ namespace {
 
 constexpr int count = 10000;
 
-/** An engine with elements whose moments lie in the last days, as in a list of messages. */
+// An engine with elements for moments of the last days, as in a list of messages.
 class Elements
 {
 public:
@@ -33,7 +33,7 @@ public:
         call("renewWaiting");
     }
 
-    /** All texts, as when the clock of the system was set. */
+    // Updates all texts, as after a change of the system clock.
     void renew() { call("renewAll"); }
 
     bool isComplete() const { return !m_elements.back()->property("text").toString().isEmpty(); }

@@ -20,7 +20,7 @@ namespace {
 constexpr int rows = 10000;
 constexpr int printedRows = 3;
 
-/** The moments at which the messages came: 5 minutes, 3 hours, a day, and further back from row to row. */
+// The arrival times of the messages: 5 minutes, 3 hours, a day, and further back in each row.
 class MessageModel : public QAbstractListModel
 {
 public:
@@ -42,7 +42,7 @@ private:
     QDateTime m_opened = startOfMinute(QDateTime::currentDateTime());
 };
 
-/** Shows moments relative to now, and paints again when one that is shown reads differently. */
+// Shows moments relative to now, and repaints when a visible text changes.
 class DateDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -105,7 +105,7 @@ private:
     bool m_ready = false;
 };
 
-/** Prints the texts of the first rows that are other ones than before. */
+// Prints the changed texts of the first rows.
 class Printer : public QObject
 {
     Q_OBJECT

@@ -10,7 +10,7 @@
 
 namespace {
 
-/** Prints what QML writes with console.log(), and nothing else. */
+// Prints only the messages of console.log() in QML.
 void print(QtMsgType /*type*/, const QMessageLogContext& context, const QString& text)
 {
     if (qstrcmp(context.category, "qml") == 0) {

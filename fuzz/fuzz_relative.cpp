@@ -30,7 +30,7 @@ constexpr std::array<int, 2> wordings{RelativeDateWording::Exact, RelativeDateWo
 
 QStringList messages;
 
-/** Both ways to format moments; equal in all they do. */
+// Both ways to format moments; they must agree.
 template <typename Formatter>
 void requireSameTexts(const Formatter& formatter, const QList<QDateTime>& moments)
 {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
 // SPDX-License-Identifier: Apache-2.0
 
-// What a plug-in does with the library; tst_plugin loads it.
+// A plug-in that uses the library; tst_plugin loads it.
 
 #include <zel/utility/i18n/RelativeDateFormatter.h>
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Text, locales and messages on their way between Qt and ICU.
+// Conversions of text and locales between Qt and ICU, and messages.
 
 #include "bridge/Diagnostic.h"
 #include "bridge/Locale.h"

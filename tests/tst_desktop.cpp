@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The desktop build on a message bus of its own, with a settings portal that behaves and others that do not.
+// The desktop build on a private message bus, with working and failing settings portals.
 
 #include "bridge/Locale.h"
 #include "host/TimeZone.h"
@@ -35,14 +35,14 @@ namespace {
 
 const QString afternoon = QString::fromUtf8("3:05\u202FPM");
 
-/** A message bus in a temporary directory, put into the environment as the session bus. */
+// A message bus in a temporary directory, put into the environment as the session bus.
 class Bus
 {
 public:
     Bus()
     {
         qputenv("DBUS_SESSION_BUS_ADDRESS", QFile::encodeName(address()));
-        // Nobody is started on it but what is put beside it.
+        // The bus can start only the services in this directory.
         QFile config(m_directory.filePath("conf"));
         m_isReady =
             config.open(QIODevice::WriteOnly) &&
@@ -70,7 +70,7 @@ public:
         m_daemon->stop();
         QFile::remove(m_directory.filePath("bus"));
     }
-    /** Has programs find it through the "runtime" directory, or behind an address of "another" kind. */
+    // Announces the bus through the "runtime" directory, or by an address of "another" kind.
     void hide(const QString& place) const
     {
         qputenv("XDG_RUNTIME_DIR", QFile::encodeName(m_directory.path()));
@@ -79,7 +79,7 @@ public:
                                                 : QFile::encodeName("tcp:host=localhost,port=1;" + address()));
     }
 
-    /** A program of the "new" or "old" kind is the portal, or the bus can start one: "starting", "activated". */
+    // Starts a portal of the "new" or "old" version, or lets the bus start one: "starting", "activated".
     bool startPortal(const QString& kind, const QString& value)
     {
         if (kind == QLatin1String("starting") || kind == QLatin1String("activated")) {
@@ -107,7 +107,7 @@ private:
     std::unique_ptr<Child> m_portal;
 };
 
-/** A bus that takes connections and never says a word. */
+// A bus that accepts connections and never answers.
 class SilentBus
 {
 public:
@@ -140,7 +140,7 @@ QStringList fallback(const QString& fault)
             .arg(fault)};
 }
 
-/** Makes a clock and says for how many milliseconds the caller had to wait for it. */
+// Creates a clock and returns how many milliseconds that took.
 qint64 makeClock(std::unique_ptr<zel::host::Setting>& clock)
 {
     QElapsedTimer timer;
@@ -228,7 +228,7 @@ private Q_SLOTS:
 
     void watchFollows_data()
     {
-        // What happens, and the clock that a program without D-Bus types of its own shows then.
+        // The event, and the clock that a program then shows.
         const NamedRow<QString> row;
         row("changes", "portal new 24h|watch=24|set 12h=12|set 24h=24|set 12h=12");
         row("the portal starts again", "portal new 12h|watch=12|stop portal=24|portal new 12h=12|set 24h=24");
@@ -284,7 +284,7 @@ private Q_SLOTS:
             if (!clock.isEmpty()) {
                 const QString expected = clock == QLatin1String("12") ? afternoon : QStringLiteral("15:05");
                 const QString line = watch->line();
-                // On a busy machine the first answer may be a late one.
+                // On a busy machine the first answer may be late.
                 QCOMPARE(action == QLatin1String("watch") && line != expected ? watch->line() : line, expected);
             }
         }
@@ -312,7 +312,7 @@ private Q_SLOTS:
         bus.portal().feed("12h\n");
         QVERIFY(thread->wait()); // without an event loop here
         QCOMPARE(text, afternoon);
-        // A thread that cannot reach the bus takes nothing away.
+        // A thread that cannot reach the bus does not remove the value.
         qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere/bus");
         std::thread([] {
             const CustomDateFormatter formatter(QStringLiteral("hm"));
@@ -329,7 +329,7 @@ private Q_SLOTS:
         const QString link = etc.filePath("localtime");
         QVERIFY(QFile::link(QStringLiteral("/usr/share/zoneinfo/Asia/Tokyo"), link));
         qunsetenv("TZ");
-        // With this directory in the place of /etc, in a mount namespace of its own.
+        // In a private mount namespace with this directory as /etc.
         const QString script = QStringLiteral("mount --bind %1 /etc && exec %2 watch hmz 2012-05-16T14:30Z");
         Child watch(QStringLiteral("unshare"), {QStringLiteral("-rm"), QStringLiteral("sh"), QStringLiteral("-c"),
                                                 script.arg(etc.path(), QStringLiteral(ZEL_TOOL))});

@@ -8,13 +8,13 @@
 
 namespace {
 
-// A space that does not break looks like any other here.
+// Replaces no-break spaces by ordinary ones.
 QString withPlainSpaces(QString output)
 {
     return output.replace(QChar(0xa0), QLatin1Char(' ')).replace(QChar(0x202f), QLatin1Char(' '));
 }
 
-/** An example at work, where it wants at a time of our choice. */
+// A running example, at a chosen time if it needs one.
 class Example : public Child
 {
 public:
@@ -23,7 +23,7 @@ public:
     {
     }
 
-    /** So many lines, sorted. */
+    // The next lines, sorted.
     QString lines(int count)
     {
         QStringList lines;
@@ -34,7 +34,7 @@ public:
         return lines.join(QLatin1Char('|'));
     }
 
-    /** All lines of an example that ends by itself, and well. */
+    // All lines of an example that ends by itself, with status 0.
     QStringList allLines()
     {
         const Result result = finish();
@@ -57,7 +57,7 @@ private:
 
 } // namespace
 
-/** The examples print what they promise, on a British device with a 24-hour clock. */
+// The output of the examples on a British device with a 24-hour clock.
 class tst_Examples : public QObject
 {
     Q_OBJECT

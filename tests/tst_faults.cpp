@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
 // SPDX-License-Identifier: Apache-2.0
 
-// What happens to a device while the library runs on it: the library says what is wrong, and goes on.
+// Failures of a device while the library runs: the library reports them and continues.
 
 #include "settings/PpsManager.h"
 #include "support/Child.h"
@@ -36,7 +36,7 @@
 
 using namespace zel::utility::i18n;
 
-// Something that is done to the settings, or to a directory with ICU data.
+// A change of the settings or of a directory with ICU data.
 using Fault = void (*)(const SettingsRoot& root);
 using Damage = void (*)(const QString& file);
 Q_DECLARE_METATYPE(Fault)
@@ -52,7 +52,7 @@ std::atomic<int> looksToTear{0}; // at the region, of which the last finds it to
 constexpr std::size_t longestStep = 1024;
 std::atomic<int> stepsToLive{-1}; // in a process that writes and is to be killed
 
-// The C library's names of these where files and times need more than 32 bits.
+// The C library's names of these functions for 64-bit files and times.
 #if _TIME_BITS == 64 && __TIMESIZE == 32
 #define LARGE(name) "__" name "64_time64"
 #else
@@ -82,7 +82,7 @@ void takeStep()
 
 } // namespace
 
-// The limits of inotify are those of a user and not of a process: they are reached here, between Qt and the system.
+// The limits of inotify hold per user, not per process; these replacements simulate reaching them.
 extern "C" Q_DECL_EXPORT int inotify_init1(int flags) noexcept
 {
     static const auto init = systemFunction<int (*)(int)>("inotify_init1");
@@ -97,7 +97,7 @@ extern "C" Q_DECL_EXPORT int inotify_add_watch(int fd, const char* name, uint32_
     return noWatches ? -1 : add(fd, name, mask);
 }
 
-// Its mangled name, under which the library calls it.
+// The mangled name, by which the library calls it.
 using Connect = QMetaObject::Connection (*)(const QObject*, const char*, const QObject*, const char*,
                                             Qt::ConnectionType);
 constexpr const char connectName[] = "_ZN7QObject7connectEPKS_PKcS1_S3_N2Qt14ConnectionTypeE";
@@ -111,7 +111,7 @@ QMetaObject::Connection tryToConnect(const QObject* sender, const char* signal, 
     return noConnections ? QMetaObject::Connection() : connectAll(sender, signal, receiver, member, type);
 }
 
-// A file system whose times have no fractions of a second.
+// Simulates a file system with whole seconds.
 extern "C" Q_DECL_EXPORT int stat(const char* file, struct stat* status) noexcept
 {
     static const auto look = systemFunction<int (*)(const char*, struct stat*)>(LARGE("stat"));
@@ -131,7 +131,7 @@ extern "C" Q_DECL_EXPORT int fstat(int fd, struct stat* status) noexcept
     return result;
 }
 
-// A writer is killed in the middle of its writing, before it syncs, and before the rename that shows the new object.
+// A writer is killed while it writes, before it syncs, and before the rename that publishes the new object.
 extern "C" Q_DECL_EXPORT ssize_t write(int fd, const void* buf, size_t n)
 {
     static const auto writeAll = systemFunction<ssize_t (*)(int, const void*, size_t)>("write");
@@ -170,7 +170,7 @@ void replaceByFile(const QString& directory)
     QVERIFY(QFile(directory).open(QIODevice::WriteOnly));
 }
 
-// Nothing is denied to root, so root becomes nobody.
+// Root may do everything, so root becomes nobody.
 void becomeNobody()
 {
     if (::geteuid() == 0 && ::setresuid(nobody, nobody, 0) != 0) {
@@ -201,7 +201,7 @@ void mend(const SettingsRoot& root)
     root.setClock("24");
 }
 
-/** What the two classes show, and what was said meanwhile, for a device in Germany. */
+// The texts of both classes for a device in Germany, and the messages.
 int showDates()
 {
     const SettingsRoot root;
@@ -218,7 +218,7 @@ int showDates()
     return 0;
 }
 
-/** The same in a process with an environment variable set: what it writes, and on the standard error stream. */
+// The same in a process with an environment variable set: its standard output and error.
 Child::Result run(const char* variable, const QString& value, const QString& mode = QStringLiteral("--show-dates"))
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -247,7 +247,7 @@ QStringList withoutPhrases()
     return lines << QString();
 }
 
-/** Changes a bundle that is a link, and leaves what it links to alone. */
+// Replaces a bundle that is a link by a changed copy.
 void change(const QString& file, QByteArray (*changed)(const QByteArray& contents))
 {
     QFile old(file);
@@ -269,7 +269,7 @@ QByteArray zeroed(const QByteArray& contents)
     return {contents.size(), '\0'};
 }
 
-/** A generation of the object: larger than what is written at once, and with its number at both ends. */
+// A version of the object: larger than one write, with its number at both ends.
 QByteArray generation(int number)
 {
     return "@settings\nfirst:n:" + QByteArray::number(number) + "\nmiddle::" + QByteArray(6000, 'x') +
@@ -285,7 +285,7 @@ QByteArray generation(int number)
     }
 }
 
-/** Reads the object again and again, also when it is told to, and remembers what it saw. */
+// Reads the object repeatedly and on notification, and records the results.
 struct Reader
 {
     Reader()
@@ -314,7 +314,7 @@ struct Reader
     int announced = 0;
 };
 
-/** Lets a process write until it is killed after so many steps; the signal that ended it. */
+// Lets a process write until it is killed after a number of steps. Returns the signal that ended it.
 int killWriter(int number, int steps, Reader& reader)
 {
     const pid_t writer = ::fork();
@@ -331,7 +331,7 @@ int killWriter(int number, int steps, Reader& reader)
     return WTERMSIG(status);
 }
 
-// All writers inherit one state of Qt's random numbers, and so the names of their unfinished files.
+// All writers inherit the same random state from Qt, and with it the names of their unfinished files.
 void removeUnfinished(const SettingsRoot& root)
 {
     QDir directory = QFileInfo(root.file(path)).dir();
@@ -340,7 +340,7 @@ void removeUnfinished(const SettingsRoot& root)
     }
 }
 
-/** An installed tree with a copy of the library and links to its data. */
+// An installed tree with a copy of the library and links to its data.
 bool install(const QString& tree)
 {
     const QDir original(QFile::decodeName(zel::icudata::dataDirectory()));
@@ -368,7 +368,7 @@ bool becomes(const PpsManager& manager, int value)
 
 constexpr int notPossible = 77;
 
-/** Mounts another file system over the settings while they are followed, where nobody else sees it. */
+// Mounts another file system over the settings while they are followed, in a private mount namespace.
 int followMount()
 {
     if (::unshare(CLONE_NEWNS) != 0 || ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0) {
@@ -393,7 +393,7 @@ class FaultsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    // The first: the process has one instance of inotify for good.
+    // First, as the process keeps its instance of inotify.
 
     void followsWithoutInotify_data()
     {
@@ -418,7 +418,7 @@ private Q_SLOTS:
         noWatches = false;
         QCOMPARE(log.take(), QStringList());
 
-        // As soon as there are watches, changes are noticed at once again.
+        // With watches, changes are noticed at once again.
         QTest::qWait(1100);
         QElapsedTimer latency;
         latency.start();
@@ -505,7 +505,7 @@ private Q_SLOTS:
         QVERIFY(heard);
     }
 
-    // The object is torn between the reading that is announced and the answer to that, and is then what it was.
+    // The object is torn between the announced read and the slot, and then restored.
     void tellsWhatWasTornMeanwhile()
     {
         const QString region = QStringLiteral("/pps/system/locale");
@@ -632,7 +632,7 @@ private Q_SLOTS:
         QCOMPARE(beside.errors, errors);
         QCOMPARE(beside.output.split(QLatin1Char('\n')), problem.isEmpty() ? withPhrases() : withoutPhrases());
 
-        // Bundles are looked at before their first use, and not at every start.
+        // Bundles are checked before their first use, not at every start.
         if (file.endsWith(QLatin1String(".res"))) {
             QCOMPARE(run("LD_LIBRARY_PATH", tree.filePath("lib"), QStringLiteral("--load")).errors, QString());
             QCOMPARE(run("LD_LIBRARY_PATH", tree.filePath("lib"), QStringLiteral("--percent")).errors, errors);
@@ -641,7 +641,7 @@ private Q_SLOTS:
         const Child::Result named = run("ICU_DATA", data);
         QCOMPARE(named.status, 0);
         QCOMPARE(named.output, beside.output);
-        // Whoever names a directory without our list means another kind of data, and hears nothing.
+        // A directory without bundles.list is used without a check or a message.
         const QString list = data + QLatin1Char('/') + current + QStringLiteral("/bundles.list");
         QCOMPARE(named.errors, QFile::exists(list) ? errors : QString());
     }

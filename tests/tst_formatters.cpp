@@ -27,7 +27,7 @@ QDateTime at(const char* iso)
     return QDateTime::fromString(QString::fromLatin1(iso), Qt::ISODateWithMs);
 }
 
-/** The class's own methods as "kind access signature return-type". */
+// The methods declared by the class, as "kind access signature return-type".
 QStringList methodsOf(const QMetaObject& meta)
 {
     static const char* const kinds[] = {"method", "signal", "slot"};
@@ -141,7 +141,7 @@ private Q_SLOTS:
     void zonesShowTheInstant_data()
     {
         const NamedRow<QByteArray, QString, QString> row;
-        // The hour before and the hour after summer time began in Europe.
+        // The hours before and after summer time began in Europe.
         row("Berlin", "Europe/Berlin", "01:30 ", "03:30 ");
         row("New York", "America/New_York", "20:30 ", "21:30 ");
         row("Kathmandu", "Asia/Kathmandu", "06:15 ", "07:15 ");

@@ -33,11 +33,11 @@
 
 using namespace zel::icudata;
 
-// What is done to the data that a generator has made.
+// A change of generated data.
 using Damage = void (*)(const QDir& bundles);
 Q_DECLARE_METATYPE(Damage)
 
-// In a process with raised privileges, which a test cannot have, this function finds nothing.
+// Simulates a process with raised privileges, in which this function returns null.
 extern "C" Q_DECL_EXPORT char* secure_getenv(const char* name) noexcept
 {
     return std::getenv("ZEL_TEST_RAISED") != nullptr ? nullptr : std::getenv(name);
@@ -45,10 +45,10 @@ extern "C" Q_DECL_EXPORT char* secure_getenv(const char* name) noexcept
 
 namespace {
 
-/** Lengths, attributes and shared texts of a bundle: the words of its index that a copy leaves alone. */
+// The words of a bundle's index that a copy keeps: lengths, attributes and shared texts.
 constexpr std::array<int, 5> keptIndexWords{1, 2, 6, 7, 8};
 
-/** Leaves ICU with the data it was built with for a while; nothing but udata_open() may be used meanwhile. */
+// While it exists, ICU uses its built-in data; call only udata_open() then.
 class StockData
 {
 public:
@@ -66,7 +66,7 @@ QByteArray bytesOf(const Item* items, std::size_t count)
     return {reinterpret_cast<const char*>(items), static_cast<int>(count * sizeof(Item))};
 }
 
-/** All that a compiled bundle holds, by path; a reader of its own, for bundles that are known to be sound. */
+// The contents of a compiled bundle by path. An independent reader, for sound bundles only.
 class Dump
 {
 public:
@@ -222,7 +222,7 @@ QByteArray utf8(const icu::UnicodeString& text)
     return QByteArray::fromStdString(text.toUTF8String(bytes));
 }
 
-/** What ICU makes of the data that the copies add to: dates in three calendars, the week, and where they came from. */
+// ICU's results from the data beside the additions: dates in three calendars, the week, and the source locale.
 QByteArray describe(const char* name)
 {
     QByteArray text(name);
@@ -244,7 +244,7 @@ QByteArray describe(const char* name)
     return text;
 }
 
-/** This program in another mode, with ICU_DATA as given; its lines. */
+// Runs this program in another mode with the given ICU_DATA. Returns its lines.
 QList<QByteArray> runSelf(const QString& mode, const QString& icuData, bool raised = false)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -267,7 +267,7 @@ int printDescriptions()
     return 0;
 }
 
-/** Why there are no phrases for German. */
+// The reason why there are no phrases for German.
 int printProblem()
 {
     StockBundles bundles;
@@ -318,7 +318,7 @@ private Q_SLOTS:
         }
     }
 
-    // A locale that had no calendar of its own has one now: ICU must still find its parent's formats through it.
+    // A locale without calendar data now has some: ICU must still find its parent's formats through it.
     void icuSeesNoDifference()
     {
         const QTemporaryDir empty;
@@ -332,7 +332,7 @@ private Q_SLOTS:
 
     void aliasesAreFollowed_data() { addLocales(); }
 
-    // The wide phrases meet no alias, the narrow ones do: where a locale has none, they are its short ones.
+    // Wide phrases have no alias; narrow ones are an alias of the short ones where a locale has none.
     void aliasesAreFollowed()
     {
         QFETCH(const QByteArray, locale);
@@ -459,7 +459,7 @@ private Q_SLOTS:
         QCOMPARE(QByteArray::fromStdString(error), expected);
     }
 
-    // Loads a copy of the library from an installed tree of its own.
+    // Loads a copy of the library from a separate installed tree.
     void namedDirectoryIsKept()
     {
         const QTemporaryDir tree;

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Failures that ICU reports for reasons of its own, call by call: the messages, the result, and nothing left behind.
+// Failures of each ICU call: the messages, the result, and no leak.
 
 #include "bridge/Locale.h"
 #include "patterns/DatePattern.h"
@@ -68,7 +68,7 @@ const Call minuteDifference = [] {
 };
 const Call custom = [] { return CustomDateFormatter("yMd", nullptr).format(moment); };
 
-/** What was valid before stays in use when the next skeleton cannot be had. */
+// The previous pattern stays in use if the next skeleton fails.
 QString customAgain()
 {
     CustomDateFormatter formatter(QStringLiteral("yMd"), nullptr);
@@ -76,7 +76,7 @@ QString customAgain()
     return formatter.format(moment);
 }
 
-/** Lets the message handler do something with the next message, and drops all others. */
+// Lets the message handler act on the next message, and drops all others.
 class Interruption
 {
 public:
@@ -101,7 +101,7 @@ private:
     QtMessageHandler m_previous;
 };
 
-/** The zone is read for the first time, and cannot be; the text is that of the skeleton at the call. */
+// The first read of the zone fails; the text has the skeleton of the time of the call.
 QString otherSkeletonDuringFormat()
 {
     CustomDateFormatter formatter(QStringLiteral("yMdz"));
@@ -113,7 +113,7 @@ QString otherSkeletonDuringFormat()
     return text + QLatin1Char('|') + formatter.format(moment);
 }
 
-/** The clock is none; the newer skeleton stays. */
+// The clock is invalid; the newer skeleton stays.
 QString otherSkeletonDuringUpdate()
 {
     CustomDateFormatter formatter(QStringLiteral("yMd"));
@@ -122,7 +122,7 @@ QString otherSkeletonDuringUpdate()
     return formatter.format(moment);
 }
 
-/** What the handler sets stays. */
+// Values that the handler sets stay.
 QString otherClockDuringUpdate()
 {
     RelativeDateFormatter formatter(RelativeDateFormat::TimeCritical);
@@ -148,7 +148,7 @@ QString otherTypeDuringFormat()
     return text + QLatin1Char('|') + during;
 }
 
-/** The moment in the middle cannot be written; those after it count from the new anchor. */
+// The moment in the middle cannot be formatted; those after it count from the new anchor.
 QString listWithChange(const std::function<void(RelativeDateFormatter&)>& change)
 {
     RelativeDateFormatter formatter(RelativeDateFormat::TimeCritical);
@@ -171,7 +171,7 @@ QString otherTypeDuringList()
     });
 }
 
-/** The messages of a call that failed: each line is given without the space at its end. */
+// The messages of a failed call, each line without its trailing space.
 QStringList lines(const char* text)
 {
     QStringList result;
@@ -203,7 +203,7 @@ private Q_SLOTS:
             QTest::newRow(name) << function << fates << call << result
                                 << (messages == nullptr ? QStringList() : lines(messages));
         };
-        // Without the keyword the locale serves all the same.
+        // Works without the keyword, too.
         row("keyword", IcuFaults::SetKeywordValue, {atOnce}, localeName, "de_AT",
             "warning: Error in calling icu::Locale::setKeywordValue( const char *, const char *, UErrorCode & ) : "
             "U_MEMORY_ALLOCATION_ERROR\n"
@@ -368,7 +368,7 @@ private Q_SLOTS:
         }
     }
 
-    /** While ICU fails, the texts and messages of a list are those of its moments one by one. */
+    // While ICU fails, a list has the texts and messages of its moments one by one.
     void listsFail()
     {
         QFETCH(IcuFaults::Function, function);
@@ -411,7 +411,7 @@ private Q_SLOTS:
         const auto [call, texts] = cells<Call, QString>();
         QVERIFY(m_settings.setClock("13"));
         MessageLog log;
-        // The clock is unknown from when it says so.
+        // The clock is unknown from this message on.
         QVERIFY(QTest::qWaitFor([&log] {
             ClockSetting::clockFormat();
             return !log.take().isEmpty();

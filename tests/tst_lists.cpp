@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Many moments in one call, and how long a text holds: both are held against format(), moment by moment.
+// Lists of moments, and how long a text is valid: both compared with format() for each moment.
 
 #include "relative/RelativeDate.h"
 #include "relative/RelativeDistance.h"
@@ -30,13 +30,13 @@ const char* const locales[] = {"en_US", "en_GB", "de_DE", "fr_FR",      "fr_CA",
                                "zh_CN", "zh_TW", "ar_EG", "fa_IR",      "he_IL", "hi_IN", "th_TH",
                                "mn_MN", "pl_PL", "ru_RU", "sr_Latn_RS", "pt_PT", "C"};
 
-/** Moments and anchors that are near each other more often than not, the same ones in every run. */
+// Moments and anchors, mostly close to each other, the same in every run.
 class Moments
 {
 public:
     QDateTime anchor()
     {
-        // Often an hour around a change of the clocks, a turn of the year, the change of calendars.
+        // Often within an hour of a clock change, a turn of the year, or the change of calendars.
         static const char* const edges[] = {"2012-03-25T01:00:00Z", "2012-10-28T01:00:00Z", "2012-03-11T07:00:00Z",
                                             "2012-04-01T15:00:00Z", "2012-12-31T23:00:00Z", "1582-10-15T00:00:00Z",
                                             "2012-09-03T10:30:00Z"};
@@ -101,7 +101,7 @@ private Q_SLOTS:
         QVERIFY(m_root.setTimeZone("America/New_York"));
     }
 
-    /** The arithmetic counts as ICU's calendars do. */
+    // The arithmetic agrees with ICU's calendars.
     void distances()
     {
         Moments moments;

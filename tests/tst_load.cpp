@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
 // SPDX-License-Identifier: Apache-2.0
 
-// A million texts, and no more memory than ten thousand take.
+// A million texts take no more memory than ten thousand.
 
 #include "support/MessageLog.h"
 #include "support/Rows.h"
@@ -21,7 +21,7 @@ namespace {
 
 const QDateTime anchor = QDateTime::fromString(QStringLiteral("2012-05-16T12:00Z"), Qt::ISODate);
 
-/** The resident size of this process in pages. */
+// The resident size of this process in pages.
 qint64 residentSize()
 {
     QFile sizes("/proc/self/statm");

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Patterns: ICU's in Qt syntax, and under the clock of the device. Expectations hold for ICU 72.
+// ICU's patterns in Qt syntax, and rewritten for the clock of the device. Expectations hold for ICU 72.
 
 #include "patterns/AmPmField.h"
 #include "patterns/ClockPattern.h"
@@ -106,7 +106,7 @@ private Q_SLOTS:
         row("zh_TW", DateFormat::Medium, false, "APh:mm:ss", "hh:mm:ss", false);
         row("ko_KR", DateFormat::Medium, false, "AP h:mm:ss", "hh:mm:ss", false);
         row("sq_AL", DateFormat::Medium, false, "h:mm:ss ap", "hh:mm:ss", true);
-        // With an era in its date the text is Qt's own, which knows no clock.
+        // With an era in its date the text is Qt's, which ignores the clock.
         const QByteArray thai = QLocale("th_TH").dateTimeFormat(QLocale::LongFormat).toUtf8();
         row("th_TH", DateFormat::Long, true, thai.constData(), thai.constData(), false);
         row("fr_CA", DateFormat::Medium, false, "h 'h' mm 'min' ss 's' ap", "hh 'h' mm 'min' ss 's'", false);

@@ -25,7 +25,7 @@ using zel::PpsOpenMode::Subscribe;
 using zel::system::LocaleHandler;
 using zel::system::LocaleType::Region;
 
-// Something that is done to the object under the settings root.
+// A change of the object below the settings root.
 using Action = void (*)(const SettingsRoot& root);
 Q_DECLARE_METATYPE(Action)
 
@@ -49,7 +49,7 @@ void removeDirectory(const SettingsRoot& root, const char* directory)
     QDir(root.file(QString::fromLatin1(directory))).removeRecursively();
 }
 
-/** An object that is there, open, and has nothing to say yet. */
+// An open object that exists and has not changed yet.
 struct Watched
 {
     Watched()
@@ -140,7 +140,7 @@ private Q_SLOTS:
         QCOMPARE(PpsObject::decode(encoded).first().toMap().first().userType(), held.userType());
     }
 
-    // What is not a text to be decoded is a record to be encoded.
+    // A text is decoded, a record encoded.
     void refuses_data()
     {
         const NamedRow<QVariant, QString> row;
@@ -215,7 +215,7 @@ private Q_SLOTS:
         QVERIFY(ok);
         QCOMPARE(QFileInfo(root.file(path)).dir().entryList(QDir::Files), {QStringLiteral("locale")});
 
-        // A directory cannot be made below a regular file.
+        // A directory cannot be created below a regular file.
         QVERIFY(root.remove(path));
         removeDirectory(root, "/pps/system");
         QVERIFY(root.write("/pps/system", "a file"));
@@ -323,7 +323,7 @@ private Q_SLOTS:
         QTest::qWait(longerThanQuiet);
         QCOMPARE(spy.count(), notifications);
 
-        // Whatever was done, it goes on.
+        // Notification continues after every change.
         removeDirectory(root, "/pps/system/locale");
         root.write(path, object("ja_JP"));
         QVERIFY(spy.wait());
@@ -340,7 +340,7 @@ private Q_SLOTS:
         Watched watched;
         QList<QByteArray> heard;
         connect(&watched.object, &PpsObject::readyRead, this, [&] { heard.append(watched.object.read()); });
-        // Another writer leaves the object empty for half of the time, for longer than a watcher waits for it to end.
+        // Another writer leaves the object empty half of the time, for longer than the watcher's timeout.
         constexpr int rewrites = 200;
         qint64 longestEmpty = 0; // longer than meant on a busy machine
         std::thread writer([&] {
@@ -377,7 +377,7 @@ private Q_SLOTS:
         Watched watched;
         QList<QByteArray> heard;
         connect(&watched.object, &PpsObject::readyRead, this, [&] {
-            // Another writer is at it again.
+            // Another writer rewrites it again.
             watched.root.rewrite(path, "@loc");
             heard.append(watched.object.read());
             heard.append(watched.object.read());
@@ -593,7 +593,7 @@ private Q_SLOTS:
         QVERIFY(root.write(path, object("de_DE") + QByteArray("x::" + QByteArray(100000, 'x') + '\n')));
         QTest::qSleep(30);
         region();
-        // The fastest of many rounds, since anything else may keep the machine busy.
+        // The fastest of many rounds, as the machine may be busy.
         const auto fastest = [](auto round) {
             qint64 best = std::numeric_limits<qint64>::max();
             for (int i = 0; i < 20; ++i) {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
 // SPDX-License-Identifier: Apache-2.0
 
-// A program that knows nothing of the library, has used ICU, and then loads a plug-in that needs the library.
+// A program without the library uses ICU and then loads a plug-in that needs the library.
 
 #include "support/MessageLog.h"
 #include "support/Rows.h"

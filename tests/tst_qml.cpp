@@ -7,7 +7,7 @@
 #include <QtQml/QQmlEngine>
 #include <QtQuickTest/QtQuickTest>
 
-/** The QML module, used from QML: tests/qml. They have a device and a clock of their own, in the object "device". */
+// Runs the QML tests in tests/qml with a private device and clock, the object "device".
 class Setup : public QObject
 {
     Q_OBJECT
@@ -17,7 +17,7 @@ public:
     Q_INVOKABLE bool setRegion(const QString& value) { return m_root.setRegion(value.toUtf8()); }
     Q_INVOKABLE bool setTimeZone(const QString& value) { return m_root.setTimeZone(value.toUtf8()); }
 
-    /** The program reads this time from its clock, and is told so if that is wanted. */
+    // Sets the time of the program's clock, and notifies the program if requested.
     Q_INVOKABLE void setTime(const QString& local, bool announced)
     {
         FakeClock::set(QDateTime::fromString(local, Qt::ISODateWithMs));

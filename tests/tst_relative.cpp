@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
 // SPDX-License-Identifier: Apache-2.0
 
-// How far moments lie apart, which range takes them, and what a relative pattern makes of them.
+// Distances between moments, their ranges, and the texts of relative patterns.
 
 #include "relative/DateOffsetRange.h"
 #include "relative/RelativeDate.h"
@@ -25,7 +25,7 @@ QDateTime at(const char* iso)
     return QDateTime::fromString(QString::fromLatin1(iso), Qt::ISODate);
 }
 
-/** ICU's default locale while it lives. */
+// Sets ICU's default locale while it exists.
 class DefaultLocale
 {
 public:
@@ -127,7 +127,7 @@ private Q_SLOTS:
         const QDateTime from = at(qPrintable(anchor));
         const QDateTime to = at(qPrintable(moment));
         const auto type = static_cast<RelativeDateElement::Type>(element);
-        // The Persian calendar turns the year in March, the Saudi one turns months with the moon.
+        // The Persian year begins in March; Saudi months follow the moon.
         for (const char* const locale : {"en_US", "fa_IR", "ar_SA"}) {
             const DefaultLocale process(locale);
             QCOMPARE(RelativeDate::offset(from, to, type), offset);

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Phrases from locale bundles, among them bundles that no sane locale would have.
+// Phrases from locale bundles, also from malformed ones.
 
 #include "bridge/Locale.h"
 #include "relative/RelativeDate.h"
@@ -42,7 +42,7 @@ QStringList exhausted(const QString& constructor, const QString& locale, const Q
             constructor + QStringLiteral("failed to open resource path: (%1) ").arg(keys)};
 }
 
-// "de" is the odd one, "de_AT" has a table of its own, "pl" and "ar" have what their plural rules ask for.
+// "de" is malformed, "de_AT" has its own table, "pl" and "ar" have the categories of their plural rules.
 constexpr const char* oddGerman = R"(de {
     t { one { "einmal" } other { "{0} mal {0}" } }
     numbers { 0 { "null" } 1 { "eins" } 5 { "fuenf" } }

@@ -30,7 +30,7 @@ constexpr const char* failedToDecode = "warning: void zel::utility::i18n::PpsMan
 
 const QString object = QString::fromLatin1(objectPath);
 
-/** A reader of the attribute "a" of the test object, and what it signalled. */
+// A reader of the attribute "a" of the test object, and its signals.
 struct Reader
 {
     Reader() : manager(objectPath, "@test", "a", nullptr), changes(&manager, SIGNAL(changed())) {}
@@ -148,7 +148,7 @@ private Q_SLOTS:
     void clockAnswersTwelveOrTwentyFour()
     {
         const auto [attribute, hours, known] = cells<QByteArray, int, bool>();
-        // Each row starts from another value than its own, so that a change is there to wait for.
+        // Each row starts from another value, so that there is a change to wait for.
         ClockSetting::clockFormat();
         ClockSetting setting(nullptr);
         QSignalSpy changes(&setting, SIGNAL(changed()));

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Whatever is done to the settings, readers of every kind end with the last value. ZEL_STRESS=1 does more of it.
+// After any change of the settings, readers of every kind have the last value. ZEL_STRESS=1 makes more changes.
 
 #include "bridge/Locale.h"
 #include "settings/ClockSetting.h"
@@ -26,7 +26,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/** A settings object and what is to be written there. */
+// A settings object and its next contents.
 struct Target
 {
     fs::path root;
@@ -65,7 +65,7 @@ void rewriteInPlace(const Target& target)
     write(target.file, target.contents);
 }
 
-/** Rename, rewrite, tear, unlink, put a fifo, set the time back, replace directory and root, swap a link. */
+// Rename, rewrite, tear, unlink, put a fifo, set the time back, replace directory and root, swap a link.
 constexpr void (*operations[])(const Target&) = {
     replaceByRename,
     rewriteInPlace,
@@ -117,7 +117,7 @@ void operate(const fs::path& root, int count)
     replaceByRename(regionTarget(root, "ja_JP"));
 }
 
-/** Asks on a thread of its own, with an event loop or without one, until it is told to end. */
+// Queries on a separate thread, with or without an event loop, until stopped.
 template <typename Ask>
 class Asker
 {
@@ -151,7 +151,7 @@ private:
     std::thread m_thread;
 };
 
-// Made on the asking thread; what they return answers whether the last value is there.
+// Created on the querying thread. The result tells whether the last value has arrived.
 
 auto makeQueries()
 {
@@ -197,7 +197,7 @@ private Q_SLOTS:
         const zel::system::LocaleHandler handler(zel::system::LocaleType::Region);
         connect(&handler, &zel::system::LocaleHandler::changed, this, [&] { told = handler.locale().name(); });
         QVERIFY(object.open(zel::PpsOpenMode::Subscribe));
-        // A reader that notices only the last value, which is the first one again, is told of no change.
+        // A reader that sees only the last value, which equals the first, receives no signal.
         read = object.read();
         told = handler.locale().name();
         QTRY_VERIFY(queries.isRight() && formatter.isRight());

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Every locale of ICU under both clocks: what must hold whatever the locale data says.
+// Every locale of ICU with both clocks: rules that hold for any locale data.
 
 #include "bridge/Locale.h"
 #include "bridge/String.h"
@@ -50,7 +50,7 @@ std::vector<icu::Locale> icuLocales()
 {
     int32_t count = 0;
     const icu::Locale* const all = icu::Locale::getAvailableLocales(count);
-    // Where everything is slow, or done for the second time, every seventh has to do.
+    // In slow builds, and in a second run, every seventh locale suffices.
     const int step = qEnvironmentVariableIsSet("ZEL_SWEEP_SAMPLE") ? 7 : 1;
     std::vector<icu::Locale> locales;
     for (int i = 0; i < count; i += step) {
@@ -84,7 +84,7 @@ bool showsAmPm(const QString& pattern)
     return withoutQuoted(pattern).contains(QLatin1String("ap"), Qt::CaseInsensitive);
 }
 
-/** Whether a letter stands outside quotes that is none of the fields that a pattern is translated to. */
+// Whether a letter outside quotes is not a field of Qt's syntax.
 bool hasStrayLetter(const QString& pattern)
 {
     static const QRegularExpression fields(QStringLiteral("d{1,4}|M{1,4}|yyyy|yy|h{1,2}|mm?|ss?|AP|ap|t"));
@@ -92,7 +92,7 @@ bool hasStrayLetter(const QString& pattern)
     return withoutQuoted(pattern).remove(fields).contains(letters);
 }
 
-/** The digits of a text, whatever script they are of. */
+// The digits of a text, in any script.
 QString digits(const QString& text)
 {
     QString found;
@@ -104,7 +104,7 @@ QString digits(const QString& text)
     return found;
 }
 
-/** Whether ICU writes AM/PM in front of the hour of a pattern, or 0 where it writes none. */
+// Whether ICU writes AM/PM before the hour of a pattern; 0 if it writes none.
 int sideOfAmPm(const QString& icuPattern)
 {
     static const QRegularExpression amPm(QStringLiteral("[abB]"));
@@ -114,7 +114,7 @@ int sideOfAmPm(const QString& icuPattern)
     return position == -1 ? 0 : position < fields.indexOf(hour) ? -1 : 1;
 }
 
-/** The pattern of a locale, and the sweep's moment written with it. */
+// The pattern of a locale, and the sweep's moment formatted with it.
 QString writtenBy(const icu::Locale& locale, icu::DateFormat::EStyle style)
 {
     const std::unique_ptr<icu::DateFormat> format(icu::DateFormat::createDateTimeInstance(style, style, locale));
@@ -133,7 +133,7 @@ class SweepTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    /** Every name that Qt and ICU take for the same locale has the digits, patterns and names of ICU's own. */
+    // A locale's names in Qt and ICU give the same digits, patterns and names.
     void asInICU()
     {
         for (const icu::Locale& own : icuLocales()) {
@@ -147,7 +147,7 @@ private Q_SLOTS:
             gregorian.setKeywordValue("calendar", "gregorian", status);
             icu::Locale withoutScript(own.getLanguage(), own.getCountry());
             withoutScript.setKeywordValue("calendar", "gregorian", status);
-            // Qt leaves likely scripts out. For a few locales, such as ff_Latn_GH, ICU then answers otherwise.
+            // Qt omits likely scripts. For a few locales, such as ff_Latn_GH, ICU then gives other results.
             const bool needsScript =
                 writtenBy(withoutScript, icu::DateFormat::kFull) != writtenBy(gregorian, icu::DateFormat::kFull);
             if (own.getCountry()[0] == '\0' || likely != qtLikely || needsScript) {
@@ -276,7 +276,7 @@ private:
     void checkPattern(const QLocale& locale, const QString& pattern, const QString& qtPattern, bool hasTime)
     {
         check(!locale.toString(moment, pattern).isEmpty(), locale, QStringLiteral("no text"));
-        // Where ICU's pattern has a field that Qt lacks, Qt's own pattern answers, and it knows of no clock.
+        // If ICU's pattern has a field that Qt lacks, Qt's pattern is used, which ignores the clock.
         if (pattern == qtPattern) {
             return;
         }
@@ -287,7 +287,7 @@ private:
         }
     }
 
-    /** AM/PM is where ICU writes it itself, and comes between nothing that belongs together. */
+    // AM/PM is at ICU's position and splits nothing that belongs together.
     void checkAmPm(const QLocale& locale, const QString& pattern)
     {
         if (m_is24Hour) {
@@ -319,7 +319,7 @@ private:
         check(!pattern.contains(torn), locale, QStringLiteral("torn apart: ") + pattern);
     }
 
-    /** The names of days are those of ICU's own formatter, without the punctuation of a weekday. */
+    // The names of days are those of ICU's formatter, without the punctuation of a weekday.
     void checkNamedDays(const QLocale& locale, const RelativeDateFormatter& formatter)
     {
         UErrorCode status = U_ZERO_ERROR;
@@ -337,7 +337,7 @@ private:
         }
     }
 
-    /** The word for now is that of ICU's own formatter, unless that is the one of the root. */
+    // The word for now is that of ICU's formatter, unless that is the root's.
     void checkNow(const QLocale& locale, RelativeDateFormatter& formatter)
     {
         UErrorCode status = U_ZERO_ERROR;
@@ -354,7 +354,7 @@ private:
               now + QStringLiteral(" instead of ") + String::toQt(expected));
     }
 
-    /** The phrases are those of ICU's own formatter, and stand alone. */
+    // The phrases are those of ICU's formatter, without the rest of its text.
     void checkPhrases(const QLocale& locale, const RelativeDateFormatter& formatter)
     {
         UErrorCode status = U_ZERO_ERROR;
@@ -376,7 +376,7 @@ private:
         }
     }
 
-    /** What is written with a pattern of year, month and day is read again as the same date. */
+    // A date formatted with year, month and day is parsed as the same date.
     void checkRoundTrip(const QLocale& locale, const QString& pattern)
     {
         // Qt 5 reads ASCII digits only, and Qt 6 none beyond the BMP (Chakma, Adlam).
@@ -394,7 +394,7 @@ private:
             QStringLiteral("warning: zel::utility::i18n::Formatting::replaceWithSystemClockFormat() has encountered an "
                            "unsupported time format! ");
         for (const QString& message : messages) {
-            // A 12-hour pattern that has AM/PM where its language is not known to have it.
+            // A 12-hour pattern with AM/PM at an unexpected position for its language.
             if (!m_is24Hour || message != unsupported) {
                 m_failures.append(message);
             }

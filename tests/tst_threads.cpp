@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Formatters on several threads while the device changes, and what is left when a program ends.
+// Formatters on several threads while the device changes, and at the end of a program.
 
 #include "settings/ClockSetting.h"
 #include "settings/TimeZoneSetting.h"
@@ -30,13 +30,13 @@ namespace {
 
 const QDateTime anchor = QDateTime::fromString(QStringLiteral("2012-05-16T15:05Z"), Qt::ISODate);
 
-/** The formatters of one thread. */
+// The formatters of one thread.
 class Formatters
 {
 public:
     Formatters() { m_relative.setAnchorTime(anchor); }
 
-    /** What a thread shows of the device: its clock, its zone and its region. */
+    // The texts of a thread, which show the device's clock, zone and region.
     QStringList texts()
     {
         // The clock of relative dates is read when their patterns are built.
@@ -56,7 +56,7 @@ private:
 const QStringList finalTexts{QStringLiteral("15:05"), QStringLiteral("17. Mai 2012, 00:05 GMT+9"),
                              QStringLiteral("gestern, 15:05"), QStringLiteral("d. MMMM yyyy")};
 
-/** A thread that formats, with an event loop of its own, until it shows what the device says in the end or gives up. */
+// A thread with an event loop that formats until it shows the device's last settings or times out.
 class Worker
 {
 public:
@@ -65,7 +65,7 @@ public:
     Q_DISABLE_COPY_MOVE(Worker)
 
     bool isDone() const { return m_done; }
-    /** Valid when it is done. */
+    // Valid when it is done.
     QStringList texts() const { return m_texts; }
 
 private:
@@ -89,7 +89,7 @@ private:
     std::thread m_thread;
 };
 
-/** Changes what the device says, a thousand times, and leaves it in Germany. */
+// Changes the settings of the device a thousand times, the last time to those of Germany.
 void flip(const SettingsRoot& root, bool onlyClock, std::atomic<bool>& settled)
 {
     constexpr int flips = 1000;
@@ -106,7 +106,7 @@ void flip(const SettingsRoot& root, bool onlyClock, std::atomic<bool>& settled)
     settled = true;
 }
 
-// Programs that end in one way or another, each to be run in a process of its own.
+// Programs that end in different ways, each run in a separate process.
 
 std::optional<CustomDateFormatter> outlivingFormatter;
 
@@ -161,7 +161,7 @@ constexpr Program programs[] = {
          static const LastWords lastWords;
          formatSomething(CustomDateFormatter("hmz"));
      }},
-    // The thread that asked first is gone, and so is its event loop.
+    // The thread of the first query is gone, with its event loop.
     {"follows when the thread that asked first has ended",
      [](int argc, char** argv) {
          const QCoreApplication application(argc, argv);
@@ -178,7 +178,7 @@ constexpr Program programs[] = {
              qWarning("deaf");
          }
      }},
-    // What the first event loop was to do is lost, and the second is gone, too.
+    // The events of the first event loop are lost, and the second loop is gone, too.
     {"follows in the next application object",
      [](int argc, char** argv) {
          const SettingsRoot root;
@@ -196,7 +196,7 @@ constexpr Program programs[] = {
              }
          }
      }},
-    // The object is missing, of which the first to ask is told while another thread asks, too.
+    // The object is missing; the first query reports it while another thread queries, too.
     {"message handler waits for a thread that asks", [](int argc, char** argv) {
          const QCoreApplication application(argc, argv);
          const SettingsRoot root;

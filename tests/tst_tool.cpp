@@ -24,14 +24,14 @@ QStringList wordsOf(const char* line)
     return QString::fromUtf8(line).split(QLatin1Char('|'), Qt::SkipEmptyParts);
 }
 
-/** The program at work. */
+// A running program.
 class Running : public Child
 {
 public:
     explicit Running(const char* line) : Child(QStringLiteral(ZEL_TOOL), wordsOf(line)) {}
 };
 
-/** Runs the program; the words of the command line stand between bars. */
+// Runs the program; bars separate the words of the command line.
 Result run(const char* line, const QByteArray& input = {})
 {
     Running program(line);
@@ -56,7 +56,7 @@ const QString settings = QStringLiteral("/pps/system/settings");
 
 } // namespace
 
-/** The command line program as its users meet it: words in; text, errors and a status out. */
+// The command line program: arguments and input; output, errors and status.
 class ToolTest : public QObject
 {
     Q_OBJECT
@@ -247,7 +247,7 @@ private Q_SLOTS:
         row("LC_TIME=fr_CA LC_ALL= LANG=C.UTF-8", "fr_CA, from LC_TIME");
     }
 
-    /** Nothing is said about a character set, and the region stays that of the environment. */
+    // No message about a character set, and the region of the environment is kept.
     void environments()
     {
         const auto [region] = cells<QString>();
@@ -395,7 +395,7 @@ private Q_SLOTS:
         row("complains in the order of the lines",
             R"(printf '2012-05-16\nyesterday\n2012-05-17\n' | "$0" format yMMMd - --locale en_US 2>&1 | cut -c 1-27)",
             "May 16, 2012\nzel-i18n: line 2: 'yesterda\nMay 17, 2012\n");
-        // A terminal is made for standard error alone.
+        // Only standard error is a terminal.
         row("shows how far a file is read",
             R"(cd "$TMPDIR" && echo 0.5 >values && "$0" percent - --locale en_US <values 2>errors >texts
                script -qec "$0 percent - --locale en_US <values >texts" /dev/null | tr '\r\033' '<^'; cat errors texts)",
@@ -595,7 +595,7 @@ private Q_SLOTS:
         QCOMPARE(run("device|set|region=de_DE").status, 0);
         QCOMPARE(watch.line(second), QStringLiteral("16:30 MESZ"));
 
-        // Another attribute is not the clock, and what cannot be decoded changes nothing.
+        // Another attribute or a broken object does not change the clock.
         QVERIFY(root.write(settings, "@settings\nhourFormat:n:24\nvolume:n:1\n"));
         QVERIFY(root.rewrite(settings, "@settings\nhourFor"));
         QCOMPARE(watch.line(second), QString());
@@ -635,7 +635,7 @@ private Q_SLOTS:
     void throwAwayDeviceLeavesNothing()
     {
         const SettingsRoot root;
-        // The device of the user is not touched, and not asked.
+        // The user's device is neither changed nor read.
         QVERIFY(root.setClock("12"));
         QCOMPARE(run("device|set|region=fr_FR|--device|hour-format=24").status, 0);
         QCOMPARE(run("device").output, QStringLiteral("hour-format  12\ntime-zone    not set\nregion       not set\n"));
@@ -725,7 +725,7 @@ private Q_SLOTS:
     }
 
 private:
-    /** The throw-away devices that exist. */
+    // The existing throw-away devices.
     QStringList devices() const { return QDir(m_temporary.path()).entryList({QStringLiteral("zel-i18n-*")}); }
 
     QTemporaryDir m_temporary;

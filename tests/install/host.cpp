@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Unloads a plug-in that used the library, and asks Qt for a type that the plug-in left behind.
+// Unloads a plug-in that used the library, and asks Qt for a type that the plug-in registered.
 #include <QtCore/QLibrary>
 #include <QtCore/QMetaObject>
 #include <QtCore/QTextStream>

@@ -3,7 +3,7 @@
 
 #include <zel/utility/i18n/RelativeDateFormatter.h>
 
-/** The meta-object stands in the library, and whoever asked for it may keep it. */
+// The meta-object is in the library; callers may keep it.
 extern "C" Q_DECL_EXPORT const QMetaObject* metaObject()
 {
     return &zel::utility::i18n::RelativeDateFormatter::staticMetaObject;

@@ -9,11 +9,11 @@
 #include <QtCore/QProcess>
 #include <sys/types.h>
 
-/** A program that runs beside the test: it is fed and answers, line by line, until it ends or is killed. */
+/** A child program that reads and writes lines until it ends or is killed. */
 class Child
 {
 public:
-    /** The status is none where the program did not end by itself. */
+    /** No status if the program did not end by itself. */
     struct Result
     {
         int status = -1;
@@ -38,7 +38,7 @@ public:
         m_process.waitForBytesWritten();
     }
 
-    /** The next line; empty where none comes in time. */
+    /** The next line; empty after the timeout. */
     QString line(int time = 30000)
     {
         QElapsedTimer timer;
@@ -52,7 +52,7 @@ public:
     void signal(int number) { ::kill(static_cast<pid_t>(m_process.processId()), number); }
     QByteArray errors() { return m_process.readAllStandardError(); }
 
-    /** Ends its input and waits for it; what it has written since. */
+    /** Closes its input and waits for its end. Returns the remaining output. */
     Result finish()
     {
         m_process.closeWriteChannel();

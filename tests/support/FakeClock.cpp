@@ -19,7 +19,7 @@ int announcer = -1;
 
 } // namespace
 
-// Called by Qt, by the C++ library and by the module instead of those of the C library.
+// Replace the C library's functions for Qt, the C++ library and the module.
 extern "C" {
 int clock_gettime(clockid_t clock, timespec* time) noexcept
 {

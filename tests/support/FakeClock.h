@@ -6,12 +6,12 @@
 
 #include <QtCore/QDateTime>
 
-/** The clock of the system as this process sees it. The C library's functions are replaced in the program. */
+/** The system clock of this process. The program replaces the C library's functions. */
 namespace FakeClock {
 
 void set(const QDateTime& now);
 
-/** Has the kernel say that the clock was set or the machine woken up. */
+/** Simulates the kernel's notification that the clock was set or the machine woke up. */
 void announce();
 
 } // namespace FakeClock

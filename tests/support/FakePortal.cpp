@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
 // SPDX-License-Identifier: Apache-2.0
 
-// A settings portal for tests, in a process of its own: FakePortal new|old VALUE
+// A settings portal for tests, a separate program: FakePortal new|old VALUE
 
 #include <iostream>
 #include <memory>
@@ -15,7 +15,7 @@
 #include <string>
 #include <unistd.h>
 
-/** A portal of before version 2 of its interface: it answers "Read" only. */
+// A portal with version 1 of the interface: only "Read".
 class Portal : public QObject, protected QDBusContext
 {
     Q_OBJECT
@@ -64,7 +64,7 @@ private:
     QString m_value;
 };
 
-/** A portal of today. */
+// A portal with version 2 of the interface.
 class NewPortal : public Portal
 {
     Q_OBJECT
@@ -77,7 +77,7 @@ public Q_SLOTS:
     QDBusVariant ReadOne(const QString& group, const QString& key) { return answer(group, key); }
 };
 
-/** Runs as a portal until the standard input ends; each line of it is a new value. */
+// Runs as a portal until standard input ends; each line is a new value.
 int main(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);

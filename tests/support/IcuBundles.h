@@ -15,7 +15,7 @@
 class IcuBundles
 {
 public:
-    /** To be called before ICU opens any data. */
+    /** Call before ICU opens any data. */
     void use() const { u_setDataDirectory(QFile::encodeName(m_directory.path()).constData()); }
 
     QString path() const { return m_directory.path(); }

@@ -31,7 +31,7 @@
 
 namespace {
 
-/** A zone that cannot be cloned. */
+// A zone that cannot be cloned.
 class UniqueZone : public icu::SimpleTimeZone
 {
 public:

@@ -35,13 +35,13 @@ public:
         FunctionCount
     };
 
-    /** What a call does: works, fails after its work, returns a null pointer and no error, or fails at once. */
+    /** The effect of a call: success, failure after the work, null without an error, or failure at once. */
     static constexpr int Works = U_ZERO_ERROR;
     static constexpr int FailsLate = U_INTERNAL_PROGRAM_ERROR;
     static constexpr int ReturnsNull = -1;
     static constexpr int FailsAtOnce = U_MEMORY_ALLOCATION_ERROR;
 
-    /** The fate of the next calls of a function; later calls work. */
+    /** The effects of the next calls of a function; later calls succeed. */
     static void arm(Function function, const QList<int>& fates) { s_fates.at(function) = fates; }
     static bool allTaken(Function function) { return s_fates.at(function).isEmpty(); }
 
@@ -55,7 +55,7 @@ public:
     static auto call(Function function, UErrorCode& error, const Real& real)
     {
         const int fate = next(function);
-        // ICU does nothing for a status that is a failure already, except to delete what it was to adopt.
+        // With a failed status, ICU only deletes objects that it was to adopt.
         UErrorCode hidden = U_MEMORY_ALLOCATION_ERROR;
         if (fate > Works && fate != FailsLate) {
             error = static_cast<UErrorCode>(fate);

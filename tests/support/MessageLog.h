@@ -24,7 +24,7 @@ public:
     }
     Q_DISABLE_COPY_MOVE(MessageLog)
 
-    /** What was recorded since the last call. */
+    /** The messages since the last call. */
     QStringList take()
     {
         const QMutexLocker locker(&m_mutex);

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Loaded before ICU and Qt, which are other versions than a program was built with then.
+// Preloaded, so that a program sees other versions of ICU and Qt than it was built with.
 
 #include <algorithm>
 #include <iterator>

@@ -20,7 +20,7 @@ void addColumns()
     (QTest::addColumn<Columns>(*name++), ...);
 }
 
-/** The cells of the row that is tested. */
+/** The cells of the current row. */
 template <typename... Columns>
 std::tuple<Columns...> cells()
 {
@@ -41,7 +41,7 @@ public:
     }
 };
 
-/** As above, for rows that are named after what is in them. */
+/** As above, for rows named after their contents. */
 template <typename... Columns>
 class Row : private NamedRow<Columns...>
 {

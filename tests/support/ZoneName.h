@@ -8,7 +8,7 @@
 #include <QtCore/QDateTime>
 #include <unicode/smpdtfmt.h>
 
-/** How ICU names a zone at a moment, which differs from version to version. */
+/** ICU's name of a zone at a moment, which depends on the version. */
 inline QString zoneName(const QByteArray& zone, const QDateTime& moment, const icu::Locale& locale)
 {
     UErrorCode status = U_ZERO_ERROR;
