@@ -68,7 +68,7 @@ void Visibility::onWindowChanged()
 
 void Visibility::onWindowVisibleChanged()
 {
-    set(m_windowIsShown, isVisible(*m_window) && m_window->property("visibility").toInt() != minimized);
+    set(m_windowIsShown, !m_window || (isVisible(*m_window) && m_window->property("visibility").toInt() != minimized));
 }
 
 void Visibility::set(bool& shown, bool value)
@@ -80,12 +80,8 @@ void Visibility::set(bool& shown, bool value)
     }
 }
 
-// A window that is not shown yet, or that something else shows, is no reason to let texts grow old.
 void Visibility::followWindow(QObject* window)
 {
-    if (window == m_window) {
-        return;
-    }
     if (m_window) {
         m_window->disconnect(this);
     }
@@ -98,7 +94,7 @@ void Visibility::followWindow(QObject* window)
             }
         }
     }
-    set(m_windowIsShown, true);
+    onWindowVisibleChanged();
 }
 
 } // namespace zel::utility::i18n::qml

@@ -45,6 +45,20 @@ Item {
         }
     }
 
+    Component {
+        id: hiddenWindow
+
+        Window {
+        }
+    }
+
+    SignalSpy {
+        id: localeChanges
+
+        target: shown
+        signalName: "localeChanged"
+    }
+
     SignalSpy {
         id: changes
 
@@ -163,17 +177,49 @@ Item {
             tryCompare(shown, "text", "yesterday 22:26", 200);
         }
 
+        // Where the system reports no change of the clock.
+        function test_clockIsSetBack() {
+            device.setTime("2026-05-16T22:30:59.700", true);
+            shown.moment = time("2026-05-16T22:26:00");
+            wait(50);
+            compare(shown.text, "4 minutes ago");
+            device.setTime("2026-05-16T22:28:00", false);
+            tryCompare(shown, "text", "2 minutes ago", 1000);
+        }
+
         function test_settings() {
             device.setTime("2026-05-16T22:30:00", true);
             shown.moment = time("2026-05-15T20:00:00");
             compare(shown.text, "yesterday 20:00");
+            other.moment = shown.moment;
+            shown.active = false;
+            changes.clear();
+            localeChanges.clear();
             verify(device.setClock("12"));
+            tryVerify(() => plain(other.text) === "yesterday 8:00 pm", 200);
+            compare(changes.count, 0);
+            shown.active = undefined;
             tryVerify(() => plain(shown.text) === "yesterday 8:00 pm", 200);
+            compare(localeChanges.count, 0);
             verify(device.setRegion("de_DE"));
             tryVerify(() => plain(shown.text) === "gestern 8:00 PM", 200);
             compare(shown.locale.name, "de_DE");
+            compare(localeChanges.count, 1);
             verify(device.setClock("24") && device.setRegion("en_GB"));
             tryCompare(shown, "text", "yesterday 20:00", 200);
+        }
+
+        function test_otherWindow() {
+            const window = createTemporaryObject(hiddenWindow, root);
+            page.parent = window.contentItem;
+            compare(shown.active, false);
+            window.show();
+            tryCompare(shown, "active", true);
+            window.hide();
+            tryCompare(shown, "active", false);
+            window.destroy();
+            tryCompare(shown, "active", true);
+            page.parent = root;
         }
 
         function test_invisible_data() {
