@@ -26,7 +26,7 @@ bool CustomDate::isValid()
 void CustomDate::classBegin()
 {
     DateText::classBegin();
-    if (timekeeper() != nullptr && !connect(timekeeper(), SIGNAL(settingsChanged()), this, SIGNAL(validChanged()))) {
+    if (timekeeper() != nullptr && !connect(timekeeper(), SIGNAL(regionChanged()), this, SIGNAL(validChanged()))) {
         qmlWarning(this) << "cannot follow the region";
     }
 }

@@ -31,6 +31,10 @@ void DateText::setMoment(const QDateTime& moment)
 
 QString DateText::text()
 {
+    if (std::exchange(m_isOutdated, false)) {
+        m_isStale = true;
+        QMetaObject::invokeMethod(this, "textChanged", Qt::QueuedConnection); // for the other readers
+    }
     if (m_isStale && m_isComplete && m_timekeeper) {
         m_timekeeper->renewLater(this);
         m_timekeeper->renewWaiting();
@@ -87,6 +91,7 @@ QDateTime DateText::sourceMoment()
 void DateText::forgetSource()
 {
     ++m_revision;
+    m_isOutdated = !m_isStale;
     m_source.reset();
     m_sourceMoment = {};
 }
@@ -94,6 +99,7 @@ void DateText::forgetSource()
 void DateText::receive(const DatedText& text)
 {
     ++m_revision;
+    m_isOutdated = false;
     const bool isOtherText = std::exchange(m_text, text.text) != text.text;
     const bool isOtherTime = std::exchange(m_validUntil, text.validUntil) != text.validUntil;
     if (std::exchange(m_isStale, false)) {
@@ -118,7 +124,10 @@ void DateText::renew()
     ++m_revision;
     if (m_isComplete && m_timekeeper) {
         m_isStale = true;
-        m_timekeeper->renewLater(this);
+        m_isOutdated = false;
+        if (m_isActive) {
+            m_timekeeper->renewLater(this);
+        }
         onValidityChanged();
         Q_EMIT textChanged();
     }

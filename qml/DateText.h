@@ -32,7 +32,8 @@ class DateText : public QObject, public QQmlParserStatus
     Q_PROPERTY(QString text READ text NOTIFY textChanged FINAL)
     /**
      * Whether the text is renewed when time passes. Default: while the item around this element is visible and its
-     * window is neither hidden nor minimised. An inactive element costs nothing; it is renewed once it is active again.
+     * window is neither hidden nor minimised. Set it where the program renders a window that is never shown. An
+     * inactive element costs nothing; it is renewed once it is active again.
      */
     Q_PROPERTY(bool active READ isActive WRITE setActive RESET resetActive NOTIFY activeChanged FINAL)
 
@@ -93,7 +94,8 @@ private:
     qint64 m_validUntil = DatedText::never;
     quint32 m_revision = 0;
     bool m_isComplete = false;
-    bool m_isStale = true; // readers know, and have not asked since
+    bool m_isStale = true;     // readers know, and have not asked since
+    bool m_isOutdated = false; // by other settings while the element was inactive, and readers do not know
     bool m_isActive = true;
     std::optional<bool> m_requestedActive;
     Visibility* m_visibility = nullptr;

@@ -88,7 +88,7 @@ QDateTime RelativeDate::prepared(const QDateTime& moment) const
 void RelativeDate::classBegin()
 {
     DateText::classBegin();
-    if (timekeeper() != nullptr && !connect(timekeeper(), SIGNAL(settingsChanged()), this, SLOT(onSettingsChanged()))) {
+    if (timekeeper() != nullptr && !connect(timekeeper(), SIGNAL(regionChanged()), this, SLOT(onRegionChanged()))) {
         qmlWarning(this) << "cannot follow the region";
     }
 }
@@ -100,7 +100,7 @@ std::shared_ptr<TextSource> RelativeDate::createSource()
                                         static_cast<RelativeDateWording::Type>(m_wording)});
 }
 
-void RelativeDate::onSettingsChanged()
+void RelativeDate::onRegionChanged()
 {
     if (!m_locale) {
         Q_EMIT localeChanged();

@@ -100,7 +100,7 @@ protected:
     void onValidityChanged() override { Q_EMIT validUntilChanged(); }
 
 private Q_SLOTS:
-    void onSettingsChanged();
+    void onRegionChanged();
 
 private:
     template <typename Value>

@@ -57,6 +57,7 @@ void SystemClock::onReadable()
     [[maybe_unused]] const ssize_t size = ::read(m_timer, &expirations, sizeof(expirations)); // fails with ECANCELED
     if (!watch()) {
         m_notifier->setEnabled(false);
+        m_notifier.release()->deleteLater(); // it is the sender
     }
     Q_EMIT changed();
 }

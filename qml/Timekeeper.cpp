@@ -45,7 +45,8 @@ Timekeeper* Timekeeper::of(const QObject* object)
 Timekeeper::Timekeeper(QObject* parent)
     : QObject(parent),
       m_settings(RelativeDateFormat::TimeCritical),
-      m_clock(nullptr)
+      m_clock(nullptr),
+      m_lastTimeout(QDateTime::currentMSecsSinceEpoch())
 {
     m_timer.setSingleShot(true);
     m_timer.setTimerType(Qt::PreciseTimer);
@@ -73,6 +74,9 @@ void Timekeeper::renewWaiting()
 void Timekeeper::onTimeout()
 {
     const qint64 now = QDateTime::currentMSecsSinceEpoch();
+    if (now < std::exchange(m_lastTimeout, now)) {
+        m_transition = 0; // the clock was set back
+    }
     const bool isTransition = std::exchange(m_transition, later(m_transition, now)) <= now;
     m_next = DatedText::never;
     QList<DateText*> due;
@@ -91,15 +95,23 @@ void Timekeeper::onTimeout()
 
 void Timekeeper::onSettingsChanged()
 {
+    const QLocale before = regionLocale();
     m_settings.applyUserRegionLocale();
     m_relative.clear();
     m_custom.clear();
     m_transition = 0;
+    QList<DateText*> active;
     for (DateText* const element : std::as_const(m_elements)) {
         element->forgetSource();
+        if (element->isActive()) {
+            active.append(element);
+        }
     }
-    renew(m_elements.values());
+    renew(active);
     Q_EMIT settingsChanged();
+    if (regionLocale() != before) {
+        Q_EMIT regionChanged();
+    }
 }
 
 void Timekeeper::renewAll()

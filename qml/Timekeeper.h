@@ -49,6 +49,7 @@ public:
 
     /** The clock, the region or the time zone of the user is another one. The elements know already. */
     Q_SIGNAL void settingsChanged();
+    Q_SIGNAL void regionChanged();
 
 private Q_SLOTS:
     void onTimeout();
@@ -68,7 +69,8 @@ private:
     SourcePool<CustomDateSource> m_custom;
     QSet<DateText*> m_elements;
     QSet<DateText*> m_waiting;
-    qint64 m_transition = 0;          // of the time zone, the next one, in ms since the epoch
+    qint64 m_lastTimeout;             // in ms since the epoch, as all times here
+    qint64 m_transition = 0;          // of the time zone, the next one
     qint64 m_next = DatedText::never; // when the timer is to fire
 };
 
