@@ -39,7 +39,7 @@ public:
 private:
     static QDateTime startOfMinute(const QDateTime& time) { return time.addMSecs(-(time.toMSecsSinceEpoch() % 60000)); }
 
-    QDateTime m_opened = startOfMinute(QDateTime::currentDateTime());
+    QDateTime m_opened = startOfMinute(QDateTime::currentDateTimeUtc());
 };
 
 // Shows moments relative to now, and repaints when a visible text changes.
@@ -61,7 +61,7 @@ public:
     // Called for the rows that are shown.
     QString displayText(const QVariant& value, const QLocale& /*locale*/) const override
     {
-        const QDateTime moment = value.toDateTime();
+        const QDateTime moment = value.toDateTime().toLocalTime(); // of the time zone at present
         const QDateTime validUntil = m_formatter.validUntil(moment);
         if (validUntil.isValid()) {
             wakeUpIn(QDateTime::currentDateTime().msecsTo(validUntil));
