@@ -11,15 +11,15 @@ namespace zel::utility::i18n {
 
 namespace {
 
-namespace pps {
+namespace clockSetting::pps {
 constexpr const char* path = "/pps/system/settings";
 constexpr const char* map = "@settings";
 constexpr const char* key = "hourFormat";
-} // namespace pps
+} // namespace clockSetting::pps
 
-namespace mutex {
+namespace clockSetting::mutex {
 QRecursiveMutex getPpsManager;
-}
+} // namespace clockSetting::mutex
 
 } // namespace
 
@@ -50,7 +50,8 @@ ClockFormat::Type ClockSetting::clockFormat()
 
 PpsManager* ClockSetting::getPpsManager()
 {
-    return SharedReader<ClockSetting>::get(mutex::getPpsManager, pps::path, pps::map, pps::key,
+    return SharedReader<ClockSetting>::get(clockSetting::mutex::getPpsManager, clockSetting::pps::path,
+                                           clockSetting::pps::map, clockSetting::pps::key,
                                            PpsManager::HostSetting::Clock);
 }
 

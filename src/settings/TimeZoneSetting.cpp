@@ -10,15 +10,15 @@ namespace zel::utility::i18n {
 
 namespace {
 
-namespace pps {
+namespace timeZoneSetting::pps {
 constexpr const char* path = "/pps/services/confstr/_CS_TIMEZONE";
 constexpr const char* map = "@_CS_TIMEZONE";
 constexpr const char* key = "_CS_TIMEZONE";
-} // namespace pps
+} // namespace timeZoneSetting::pps
 
-namespace mutex {
+namespace timeZoneSetting::mutex {
 QRecursiveMutex getPpsManager;
-}
+} // namespace timeZoneSetting::mutex
 
 } // namespace
 
@@ -36,7 +36,8 @@ QString TimeZoneSetting::timeZone()
 
 PpsManager* TimeZoneSetting::getPpsManager()
 {
-    return SharedReader<TimeZoneSetting>::get(mutex::getPpsManager, pps::path, pps::map, pps::key,
+    return SharedReader<TimeZoneSetting>::get(timeZoneSetting::mutex::getPpsManager, timeZoneSetting::pps::path,
+                                              timeZoneSetting::pps::map, timeZoneSetting::pps::key,
                                               PpsManager::HostSetting::TimeZone);
 }
 
