@@ -34,7 +34,7 @@ bool hasControlCharacter(const QString& name)
 
 QString decodeName(const QByteArray& line, QString& name)
 {
-    const QString reason = decodeText(line, name);
+    QString reason = decodeText(line, name);
     if (!reason.isEmpty()) {
         return reason;
     }
@@ -110,7 +110,7 @@ QString decodeValue(const QString& encoding, const QString& text, QVariant& valu
 QString decodeAttribute(const QByteArray& line, QVariantMap& attributes)
 {
     QString text;
-    const QString reason = decodeText(line, text);
+    QString reason = decodeText(line, text);
     if (!reason.isEmpty()) {
         return reason;
     }
