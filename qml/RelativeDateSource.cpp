@@ -29,7 +29,7 @@ QList<DatedText> RelativeDateSource::texts(const QList<QDateTime>& moments, cons
 {
     const QDateTime anchorReading = reading(anchor);
     const qint64 offset = anchorReading.toMSecsSinceEpoch() - anchor.toMSecsSinceEpoch();
-    m_formatter.setAnchorTime(anchorReading);
+    setAnchor(anchorReading);
     const QStringList texts = m_formatter.formatAll(moments);
     QList<DatedText> result;
     result.reserve(moments.size());
@@ -42,8 +42,15 @@ QList<DatedText> RelativeDateSource::texts(const QList<QDateTime>& moments, cons
 
 QDateTime RelativeDateSource::validUntil(const QDateTime& moment, const QDateTime& anchor)
 {
-    m_formatter.setAnchorTime(anchor);
+    setAnchor(anchor);
     return m_formatter.validUntil(moment.toLocalTime());
+}
+
+// The formatter keeps an anchor of the same instant, though a reading in UTC and a local time show different hours.
+void RelativeDateSource::setAnchor(const QDateTime& anchor)
+{
+    m_formatter.setAnchorTime({});
+    m_formatter.setAnchorTime(anchor);
 }
 
 } // namespace zel::utility::i18n::qml

@@ -41,6 +41,8 @@ public:
     QDateTime validUntil(const QDateTime& moment, const QDateTime& anchor);
 
 private:
+    void setAnchor(const QDateTime& anchor);
+
     RelativeDateStyle m_style;
     RelativeDateFormatter m_formatter;
 };
