@@ -9,7 +9,7 @@
 #include "terminal/Console.h"
 #include "terminal/Table.h"
 #include "texts/Format.h"
-#include "texts/LocaleTitle.h"
+#include "texts/KnownLocale.h"
 #include "texts/Moment.h"
 #include "texts/MomentReader.h"
 #include <QtCore/QJsonArray>
@@ -42,7 +42,7 @@ void writeTable(const NamedLocale& locale, const QList<Line>& lines, Console& co
     for (const Line& line : lines) {
         table.add({line.format.kind(), line.format.length(), line.pattern, line.text});
     }
-    console.line(locale.name + QLatin1String("  ") + localeTitle(locale.name));
+    console.line(locale.name + QLatin1String("  ") + KnownLocale(locale.name).englishTitle());
     table.write(console);
 }
 

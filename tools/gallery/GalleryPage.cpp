@@ -3,7 +3,7 @@
 
 #include "gallery/GalleryPage.h"
 
-#include "texts/LocaleTitle.h"
+#include "texts/KnownLocale.h"
 #include <algorithm>
 #include <memory>
 #include <unicode/brkiter.h>
@@ -236,13 +236,11 @@ QByteArray table(const GalleryEntry& entry, const QStringList& clocks, const Hea
 
 QByteArray heading(const QString& name)
 {
-    const icu::Locale locale(name.toLatin1().constData());
-    icu::UnicodeString own;
-    locale.getDisplayName(locale, own);
-    const QString ownName(reinterpret_cast<const QChar*>(own.getBuffer()), own.length());
-    const QString english = localeTitle(name);
+    const KnownLocale locale(name);
+    const QString english = locale.englishTitle();
+    const QString own = locale.nativeTitle();
     return "<h2><a href=\"#" + escaped(name) + "\">" + escaped(name) + "</a> <span lang=en>" + escaped(english) +
-           "</span>" + (ownName == english ? QByteArray() : " <span>" + escaped(ownName) + "</span>") + "</h2>\n";
+           "</span>" + (own == english ? QByteArray() : " <span>" + escaped(own) + "</span>") + "</h2>\n";
 }
 
 } // namespace

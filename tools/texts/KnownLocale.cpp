@@ -3,7 +3,7 @@
 
 #include "texts/KnownLocale.h"
 
-#include "texts/LocaleTitle.h"
+#include <string>
 #include <unicode/errorcode.h>
 #include <unicode/locid.h>
 #include <unicode/resbund.h>
@@ -45,6 +45,19 @@ std::vector<Texts> phraseTables(const char* locale)
     return tables;
 }
 
+// The title of a locale in a language: "German (Germany)" in English.
+QString titleIn(const QString& name, const QString& language)
+{
+    if (name == QLatin1String("C")) {
+        return QStringLiteral("no locale, as in English");
+    }
+    icu::UnicodeString title;
+    icu::Locale::createCanonical(name.toLatin1().constData())
+        .getDisplayName(icu::Locale(language.toLatin1().constData()), title);
+    std::string text;
+    return QString::fromStdString(title.toUTF8String(text));
+}
+
 } // namespace
 
 QStringList KnownLocale::names()
@@ -64,12 +77,12 @@ QStringList KnownLocale::names()
 
 QString KnownLocale::englishTitle() const
 {
-    return localeTitle(m_name);
+    return titleIn(m_name, QStringLiteral("en"));
 }
 
 QString KnownLocale::nativeTitle() const
 {
-    return localeTitle(m_name, m_name);
+    return titleIn(m_name, m_name);
 }
 
 QString KnownLocale::script() const

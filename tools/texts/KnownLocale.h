@@ -19,6 +19,7 @@ public:
     explicit KnownLocale(const QString& name) : m_name(name) {}
 
     const QString& name() const { return m_name; }
+    /** The title in English, such as "German (Germany)". */
     QString englishTitle() const;
     /** The title in the language of the locale. */
     QString nativeTitle() const;
