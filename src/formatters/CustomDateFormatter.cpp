@@ -115,8 +115,17 @@ void CustomDateFormatterPrivate::installClockFormatIfNeeded(bool install) const
 
 void CustomDateFormatterPrivate::updateFormatter() const
 {
-    constexpr const char* signature = "void zel::utility::i18n::CustomDateFormatterPrivate::updateFormatter() const";
     const unsigned int update = ++updates;
+    auto created = createFormatter();
+    // An update that a message handler started during this one is newer.
+    if (created && update == updates) {
+        formatter = std::move(created);
+    }
+}
+
+std::unique_ptr<icu::SimpleDateFormat> CustomDateFormatterPrivate::createFormatter() const
+{
+    constexpr const char* signature = "void zel::utility::i18n::CustomDateFormatterPrivate::updateFormatter() const";
     const icu::Locale icuLocale = Locale::toICU(locale);
     icu::ErrorCode status;
     const std::unique_ptr<icu::DateTimePatternGenerator> generator(
@@ -125,7 +134,7 @@ void CustomDateFormatterPrivate::updateFormatter() const
         constexpr IcuCall call = {"icu::DateTimePatternGenerator::createInstance( const icu::Locale &, UErrorCode & )",
                                   IcuCall::Spaced};
         call.report(status, signature, "could not instantiate  the pattern generator");
-        return;
+        return nullptr;
     }
     // Before the clock is read, so that no change in between is missed.
     installClockFormatIfNeeded(true);
@@ -135,7 +144,7 @@ void CustomDateFormatterPrivate::updateFormatter() const
             "icu::DateTimePatternGenerator::getBestPattern( const icu::UnicodeString &, UErrorCode & )",
             IcuCall::Spaced};
         call.report(status, signature, "could not parse the skeleton");
-        return;
+        return nullptr;
     }
     auto created = std::make_unique<icu::SimpleDateFormat>(pattern, icuLocale, status);
     if (status.isFailure()) {
@@ -143,12 +152,9 @@ void CustomDateFormatterPrivate::updateFormatter() const
                                   "icu::Locale &, UErrorCode & )",
                                   IcuCall::Spaced};
         call.report(status, signature, "could not instantiate the date format");
-        return;
+        return nullptr;
     }
-    // An update that a message handler started during this one is newer.
-    if (update == updates) {
-        formatter = std::move(created);
-    }
+    return created;
 }
 
 void CustomDateFormatterPrivate::updateRegionLocale() const

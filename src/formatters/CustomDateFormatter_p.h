@@ -51,6 +51,10 @@ public:
 
 private Q_SLOTS:
     void onClockFormatChange();
+
+private:
+    /** A new ICU formatter; null on failure, with a message. */
+    std::unique_ptr<icu::SimpleDateFormat> createFormatter() const;
 };
 
 } // namespace zel::utility::i18n
