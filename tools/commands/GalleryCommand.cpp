@@ -85,6 +85,20 @@ void requireUsage(const Arguments& arguments)
     requireUsage(!arguments.has(QStringLiteral("device")), QStringLiteral("--device has no effect here"));
 }
 
+// The figures; before them, if no file is written, the different texts.
+void writeSummary(const Gallery& gallery, const GalleryComparison* comparison, const Arguments& arguments,
+                  Console& console)
+{
+    if (arguments.json()) {
+        console.json(GallerySummary::json(gallery, comparison));
+        return;
+    }
+    if (arguments.value(QStringLiteral("html")).isEmpty() && arguments.value(QStringLiteral("tsv")).isEmpty()) {
+        GallerySummary::writeDifferences(gallery, console);
+    }
+    GallerySummary::write(gallery, comparison, console);
+}
+
 // `gallery`: the patterns and texts of every locale on one page.
 class GalleryCommand : public Command
 {
@@ -151,14 +165,7 @@ ExitStatus GalleryCommand::run(const Arguments& arguments, Console& console) con
     if (!tsv.isEmpty()) {
         write(tsv, gallery.table());
     }
-    if (arguments.json()) {
-        console.json(GallerySummary::json(gallery, comparison.get()));
-        return Worked;
-    }
-    if (html.isEmpty() && tsv.isEmpty()) {
-        GallerySummary::writeDifferences(gallery, console);
-    }
-    GallerySummary::write(gallery, comparison.get(), console);
+    writeSummary(gallery, comparison.get(), arguments, console);
     return Worked;
 }
 

@@ -34,6 +34,57 @@ double number(const QString& word)
     return value;
 }
 
+double numberInLine(std::string_view line)
+{
+    return number(QString::fromUtf8(line.data(), static_cast<int>(line.size())));
+}
+
+// Formats values and writes their texts, with the options applied.
+class Percentages
+{
+public:
+    Percentages(const Arguments& arguments, Console& console)
+        : m_console(console),
+          m_json(arguments.json()),
+          m_fewest(arguments.number(QStringLiteral("min"), 0, mostDigits)),
+          m_most(arguments.number(QStringLiteral("max"), m_fewest, mostDigits)),
+          m_locale(arguments.locale())
+    {
+    }
+
+    QStringList format(const QList<double>& values) const
+    {
+        QStringList texts;
+        for (const double value : values) {
+            texts.append(zel::utility::i18n::toPercentageString(m_locale.locale, value, m_most, m_fewest));
+        }
+        return texts;
+    }
+
+    void write(double value, const QString& text) const
+    {
+        if (text.isNull()) {
+            throw Failure(QStringLiteral("no percentages for the locale ") + quoted(m_locale.name));
+        }
+        if (!m_json) {
+            m_console.line(text);
+            return;
+        }
+        // JSON has no infinities.
+        const QJsonValue number = std::isfinite(value) ? QJsonValue(value) : QJsonValue(QString::number(value));
+        m_console.json({{QStringLiteral("locale"), m_locale.name},
+                        {QStringLiteral("text"), text},
+                        {QStringLiteral("value"), number}});
+    }
+
+private:
+    Console& m_console;
+    bool m_json;
+    int m_fewest;
+    int m_most;
+    NamedLocale m_locale;
+};
+
 // `percent`: numbers as percentages.
 class PercentCommand : public Command
 {
@@ -76,35 +127,11 @@ ExitStatus PercentCommand::run(const Arguments& arguments, Console& console) con
     for (const QString& word : fromInput ? QStringList() : words) {
         values.append(number(word));
     }
-    const int fewest = arguments.number(QStringLiteral("min"), 0, mostDigits);
-    const int most = arguments.number(QStringLiteral("max"), fewest, mostDigits);
-    const NamedLocale locale = arguments.locale();
-    const auto format = [&](const QList<double>& list) {
-        QStringList texts;
-        for (const double value : list) {
-            texts.append(zel::utility::i18n::toPercentageString(locale.locale, value, most, fewest));
-        }
-        return texts;
-    };
-    const auto write = [&](double value, const QString& text) {
-        if (text.isNull()) {
-            throw Failure(QStringLiteral("no percentages for the locale ") + quoted(locale.name));
-        }
-        if (arguments.json()) {
-            // JSON has no infinities.
-            const QJsonValue number = std::isfinite(value) ? QJsonValue(value) : QJsonValue(QString::number(value));
-            console.json({{QStringLiteral("locale"), locale.name},
-                          {QStringLiteral("text"), text},
-                          {QStringLiteral("value"), number}});
-        } else {
-            console.line(text);
-        }
-    };
+    const Percentages percentages(arguments, console);
+    const auto format = [&](const QList<double>& list) { return percentages.format(list); };
+    const auto write = [&](double value, const QString& text) { percentages.write(value, text); };
     if (fromInput) {
-        const auto read = [](std::string_view line) {
-            return number(QString::fromUtf8(line.data(), static_cast<int>(line.size())));
-        };
-        return LineAnswers(console, arguments.json()).run(read, format, write);
+        return LineAnswers(console, arguments.json()).run(&numberInLine, format, write);
     }
     const QStringList texts = format(values);
     for (int i = 0; i < values.size(); ++i) {
