@@ -23,7 +23,7 @@ namespace zel::utility::i18n {
 namespace ClockFormat {
 Q_NAMESPACE_EXPORT(ZEL_UTILITY_I18N_EXPORT)
 
-/** The clock that a text shows. The device setting has only the last two values. */
+/** The clock of a text. The clock setting of a device is one of the last two. */
 enum Type : int {
     ApplyUserFormat = 1,   ///< the clock setting of the device; 12-hour where it is not set
     ApplyLocaleFormat = 2, ///< the clock customary in the locale

@@ -17,22 +17,22 @@ namespace zel::utility::i18n {
 class CustomDateFormatterPrivate;
 
 /**
- * Formats moments by an ICU skeleton, in the user's region locale, and follows the device settings.
+ * Formats moments by an ICU skeleton in the user's region locale, and follows the device settings.
  *
  * A skeleton names the fields to show, in any order and without punctuation: "yMMMd" is year, abbreviated month and
- * day; "hm" is hour and minute. The locale decides on their order and punctuation. The calendar is Gregorian; days
+ * day; "hm" is hour and minute. The locale determines their order and punctuation. The calendar is Gregorian; days
  * before 15 October 1582 are Julian. Three device settings matter:
  *
- * - Region: read by every format().
- * - Clock: in a skeleton with hours, "h" and "H" become the letter of the device's 12-hour or 24-hour clock. A change
- *   arrives through the event loop of the formatter's thread; without an event loop the formatter keeps its clock.
- * - Time zone: a skeleton with a zone ("z", "v", in either case) shows the moment in the time zone of the device, GMT
- *   where none is set. Other skeletons show the date and time that the QDateTime holds, without conversion.
+ * - Region: read by every call of format() and formatAll().
+ * - Clock: both "h" and "H" show the hour under the device's 12-hour or 24-hour clock. A change arrives through the
+ *   event loop of the formatter's thread; without an event loop the formatter keeps its clock.
+ * - Time zone: a skeleton with a zone ("z", "v", in either case) shows the moment in the time zone of the device
+ *   (default: GMT). Other skeletons show the date and time that the QDateTime holds, without conversion.
  *
  * Use a formatter only on the thread that created it; give each thread its own.
  *
- * A text follows the spelling rules for the middle of a sentence. Where it stands alone, for example in a list, some
- * languages expect a capital first letter, which the application adds: French "lundi 3 septembre 2012".
+ * A text is capitalized as in the middle of a sentence: French "lundi 3 septembre 2012". Where some languages expect a
+ * capital first letter, for example in a list, the application has to add it.
  *
  * @code
  * #include <zel/utility/i18n/CustomDateFormatter.h>
@@ -50,9 +50,9 @@ class ZEL_UTILITY_I18N_EXPORT CustomDateFormatter : public QObject
 
 public:
     /**
-     * Creates a formatter that belongs to the calling thread, any thread.
+     * Creates a formatter for the user's region locale. It belongs to the calling thread, which may be any thread.
      *
-     * If ICU cannot build a pattern from the skeleton, a message is written and isValid() is false.
+     * If ICU cannot build a pattern from the skeleton, a message is written and isValid() returns false.
      *
      * @param skeleton letters of an ICU date/time skeleton, for example "yMMMd"
      * @param parent the owner, or null
@@ -74,7 +74,7 @@ public:
     QString skeleton() const;
 
     /**
-     * Formats a moment in the user's region locale as it is now. Call on the formatter's thread.
+     * Formats a moment in the user's current region locale. Call on the formatter's thread.
      *
      * @param dateTime the moment; an invalid one is formatted as the start of 1970
      * @return the text; a null string, with a message, if the formatter is not valid or ICU cannot format the moment
@@ -82,10 +82,11 @@ public:
     Q_INVOKABLE QString format(const QDateTime& dateTime) const;
 
     /**
-     * Formats many moments: the texts and messages of one format() call each, in order, at a fraction of the cost.
+     * Formats many moments in the user's current region locale. The texts and messages are those of one format() call
+     * for each moment, in order, at a fraction of the cost.
      *
-     * Region, clock and time zone are read once. The call blocks and cannot be cancelled. It needs memory for the
-     * texts only, and nothing is kept afterwards. Call on the formatter's thread.
+     * Region, clock and time zone are read once. The call blocks and cannot be cancelled. It needs memory only
+     * for the texts, and keeps nothing afterwards. Call on the formatter's thread.
      *
      * @param dateTimes the moments, as for format()
      * @return one text for each moment; a null string where format() would return one
@@ -94,7 +95,8 @@ public:
 
 public Q_SLOTS:
     /**
-     * Sets the skeleton. Texts keep following the user's region locale. Call on the formatter's thread.
+     * Sets the skeleton; an equal one changes nothing. The locale remains the user's region locale. Call on the
+     * formatter's thread.
      *
      * If ICU cannot build a pattern, the skeleton is stored, a message is written, and the previous pattern stays in
      * use.

@@ -19,10 +19,10 @@ namespace zel::utility::i18n {
 namespace DateFormat {
 
 /**
- * Four lengths. Any other value means Medium, except that where Qt's own format is the fallback, it is Qt's long one.
+ * Four lengths. Any other value means Medium; where Qt's own format is the fallback, it means Qt's long format.
  */
 enum Type : int {
-    Short = 1,  ///< numbers only, where the locale has such a form: 9/3/12
+    Short = 1,  ///< numbers only, if the locale has such a form: 9/3/12
     Medium = 2, ///< abbreviated names: Sep 3, 2012
     Long = 3,   ///< full names: September 3, 2012
     Full = 4    ///< full names with the weekday: Monday, September 3, 2012

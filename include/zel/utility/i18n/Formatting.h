@@ -13,18 +13,19 @@
  * @file
  * The date and time patterns of a locale in Qt syntax, and percentages.
  *
- * A pattern is for QLocale::toString() and its relatives. It comes from ICU's data for the locale in the Gregorian
- * calendar. The **fallback** is QLocale's own format: where ICU's pattern has a field that Qt lacks (an era, for
- * example), Short and Medium return Qt's short format, other lengths Qt's long one. QLocale::c() counts as English.
+ * Patterns are meant for QLocale::toString() and similar functions. They come from ICU's data for the locale in the
+ * Gregorian calendar. The **fallback** is QLocale's own format: where ICU's pattern has a field that Qt lacks (an era,
+ * for example), Short and Medium return Qt's short format, other lengths Qt's long one. QLocale::c() means English.
  *
- * What may surprise:
+ * Limitations:
  *
  * - The fallback of a date-time does not follow the clock of the device: Thai in Long and Full, Lao in Full.
- * - Qt has no hour field from 0 to 11. Under a 12-hour clock, half past noon in Japanese is 午後12:30 with a Qt
- *   pattern, and 午後0:30 with CustomDateFormatter.
- * - Qt has one form of a weekday's name, ICU two. In Finnish and Inari Sami, Full shows the inflected one:
+ * - Qt has no hour field from 0 to 11. Under a 12-hour clock, 12:30 p.m. in Japanese is 午後12:30 with a Qt pattern,
+ *   and 午後0:30 with CustomDateFormatter.
+ * - Qt has one form of a weekday's name, ICU has two. In Finnish and Inari Sami, Full shows the inflected one:
  *   "maanantaina 3. syyskuuta 2012", where ICU has "maanantai".
- * - A text that stands alone, for example in a list, may need a capital first letter, which the application adds.
+ * - Texts are capitalized as in the middle of a sentence. Where a capital first letter is expected, for example in a
+ *   list, the application has to add it.
  *
  * @code
  * #include <QtCore/QDate>
@@ -40,7 +41,7 @@
 namespace zel::utility::i18n {
 
 /**
- * Returns the date pattern of a locale in Qt syntax. Call on any thread.
+ * Returns the date pattern of a locale in Qt syntax. Thread-safe.
  *
  * @param locale the locale of the pattern
  * @param type the length; an unknown value means Medium
@@ -50,7 +51,7 @@ namespace zel::utility::i18n {
 ZEL_UTILITY_I18N_EXPORT QString dateFormat(const QLocale& locale, DateFormat::Type type);
 
 /**
- * Returns the date pattern of the user's region locale as it is now, in Qt syntax. Call on any thread.
+ * Returns the date pattern of the user's current region locale in Qt syntax. Thread-safe.
  *
  * @param type the length; an unknown value means Medium
  * @return the pattern, never empty; the fallback where Qt cannot express ICU's pattern
@@ -58,67 +59,70 @@ ZEL_UTILITY_I18N_EXPORT QString dateFormat(const QLocale& locale, DateFormat::Ty
 ZEL_UTILITY_I18N_EXPORT QString dateFormat(DateFormat::Type type);
 
 /**
- * Returns the time pattern of a locale in Qt syntax, under the clock of the device as it is now. Call on any thread.
+ * Returns the time pattern of a locale in Qt syntax, for the current clock of the device. Thread-safe.
  *
- * The pattern has an AM/PM field ("AP", or "ap" where the locale writes it in lower case) exactly when the device has a
+ * The pattern has an AM/PM field ("AP", or "ap" if the locale writes it in lower case) exactly if the device has a
  * 12-hour clock, which is also the default where no clock is set.
  *
  * @param locale the locale of the pattern
  * @param type the length; an unknown value means Medium
- * @return the pattern, never empty, for example "hh:mm" or "h:mm AP" for English and Short; the fallback, under
- * whichever clock Qt has, where Qt cannot express ICU's pattern
+ * @return the pattern, never empty, for example "hh:mm" or "h:mm AP" for English and Short; the fallback, which
+ * ignores the clock of the device, where Qt cannot express ICU's pattern
  */
 ZEL_UTILITY_I18N_EXPORT QString timeFormat(const QLocale& locale, DateFormat::Type type);
 
 /**
- * Returns the time pattern of the user's region locale in Qt syntax, under the clock of the device, both as they are
- * now. Call on any thread.
+ * Returns the time pattern of the user's current region locale in Qt syntax, for the current clock of the device
+ * (default: 12-hour). Thread-safe.
  *
  * @param type the length; an unknown value means Medium
- * @return the pattern, never empty; the fallback, under whichever clock Qt has, where Qt cannot express ICU's pattern
+ * @return the pattern, never empty; the fallback, which ignores the clock of the device, where Qt cannot express
+ * ICU's pattern
  */
 ZEL_UTILITY_I18N_EXPORT QString timeFormat(DateFormat::Type type);
 
 /**
- * Returns the pattern of a locale for a date with a time, both of one length, in Qt syntax, under the clock of the
- * device as it is now. Call on any thread.
+ * Returns the pattern of a locale for a date with a time of the same length, in Qt syntax, for the current clock of the
+ * device (default: 12-hour). Thread-safe.
  *
  * @param locale the locale of the pattern
  * @param type the length; an unknown value means Medium
  * @return the pattern, never empty, for example "dd.MM.yy, hh:mm" for German, Short and a 24-hour clock; the fallback,
- * under whichever clock Qt has, where Qt cannot express ICU's pattern
+ * which ignores the clock of the device, where Qt cannot express ICU's pattern
  */
 ZEL_UTILITY_I18N_EXPORT QString dateTimeFormat(const QLocale& locale, DateFormat::Type type);
 
 /**
- * Returns the pattern of the user's region locale for a date with a time, in Qt syntax, under the clock of the device,
- * both as they are now. Call on any thread.
+ * Returns the pattern of the user's current region locale for a date with a time of the same length, in Qt syntax, for
+ * the current clock of the device (default: 12-hour). Thread-safe.
  *
  * @param type the length; an unknown value means Medium
- * @return the pattern, never empty; the fallback, under whichever clock Qt has, where Qt cannot express ICU's pattern
+ * @return the pattern, never empty; the fallback, which ignores the clock of the device, where Qt cannot express
+ * ICU's pattern
  */
 ZEL_UTILITY_I18N_EXPORT QString dateTimeFormat(DateFormat::Type type);
 
 /**
- * Formats a number as a percentage, in the digits and with the sign and grouping of a locale. Call on any thread.
+ * Formats a number as a percentage, with the digits, sign and grouping of a locale. Thread-safe.
  *
  * @param locale the locale of the text
- * @param value the number; 1.0 is 100 %. NaN and infinity are written as the locale writes them.
+ * @param value the number; 1.0 is 100 %. NaN and infinity are written as in the locale.
  * @param maximumFractionDigits maximum fraction digits, rounded half to even; negative: all
  * @param minimumFractionDigits minimum fraction digits; negative: none. The maximum wins where it is smaller.
- * @return the text, for example "25.6%" for 0.256 in English with 1 and 0 digits; a null string if ICU has no percent
- * format
+ * @return the text, for example "25.6%" for 0.256 in English with 1 and 0 digits; a null string, without a message,
+ * if ICU has no percent format
  */
 ZEL_UTILITY_I18N_EXPORT QString toPercentageString(const QLocale& locale, double value, int maximumFractionDigits,
                                                    int minimumFractionDigits);
 
 /**
- * Formats a number as a percentage in the user's region locale as it is now. Call on any thread.
+ * Formats a number as a percentage, with the digits, sign and grouping of the user's current region locale.
+ * Thread-safe.
  *
- * @param value the number; 1.0 is 100 %
- * @param maximumFractionDigits maximum fraction digits; negative: all
+ * @param value the number; 1.0 is 100 %. NaN and infinity are written as in the locale.
+ * @param maximumFractionDigits maximum fraction digits, rounded half to even; negative: all
  * @param minimumFractionDigits minimum fraction digits; negative: none. The maximum wins where it is smaller.
- * @return the text; a null string if ICU has no percent format
+ * @return the text; a null string, without a message, if ICU has no percent format
  */
 ZEL_UTILITY_I18N_EXPORT QString toPercentageString(double value, int maximumFractionDigits, int minimumFractionDigits);
 

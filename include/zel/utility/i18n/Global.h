@@ -19,8 +19,8 @@
 #endif
 
 /**
- * Marks what a later major version removes; the text names the replacement. Define
- * `ZEL_UTILITY_I18N_NO_DEPRECATED_WARNINGS` to silence the compiler about all of it.
+ * Marks a declaration that the next major version removes; the text names its replacement. Define
+ * `ZEL_UTILITY_I18N_NO_DEPRECATED_WARNINGS` to disable these warnings.
  */
 #ifdef ZEL_UTILITY_I18N_NO_DEPRECATED_WARNINGS
 #define ZEL_UTILITY_I18N_DEPRECATED(replacement)
@@ -29,8 +29,8 @@
 #endif
 
 /**
- * Opens a section of signals, each marked with `Q_SIGNAL`. They are protected in the meta-object, as only their owner
- * emits them, and public in C++, so that a type-safe `QObject::connect` can name them.
+ * Begins a section of signals, each marked with `Q_SIGNAL`. Signals are protected in the meta-object, because only
+ * their owner emits them, and public in C++, so that a type-safe `QObject::connect` can name them.
  */
 #ifdef Q_MOC_RUN
 #define ZEL_UTILITY_I18N_SIGNALS protected:

@@ -24,8 +24,8 @@ Q_NAMESPACE_EXPORT(ZEL_UTILITY_I18N_EXPORT)
 
 /** The two formatting tables of RelativeDateFormatter. */
 enum Type : int {
-    TimeCritical = 1,   ///< down to minutes, days with the time of day: messages, calls
-    NonTimeCritical = 2 ///< days and coarser, without a time of day: files, notes
+    TimeCritical = 1,   ///< down to minutes, days with a time of day: for messages, calls
+    NonTimeCritical = 2 ///< days and coarser, without a time of day: for files, notes
 };
 Q_ENUM_NS(Type)
 

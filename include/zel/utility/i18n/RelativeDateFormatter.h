@@ -24,7 +24,7 @@ class RelativeDateFormatterPrivate;
  * Formats a moment relative to an anchor time: "5 minutes ago", "yesterday 10:30", "Sat 10:30", "Aug 28",
  * "November 2011".
  *
- * The table is chosen by the calendar distance between moment and anchor:
+ * The calendar distance between moment and anchor selects the format:
  *
  * | distance                     | TimeCritical        | NonTimeCritical |
  * | ---------------------------- | ------------------- | --------------- |
@@ -33,17 +33,17 @@ class RelativeDateFormatterPrivate;
  * | two or three calendar days   | Sat 10:30           | Saturday        |
  * | the day before or after      | yesterday 10:30     | yesterday       |
  * | an hour or more, same day    | 3 hours ago         | today           |
- * | less                         | 5 minutes ago       | today           |
+ * | less than an hour, same day  | 5 minutes ago       | today           |
  *
  * - The anchor is the time of construction until it is set. It does not advance by itself; see validUntil().
- * - Moment and anchor count by the date and time that each QDateTime shows, whatever its time zone. Convert both to one
- *   zone first: with an anchor of 10:30 UTC, 12:30 in Berlin is the same instant but reads "in 2 hours".
- * - With RelativeDateWording::Exact, the default, another calendar year comes first: on 1 January, two minutes ago may
+ * - Moment and anchor are compared by the date and time that each QDateTime shows, regardless of its time zone. Convert
+ *   both to one zone first: with an anchor of 10:30 UTC, 12:30 in Berlin is the same instant but reads "in 2 hours".
+ * - With RelativeDateWording::Exact, the default, the first row takes precedence: on 1 January, two minutes ago may
  *   read "December 2012".
- * - Locale and clock are the user's at construction until they are set. A later change on the device does not change a
- *   formatter: call applyUserRegionLocale() or create another one.
- * - A text follows the spelling rules for the middle of a sentence. Alone, for example in a list, it may need a capital
- *   first letter, which the application adds.
+ * - Locale and clock are those of the user at construction until they are set. A later change on the device does not
+ *   affect an existing formatter: call applyUserRegionLocale() or create another one.
+ * - Texts are capitalized as in the middle of a sentence. Where a capital first letter is expected, for example in a
+ *   list, the application has to add it.
  *
  * Use a formatter only on the thread that created it; give each thread its own.
  *
@@ -63,42 +63,50 @@ class ZEL_UTILITY_I18N_EXPORT RelativeDateFormatter : public QObject
 
 public:
     /**
-     * Creates a formatter that belongs to the calling thread, any thread. Anchor: now; locale: the user's region
-     * locale; clock: ClockFormat::ApplyUserFormat; wording: RelativeDateWording::Exact.
+     * Creates a formatter that belongs to the calling thread, which may be any thread. Defaults: the anchor is the
+     * current time, the locale the user's region locale, the clock ClockFormat::ApplyUserFormat, the wording
+     * RelativeDateWording::Exact.
      *
-     * @param type the formatting table; with an unknown one, a message is written and format() fails until setType()
+     * @param type the formatting table; for an unknown one, a message is written, and format() returns null strings
+     * until setType() sets a known one
      * @param parent the owner, or null
      */
     explicit RelativeDateFormatter(RelativeDateFormat::Type type, QObject* parent = nullptr);
     ~RelativeDateFormatter() override;
 
-    /** Returns the formatting table, also an unknown one that was set. Cannot fail. Call on the formatter's thread. */
+    /**
+     * Returns the formatting table that was set last, even an unknown one. Cannot fail. Call on the formatter's thread.
+     */
     RelativeDateFormat::Type type() const;
 
     /**
-     * Sets the formatting table. Another table resets anchor, locale, clock and wording to those of a new formatter and
-     * emits changed(); the same one does nothing. Call on the formatter's thread.
+     * Sets the formatting table, resets anchor, locale, clock and wording to the defaults of a new formatter, and emits
+     * changed(). Setting the current table does nothing. Call on the formatter's thread.
      *
-     * @param type the formatting table; with an unknown one, a message is written and format() fails until the next
-     * setType()
+     * @param type the formatting table; for an unknown one, a message is written, and format() returns null strings
+     * until a known one is set
      */
     void setType(RelativeDateFormat::Type type);
 
     /**
-     * Returns the locale of the texts: the one that was set last, or the user's region locale at the last reset. Cannot
-     * fail. Call on the formatter's thread.
+     * Returns the locale of the texts: the one that was set last, or else the user's region locale at construction or
+     * at the last setType(). Cannot fail. Call on the formatter's thread.
      */
     QLocale locale() const;
 
     /**
-     * Sets the locale of the texts and emits changed(); the same locale does nothing. Call on the formatter's thread.
+     * Sets the locale of the texts and emits changed(). Setting the current locale does nothing. Call on the
+     * formatter's thread.
      *
-     * @param locale the locale; QLocale::c() counts as English. A part that ICU has no data for comes from the parent
-     * locale; if ICU cannot build a pattern, a message is written and texts are empty.
+     * @param locale the locale; QLocale::c() means English. Where ICU has no data for it, data of its parent locale is
+     * used. If ICU cannot build a pattern, a message is written and texts are empty.
      */
     void setLocale(const QLocale& locale);
 
-    /** Returns the moment that distances are counted from. Cannot fail. Call on the formatter's thread. */
+    /**
+     * Returns the anchor that was set last, in the time zone in which it was set; the time of construction or of the
+     * last setType() by default. Cannot fail. Call on the formatter's thread.
+     */
     QDateTime anchorTime() const;
 
     /**
@@ -114,7 +122,7 @@ public:
     RelativeDateWording::Type wording() const;
 
     /**
-     * Sets the wording and emits changed(); the same wording does nothing. Call on the formatter's thread.
+     * Sets the wording and emits changed(). Setting the current wording does nothing. Call on the formatter's thread.
      *
      * @param wording the wording; an unknown value means Exact
      */
@@ -123,15 +131,16 @@ public:
     /**
      * Formats a moment relative to the anchor, in the formatter's locale. Call on the formatter's thread.
      *
-     * @param dateTime the moment; an invalid one counts as 1970-01-01 00:00
+     * @param dateTime the moment; an invalid one means 1970-01-01 00:00
      * @return the text; a null string, with a message, if the type is unknown or ICU cannot format the moment
      */
     Q_INVOKABLE QString format(const QDateTime& dateTime) const;
 
     /**
-     * Formats many moments: the texts and messages of one format() call each, in order, at a fraction of the cost.
+     * Formats many moments relative to the anchor, in the formatter's locale. The texts and messages are those of one
+     * format() call for each moment, in order, at a fraction of the cost.
      *
-     * The call blocks and cannot be cancelled. It needs memory for the texts only, and nothing is kept afterwards. Call
+     * The call blocks and cannot be cancelled. It needs memory only for the texts, and keeps nothing afterwards. Call
      * on the formatter's thread.
      *
      * @param dateTimes the moments, as for format()
@@ -140,9 +149,9 @@ public:
     QStringList formatAll(const QList<QDateTime>& dateTimes) const;
 
     /**
-     * Returns the first anchor time after the present one at which the text of a moment may change: format it again
-     * then, not before. Changes of the zone's offset (daylight saving time) are included. Call on the formatter's
-     * thread.
+     * Returns the first time after the anchor at which the text of a moment may change. Format the moment again with
+     * that anchor, not before. Changes of the zone's offset (daylight saving time) are taken into account. Call on the
+     * formatter's thread.
      *
      * @param dateTime the moment, in the years 1 to 9999
      * @return a time in the anchor's time zone; an invalid one if the text never changes again, if the moment or the
@@ -151,49 +160,53 @@ public:
     QDateTime validUntil(const QDateTime& dateTime) const;
 
     /**
-     * Calls a slot or signal of a receiver whenever the user's clock, region or time zone changes, while both objects
-     * exist: texts may be out of date then. The formatter keeps its own locale and clock. Calls arrive through the
-     * event loop of the formatter's thread. Call on that thread.
+     * Calls a slot or signal of a receiver whenever the user's clock, region or time zone changes, because texts may be
+     * out of date then. The connection ends with the formatter or the receiver. The formatter itself keeps its locale
+     * and clock. Changes arrive through the event loop of the formatter's thread. Call on that thread.
      *
      * @param receiver the object to call
      * @param member the slot or signal without arguments, in SLOT() or SIGNAL()
-     * @return false, with a message by Qt, if the receiver has no such member
+     * @return whether the receiver has such a member; if not, Qt writes a message
      */
     bool connectToSettings(QObject* receiver, const char* member);
 
     ZEL_UTILITY_I18N_SIGNALS
-    /** Anchor, locale, clock, wording or type changed: format texts again. Emitted on the calling thread. */
+    /** Anchor, locale, clock, wording or type changed; format texts again. Emitted on the formatter's thread. */
     Q_SIGNAL void changed();
 
 public Q_SLOTS:
     /**
-     * Sets the moment that distances are counted from and emits changed(). An equal instant does nothing, even in
-     * another time zone. Call on the formatter's thread.
+     * Sets the anchor and emits changed(). Setting the same instant does nothing, even in another time zone. Call on
+     * the formatter's thread.
      *
-     * @param anchorTime the anchor; it counts by the date and time that it shows. An invalid one counts as
+     * @param anchorTime the anchor; its date and time count as shown, regardless of its time zone. An invalid one means
      * 1970-01-01 00:00.
      */
     void setAnchorTime(const QDateTime& anchorTime);
 
-    /** Sets the anchor to the current local time, as setAnchorTime() does. Call on the formatter's thread. */
+    /** Sets the anchor to the current local time and emits changed(). Cannot fail. Call on the formatter's thread. */
     void applyCurrentTimeAsAnchor();
 
     /**
-     * Sets the locale to the user's region locale as it is now, and emits changed() if it is another one. Where the
-     * region is not set, it is the locale of the process's environment. Call on the formatter's thread.
+     * Sets the locale to the user's current region locale and emits changed() if it differs. Fallback, where no region
+     * is set: the locale of the process's environment. Call on the formatter's thread.
      */
     void applyUserRegionLocale();
 
     /**
-     * Sets the clock and emits changed(); the same value does nothing. Call on the formatter's thread.
+     * Sets the clock and emits changed(). Setting the current value does nothing. Call on the formatter's thread.
      *
-     * @param format the clock; ApplyUserFormat reads the device setting once, now and again when the locale changes.
-     * With an unknown value, a message is written and texts with a time of day are empty.
+     * @param format the clock; ApplyUserFormat reads the device setting now, and again when the locale changes. For an
+     * unknown value, a message is written, and texts with a time of day are empty.
      */
     void setClockFormat(zel::utility::i18n::ClockFormat::Type format);
 
 protected Q_SLOTS:
-    /** The same for signals that carry a number. Call on the formatter's thread. */
+    /**
+     * Sets the clock like setClockFormat(ClockFormat::Type), from a signal with an int. Call on the formatter's thread.
+     *
+     * @param format a value of ClockFormat::Type; for an unknown one, a message is written
+     */
     void setClockFormat(int format);
 
 private:

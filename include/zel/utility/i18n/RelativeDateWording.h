@@ -21,11 +21,11 @@ namespace RelativeDateWording {
 
 /** Two ways to word the same distance. Any other value means Exact. */
 enum Type : int {
-    /// Counts are always written, and a moment of another calendar year is always month and year: on 1 January, two
+    /// Counts are always written, and a moment in another calendar year is always month and year: on 1 January, two
     /// minutes ago may read "December 2012".
     Exact = 1,
-    /// Less than a minute is the locale's word for now, where its data has one. Days up to three days away are named
-    /// across the turn of the year, too: on 1 January, two minutes ago may read "yesterday 23:59".
+    /// Less than a minute is the locale's word for now, if its data has one. Days up to three days away are named even
+    /// across the turn of the year: on 1 January, two minutes ago may read "yesterday 23:59".
     Natural = 2
 };
 

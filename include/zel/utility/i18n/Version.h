@@ -25,10 +25,10 @@
 #define ZEL_UTILITY_I18N_VERSION_MAJOR 1
 /** Minor version; a new one extends the interface. */
 #define ZEL_UTILITY_I18N_VERSION_MINOR 0
-/** Patch version; a new one leaves the interface as it is. */
+/** Patch version; a new one does not change the interface. */
 #define ZEL_UTILITY_I18N_VERSION_PATCH 0
 
-/** A version as one number; a later version has a greater one. */
+/** A version as one number; later versions have greater numbers. */
 #define ZEL_UTILITY_I18N_VERSION_CHECK(major, minor, patch) QT_VERSION_CHECK(major, minor, patch)
 /** The version of these headers as one number. */
 #define ZEL_UTILITY_I18N_VERSION                                                                                       \
