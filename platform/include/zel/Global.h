@@ -4,7 +4,7 @@
 #ifndef ZEL_GLOBAL_H
 #define ZEL_GLOBAL_H
 
-/** Exports a symbol of the platform libraries, and imports it elsewhere: one attribute on the systems they run on. */
+/** Exports a symbol of a platform library, or imports it; on the supported systems, one attribute does both. */
 #define ZEL_EXPORT __attribute__((visibility("default")))
 
 #endif

@@ -14,7 +14,7 @@ namespace zel::host {
 /** Receives a message about the host: one line, without a trailing space. Called on any thread. */
 using Reporter = void (*)(QtMsgType type, const QString& text);
 
-/** A setting of the Linux host. Call every function on any thread. */
+/** A setting of the Linux host. All functions are thread-safe. */
 class Setting : public QObject
 {
     Q_OBJECT
@@ -26,12 +26,12 @@ public:
 
     virtual QVariant value() const = 0;
 
-    /** Returns the source of the value, for people. */
+    /** Returns the source of the value as readable text. */
     virtual QString source() const = 0;
 
     /**
-     * Delivers changes through the event loop of the calling thread while the result exists; null if they arrive there
-     * already.
+     * Delivers changes through the event loop of the calling thread while the returned object exists. Returns null if
+     * they arrive there already.
      */
     virtual std::unique_ptr<QObject> listen() = 0;
 

@@ -9,8 +9,8 @@
 #include <zel/host/Setting.h>
 
 /**
- * The settings of a Linux host. The library is static: each of its users in a process has separate settings and a
- * separate connection to the session bus. Call every function on any thread.
+ * The settings of a Linux host. The library is static: each binary that links it has its own settings and its own
+ * connection to the session bus. All functions are thread-safe.
  */
 namespace zel::host {
 
@@ -21,26 +21,26 @@ inline void ignore(QtMsgType /*type*/, const QString& /*text*/) {}
 constexpr int portalTimeoutMs = 80;
 
 /**
- * The clock, 12 or 24: from the settings portal; fallback: that of the region's time pattern. Waits for the portal up
- * to the timeout, and uses a later answer when it arrives.
+ * Returns the clock, 12 or 24, from the settings portal; fallback: the clock of the region's time pattern. Waits for
+ * the portal up to the timeout, and uses a later answer when it arrives.
  */
 std::unique_ptr<Setting> clock(Reporter reporter, int timeoutMs = portalTimeoutMs);
 
-/** The identifier of the time zone in ICU, from TZ or the system's local-time link; empty if unknown. */
+/** Returns ICU's identifier of the time zone, from TZ; fallback: /etc/localtime. Its value is empty if unknown. */
 std::unique_ptr<Setting> timeZone(Reporter reporter);
 
 /**
- * The name of the environment's locale for dates and times. Changes are the application's locale change events; they
- * arrive through the event loop of the setting's thread.
+ * Returns the name of the environment's locale for dates and times. It changes with the application's locale change
+ * events, which arrive through the event loop of the setting's thread.
  */
 std::unique_ptr<Setting> region(Reporter reporter);
 
-/** The locale of region(), at the cost of reading the environment. */
+/** Returns the locale of region() at the cost of reading the environment. */
 QLocale regionNow();
 
 /**
- * The environment variables that override the clock and the time zone of the host for one process. A setting that is
- * created while its variable is set has that value; no value if the variable is empty. Ignored in a process with raised
+ * Environment variables that override the clock and the time zone of the host for one process. A setting created while
+ * its variable is set has that value, or no value if the variable is empty. Ignored in a process with raised
  * privileges.
  */
 constexpr const char* clockVariable = "ZEL_HOST_CLOCK";

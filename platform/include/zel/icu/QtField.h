@@ -10,11 +10,11 @@
 
 namespace zel::icudata {
 
-/** A field of ICU's patterns in Qt's syntax. Header only: the library and the command line share the table. */
+/** A field of ICU's patterns in Qt's syntax. Header-only: the library and the command line share the table. */
 class QtField
 {
 public:
-    /** The field of a letter; null where the letter stands for itself. */
+    /** Returns the field of a letter; null if the letter is not a field. */
     static const QtField* find(char16_t letter)
     {
         const auto* const found = std::find_if(std::begin(all), std::end(all), [letter](const QtField& field) {
@@ -23,14 +23,14 @@ public:
         return found == std::end(all) ? nullptr : found;
     }
 
-    /** The Qt text for a run of so many letters; null where Qt has no such field. */
+    /** Returns the Qt field for this many letters; null if Qt has none. */
     const char* text(std::ptrdiff_t count) const
     {
         return m_text.at(static_cast<std::size_t>(std::min<std::ptrdiff_t>(count, 4) - 1));
     }
 
 private:
-    using Texts = std::array<const char*, 4>; // for one, two, three, and four or more
+    using Texts = std::array<const char*, 4>; // for one, two, three, and four or more letters
 
     constexpr QtField(char letter, const Texts& text) : m_letter(letter), m_text(text) {}
 

@@ -14,7 +14,7 @@ class PpsObject;
 
 namespace system {
 
-/** The kinds of locale that a user has. */
+/** The types of user locales. */
 namespace LocaleType {
 enum Type : int {
     Region = 2 ///< the locale for dates, times and numbers; not the language of the display
@@ -24,12 +24,12 @@ enum Type : int {
 /**
  * The user's locale of one type. Types other than Region give the C locale.
  *
- * The region is the attribute `region` of the settings object `/pps/system/locale`, a BCP 47 or POSIX name. Where it is
+ * The region is the attribute `region` of the settings object `/pps/system/locale`, a BCP 47 or POSIX name. If it is
  * not set, the fallback is the process's POSIX locale for times: the first of `LC_ALL`, `LC_TIME` and `LANG` that is
- * not empty. A region that is not a locale is reported with one warning, and the fallback is used; an object that
- * cannot be read is reported as well, and its last region stays in use.
+ * not empty. A region that is not a locale causes one warning, and the fallback is used; an object that cannot be read
+ * causes a warning as well, and its last region stays in use.
  *
- * Construct one for each query: that and locale() cost one stat() and little else.
+ * Handlers are cheap enough to create one per query: construction and locale() cost about one stat().
  *
  * @code
  * #include <zel/system/LocaleHandler.h>
@@ -46,7 +46,7 @@ public:
     explicit LocaleHandler(LocaleType::Type type, QObject* parent = nullptr);
     ~LocaleHandler() override;
 
-    /** Returns the locale as it is now. Needs no event loop. Call on any thread. */
+    /** Returns the current locale. Needs no event loop. Thread-safe. */
     QLocale locale() const;
 
 Q_SIGNALS:
@@ -62,7 +62,7 @@ private Q_SLOTS:
 
 private:
     const LocaleType::Type m_type;
-    PpsObject* m_object = nullptr; // a child that announces changes; null while nobody is connected
+    PpsObject* m_object = nullptr; // a child that announces changes; null while nothing is connected
 };
 
 } // namespace system

@@ -10,22 +10,22 @@
 
 namespace zel::system {
 
-/** Locales by their BCP 47 or POSIX names. */
+/** Finds locales by their BCP 47 or POSIX names. All functions are thread-safe. */
 class LocaleName
 {
 public:
     LocaleName() = delete;
 
     /**
-     * Exactly the named locale; "C" and "POSIX" name the C locale. None for an unknown name, for which QLocale would
-     * silently be another locale.
+     * Returns exactly the named locale; "C" and "POSIX" name the C locale. Returns nothing for an unknown name, for
+     * which QLocale would silently choose another locale.
      */
     static std::optional<QLocale> find(const QString& name);
 
-    /** The locale closest to the name of a POSIX locale; the C locale at worst. */
+    /** Returns the locale closest to the name of a POSIX locale; the C locale if there is none. */
     static QLocale closest(const QString& name);
 
-    /** The environment variable that names the process's POSIX locale for times; null where none does. */
+    /** Returns the environment variable that names the process's POSIX locale for times; null if none does. */
     static const char* variable();
 };
 
