@@ -26,9 +26,11 @@ constexpr qint64 minute = 60'000;
 constexpr qint64 hour = 60 * minute;
 constexpr qint64 day = 24 * hour;
 
-const char* const locales[] = {"en_US", "en_GB", "de_DE", "fr_FR",      "fr_CA", "ja_JP", "ko_KR",
-                               "zh_CN", "zh_TW", "ar_EG", "fa_IR",      "he_IL", "hi_IN", "th_TH",
-                               "mn_MN", "pl_PL", "ru_RU", "sr_Latn_RS", "pt_PT", "C"};
+const char* const locales[] = {"en_US", "en_GB",      "de_DE", "fr_FR",      "fr_CA", "ja_JP", "ko_KR", "zh_CN",
+                               "zh_TW", "ar_EG",      "fa_IR", "he_IL",      "hi_IN", "th_TH", "mn_MN", "pl_PL",
+                               "ru_RU", "sv_SE",      "pt_PT", "sr_Latn_RS", "es_ES", "it_IT", "nl_NL", "tr_TR",
+                               "hu_HU", "fi_FI",      "el_GR", "bg_BG",      "cs_CZ", "uk_UA", "vi_VN", "bn_BD",
+                               "ta_IN", "zh_Hant_HK", "my_MM", "am_ET",      "ur_PK", "lv_LV", "sl_SI", "C"};
 
 // Moments and anchors, mostly close to each other, the same in every run.
 class Moments
@@ -187,11 +189,13 @@ private Q_SLOTS:
         const auto [type, wording] = cells<RelativeDateFormat::Type, RelativeDateWording::Type>();
         Moments moments;
         RelativeDateFormatter formatter(type);
-        formatter.setLocale(QLocale("en_US"));
         formatter.setWording(wording);
         int near = 0;
         int changed = 0;
-        for (int i = 0; i < 1500; ++i) {
+        for (int i = 0; i < 1600; ++i) {
+            if (i % 40 == 0) {
+                formatter.setLocale(QLocale(QString::fromLatin1(locales[i / 40])));
+            }
             const QDateTime anchor = moments.anchor();
             const QDateTime moment = moments.near(anchor);
             const auto textAt = [&](qint64 later) {
@@ -215,6 +219,15 @@ private Q_SLOTS:
         }
         QVERIFY2(near > 300, qPrintable(QString::number(near)));
         QVERIFY2(changed * 100 >= near * 95, qPrintable(QStringLiteral("%1 of %2").arg(changed).arg(near)));
+    }
+
+    // In 1945, Berlin went from one summer time to another, at a local time that Qt cannot tell from the one before.
+    void untilPassesDoubleSummerTime()
+    {
+        RelativeDateFormatter formatter(RelativeDateFormat::TimeCritical);
+        formatter.setAnchorTime(QDateTime(QDate(1940, 1, 1), QTime(0, 0)));
+        const QDateTime moment(QDate(2012, 1, 1), QTime(0, 0));
+        QCOMPARE(formatter.validUntil(moment), moment);
     }
 
 private:

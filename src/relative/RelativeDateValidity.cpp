@@ -20,8 +20,9 @@ std::optional<qint64> nextTransition(const QDateTime& dateTime, qint64 instant)
     if (dateTime.timeSpec() != Qt::LocalTime && dateTime.timeSpec() != Qt::TimeZone) {
         return std::nullopt;
     }
-    // In UTC: a local time may denote two instants.
-    const QDateTime utc = QDateTime::fromMSecsSinceEpoch(instant).toUTC();
+    // Set in UTC: a local time may denote two instants.
+    QDateTime utc = dateTime.toUTC();
+    utc.setMSecsSinceEpoch(instant);
     const QDateTime next = dateTime.timeZone().nextTransition(utc).atUtc;
     const bool isLater = next.isValid() && next.toMSecsSinceEpoch() > instant;
     return isLater ? std::make_optional(next.toMSecsSinceEpoch()) : std::nullopt;

@@ -118,7 +118,9 @@ QDateTime epoch(Scanner& scanner)
     const int sign = scanner.accept("-") ? -1 : 1;
     const qint64 seconds = qMin(scanner.integer(), largest);
     const int fraction = scanner.accept(".") ? scanner.thousandths() : 0;
-    return QDateTime::fromMSecsSinceEpoch(sign * (seconds * 1000 + fraction)).toUTC();
+    QDateTime moment = QDateTime::fromMSecsSinceEpoch(0).toUTC();
+    moment.setMSecsSinceEpoch(sign * (seconds * 1000 + fraction)); // in UTC: a local time may denote two instants
+    return moment;
 }
 
 QDateTime dateTime(const Reading& reading)
