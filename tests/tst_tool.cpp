@@ -191,7 +191,7 @@ private Q_SLOTS:
         row("gallery|--compare|x|--tsv|-", 2,
             "--compare writes to standard output, so --tsv takes the name of a file; see 'zel-i18n gallery --help'");
         row("gallery|--compare|/dev/null", 1, "'/dev/null' is not a table written with --tsv");
-        row("gallery|--tsv|x|--device|region=de_DE", 2, "--device has no effect here; see 'zel-i18n gallery --help'");
+        row("gallery|--tsv|x|--device|region=de_DE", 2, "unknown option 'device'; see 'zel-i18n gallery --help'");
 
         row("gallery|--html|/nowhere/x|--locale|de_DE", 1, "cannot write '/nowhere/x': No such file or directory");
         row("locales|xq", 1, "no locale matches 'xq'");

@@ -82,7 +82,6 @@ void requireUsage(const Arguments& arguments)
     }
     requireUsage(!arguments.has(QStringLiteral("compare")) || arguments.value(QStringLiteral("tsv")) != standardOutput,
                  QStringLiteral("--compare writes to standard output, so --tsv takes the name of a file"));
-    requireUsage(!arguments.has(QStringLiteral("device")), QStringLiteral("--device has no effect here"));
 }
 
 // The figures; before them, if no file is written, the different texts.
@@ -104,6 +103,7 @@ class GalleryCommand : public Command
 {
 public:
     CommandHelp help() const override;
+    bool takesDevice() const override { return false; }
     QList<QCommandLineOption> options() const override;
     ExitStatus run(const Arguments& arguments, Console& console) const override;
 };
