@@ -22,7 +22,7 @@ fail() {
     exit 1
 }
 
-# build_dir PRESET: the build directory of a preset, after prepare_target that for another architecture.
+# build_dir PRESET: the build directory of a preset; after prepare_target, the one for that architecture.
 build_dir() {
     local directory=build-$1${target:+-$target}
     echo "${directory/#build-dev/build}"
@@ -58,13 +58,13 @@ sources() {
 
 cache=${XDG_CACHE_HOME:-$HOME/.cache}/zel-i18n
 
-# debian_mirror: the one that this machine's apt uses.
+# debian_mirror: the Debian mirror that this machine's apt uses.
 debian_mirror() {
     # shellcheck disable=SC2016
     apt-get indextargets --format '$(REPO_URI)' 'Created-By: Packages' 'Origin: Debian' 'Label: Debian' | sed 1q
 }
 
-# register_package PACKAGE DIRECTORY: what dpkg-shlibdeps needs to know of a package that was unpacked into a directory.
+# register_package PACKAGE DIRECTORY: records an unpacked package in the directory for dpkg-shlibdeps.
 register_package() {
     local dpkg=$2/var/lib/dpkg name file
     name=$(dpkg-deb --field "$1" Package)
@@ -76,14 +76,14 @@ register_package() {
     done
 }
 
-# unpack_debian DIRECTORY RELEASE ARCHITECTURE PACKAGE...: unpacks packages and all that they depend on, once. Nothing
-# is installed, and this machine's own apt is asked for the mirror only.
+# unpack_debian DIRECTORY RELEASE ARCHITECTURE PACKAGE...: unpacks packages and their dependencies, once. Nothing is
+# installed, and this machine's own apt only provides the mirror.
 unpack_debian() {
     local directory=$1 release=$2 architecture=$3 contents="${*:2}" apt=$1.apt package options mirror
     shift 3
     [ "$(cat "$directory/contents" 2>/dev/null)" != "$contents" ] || return 0
     mirror=$(debian_mirror)
-    [ -n "$mirror" ] || fail "this machine's apt knows no Debian mirror; run apt-get update"
+    [ -n "$mirror" ] || fail "apt has no Debian mirror; run apt-get update"
     echo "Unpacking packages of $release for $architecture in $directory"
     rm -rf "$directory" "$apt"
     mkdir -p "$apt"/{state/lists,cache/archives}/partial "$directory"/usr/{bin,lib,sbin} "$directory/var/lib/dpkg/info"
@@ -107,8 +107,8 @@ unpack_debian() {
 target=
 target_options=()
 
-# prepare_target ARCHITECTURE: what follows builds for that one. Brings its packages of this machine's release, and the
-# emulator; that of Debian 13, as Qt starts programs in a way that older ones do not know.
+# prepare_target ARCHITECTURE: makes all further builds cross builds for it. Downloads its packages, of this machine's
+# Debian release, and the emulator of Debian 13: older ones do not support the way in which Qt starts programs.
 prepare_target() {
     local release
     scripts/bootstrap build cross
@@ -125,8 +125,8 @@ prepare_target() {
         -DQT_HOST_PATH=/usr "-DQT_HOST_PATH_CMAKE_DIR=$(pkg-config --variable=libdir Qt6Core)/cmake")
 }
 
-# on_target COMMAND...: runs a command where each program that it starts may be one of the target's. What makes data of
-# the machine's byte order is.
+# on_target COMMAND...: runs a command that may start programs of the target. genrb is always the target's, as it writes
+# data in the byte order of its machine.
 on_target() {
     mkdir -p "$sysroot/tools"
     ln -sf ../usr/bin/genrb "$sysroot/tools"
