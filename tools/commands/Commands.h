@@ -12,10 +12,10 @@ namespace zel::tool {
 /** `formats`: the patterns of a locale. */
 std::unique_ptr<Command> formatsCommand();
 
-/** `format`: moments by a skeleton. */
+/** `format`: moments formatted by a skeleton. */
 std::unique_ptr<Command> formatCommand();
 
-/** `relative`: moments as seen from another one. */
+/** `relative`: moments relative to an anchor. */
 std::unique_ptr<Command> relativeCommand();
 
 /** `percent`: numbers as percentages. */
@@ -27,7 +27,7 @@ std::unique_ptr<Command> watchCommand();
 /** `gallery`: everything that depends on the locale, for every locale, on one page. */
 std::unique_ptr<Command> galleryCommand();
 
-/** `locales`: the locales that there are. */
+/** `locales`: the locales of ICU and Qt. */
 std::unique_ptr<Command> localesCommand();
 
 /** `device`: the settings of the device. */

@@ -91,14 +91,14 @@ CommandHelp DeviceCommand::help() const
 {
     return {QStringLiteral("device"), QStringLiteral("[get [KEY] | set KEY=VALUE... | unset KEY...]"),
             QStringLiteral("Show or change the settings of the device."),
-            QStringLiteral("Shows the settings, or the value of one; sets or unsets them. Running programs\n"
+            QStringLiteral("Shows all settings or the value of one, sets them, or unsets them. Running programs\n"
                            "follow immediately. The settings are:\n\n"
                            "  hour-format   12 or 24: the clock\n"
                            "  time-zone     a time zone that ICU knows, such as Europe/Berlin\n"
                            "  region        the locale for dates, times and numbers, such as de_DE\n\n"
                            "They are stored below the directory ZEL_PPS_ROOT (default: /). All values are checked\n"
                            "before the first is written. Other attributes of a settings object are kept. An\n"
-                           "object that cannot be decoded is changed with --replace only. Without a settings\n"
+                           "object that cannot be decoded is overwritten only with --replace. Without a settings\n"
                            "directory, --create is required."),
             QStringLiteral("device\n"
                            "device get region\n"

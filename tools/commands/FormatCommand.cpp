@@ -16,7 +16,7 @@ namespace zel::tool {
 
 namespace {
 
-// `format`: moments by a skeleton.
+// `format`: moments formatted by a skeleton.
 class FormatCommand : public Command
 {
 public:

@@ -66,7 +66,7 @@ void writeTable(const QList<KnownLocale>& locales, Console& console)
     table.write(console);
 }
 
-// `locales`: the locales that there are.
+// `locales`: the locales of ICU and Qt.
 class LocalesCommand : public Command
 {
 public:
@@ -82,8 +82,8 @@ CommandHelp LocalesCommand::help() const
     return {
         QStringLiteral("locales"), QStringLiteral("[PATTERN]"), QStringLiteral("List the locales."),
         QStringLiteral("Lists the locales for --locale: name, script, phrases, and the names in English and in the\n"
-                       "language of the locale. With PATTERN, lists only those with a word that begins with it in\n"
-                       "one of these names; '*' and '?' stand for other characters. Case does not matter.\n\n"
+                       "language of the locale. With PATTERN, lists only locales with a name in which a word begins\n"
+                       "with it; '*' and '?' are wildcards. Case is ignored.\n\n"
                        "The phrases are those of relative dates: 'own' if all are in the language of the locale,\n"
                        "'some' if the others come from ICU's root bundle (\"+5 min\"), 'none' if all do."),
         QStringLiteral("locales\n"

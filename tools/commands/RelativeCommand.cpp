@@ -220,21 +220,22 @@ public:
 
 CommandHelp RelativeCommand::help() const
 {
-    return {QStringLiteral("relative"), QStringLiteral("MOMENT... | --table"),
-            QStringLiteral("Format moments relative to an anchor."),
-            QStringLiteral("Formats each MOMENT relative to an anchor, one text per line: 5 minutes ago,\n"
-                           "yesterday with a time, a weekday, a month and day, a month and year. '-' reads\n"
-                           "moments from standard input, one per line; invalid lines are reported and skipped.\n\n"
-                           "Moments are written as in 'format'. Moments with an offset, and seconds since 1970,\n"
-                           "are converted to the time zone of the device, or to local time where it has none.\n"
-                           "Without an offset, a moment is a reading of the device's clock, whatever the zone of\n"
-                           "the process. To compare the readings of clocks in several zones, omit the offsets.\n\n"
-                           "With --table, shows one moment for each slot of the formatting tables, before and\n"
-                           "after the anchor, for each locale."),
-            QStringLiteral("relative 2012-09-03T10:25 --anchor 2012-09-03T10:30\n"
-                           "relative - --locale fr_FR --type non-time-critical < moments.txt\n"
-                           "relative 'Mon, 3 Sep 2012 10:25:00 +0200' --anchor @1346661000\n"
-                           "relative --table --locale en_GB --locale de_DE --locale ja_JP")};
+    return {
+        QStringLiteral("relative"), QStringLiteral("MOMENT... | --table"),
+        QStringLiteral("Format moments relative to an anchor."),
+        QStringLiteral("Formats each MOMENT relative to an anchor, one text per line: 5 minutes ago,\n"
+                       "yesterday with a time, a weekday, a month and day, a month and year. '-' reads\n"
+                       "moments from standard input, one per line; invalid lines are reported and skipped.\n\n"
+                       "Moments are written as in 'format'. Moments with an offset, and seconds since 1970,\n"
+                       "are converted to the time zone of the device, or to local time where it has none.\n"
+                       "Without an offset, a moment is taken as a reading of the device's clock, whatever the\n"
+                       "zone of the process. To compare the readings of clocks in several zones, omit the offsets.\n\n"
+                       "With --table, shows one moment for each slot of the formatting tables, before and\n"
+                       "after the anchor, for each locale."),
+        QStringLiteral("relative 2012-09-03T10:25 --anchor 2012-09-03T10:30\n"
+                       "relative - --locale fr_FR --type non-time-critical < moments.txt\n"
+                       "relative 'Mon, 3 Sep 2012 10:25:00 +0200' --anchor @1346661000\n"
+                       "relative --table --locale en_GB --locale de_DE --locale ja_JP")};
 }
 
 QList<QCommandLineOption> RelativeCommand::options() const

@@ -30,7 +30,7 @@ public:
 CommandHelp WatchCommand::help() const
 {
     return {QStringLiteral("watch"), QStringLiteral("SKELETON [MOMENT]"),
-            QStringLiteral("Print a text whenever the device changes."),
+            QStringLiteral("Print a text whenever a setting changes."),
             QStringLiteral("Formats MOMENT (default: the current time of each line) with the fields that\n"
                            "SKELETON names, and prints it again whenever the clock, the time zone or the region\n"
                            "of the device changes, until interrupted.\n\n") +

@@ -26,8 +26,8 @@ QString Skeleton::description()
 {
     return QStringLiteral("A skeleton names fields in any order and without punctuation: y year, M month\n"
                           "(MMM short name, MMMM full name), d day, E weekday (EEEE full name), h hour under\n"
-                          "the clock of the device, m minute, s second, z time zone. The locale decides on\n"
-                          "order and punctuation. Without z, date and time are shown as written; with it, the\n"
+                          "the clock of the device, m minute, s second, z time zone. The locale determines\n"
+                          "order and punctuation. Without z, date and time are shown as written; with z, the\n"
                           "moment is shown in the time zone of the device.");
 }
 
