@@ -425,6 +425,9 @@ private Q_SLOTS:
         QCOMPARE(set.status, 0);
         QCOMPARE(run("device").output,
                  QStringLiteral("hour-format  24\ntime-zone    Europe/Berlin\nregion       sr_Latn_RS\n"));
+        // The process is in UTC: a moment without an offset is in the zone of the device.
+        QCOMPARE(run("relative|--locale|en|--anchor|2012-03-25T01:30|--until|2012-03-25T08:00").output,
+                 QStringLiteral("in 6 hours\t2012-03-25T03:00:00+02:00\n"));
         QCOMPARE(textOf(root.file(settings)),
                  QByteArray("@settings\nhourFormat:n:24\nmuted:b:false\nringer::loud\\nand clear\nvolume:n:0.5\n"));
         QCOMPARE(textOf(root.file("/pps/services/confstr/_CS_TIMEZONE")),

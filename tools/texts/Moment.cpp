@@ -123,10 +123,10 @@ QDateTime epoch(Scanner& scanner)
     return moment;
 }
 
-QDateTime dateTime(const Reading& reading)
+QDateTime dateTime(const Reading& reading, const QTimeZone& zone)
 {
     if (!reading.offset) {
-        return {reading.day, reading.time};
+        return zone.isValid() ? QDateTime(reading.day, reading.time, zone) : QDateTime(reading.day, reading.time);
     }
     // Constructors with an offset are deprecated in Qt 6.9; their replacement is not in Qt 5.
     QDateTime moment = QDateTime::fromMSecsSinceEpoch(0).toUTC();
@@ -143,7 +143,7 @@ void requireForm(bool condition, std::string_view text)
 
 } // namespace
 
-QDateTime Moment::parse(std::string_view text)
+QDateTime Moment::parse(std::string_view text, const QTimeZone& zone)
 {
     Scanner scanner(text);
     if (isEpoch(text)) {
@@ -156,7 +156,7 @@ QDateTime Moment::parse(std::string_view text)
     requireForm(scanner.isAtEnd() && reading.day.isValid() && reading.time.isValid() &&
                     qAbs(reading.offset.value_or(0)) <= largestOffset,
                 text);
-    QDateTime moment = dateTime(reading);
+    QDateTime moment = dateTime(reading, zone);
     require(moment.isValid(), text, QStringLiteral(" does not exist in local time, where clocks are put forward then"));
     return moment;
 }

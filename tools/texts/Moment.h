@@ -6,6 +6,7 @@
 
 #include <QtCore/QDateTime>
 #include <QtCore/QString>
+#include <QtCore/QTimeZone>
 #include <string_view>
 
 namespace zel::tool {
@@ -16,11 +17,11 @@ namespace Moment {
 /**
  * Parses one of these; anything else is a Failure:
  * - ISO 8601, extended or compact: a date alone, which is midnight, or a date and a time with or without seconds, a
- *   fraction of them, and `Z` or an offset. Without an offset it is the local time of the process.
+ *   fraction of them, and `Z` or an offset. Without an offset it is a time in `zone`, or local time if that is invalid.
  * - RFC 2822, as in mail and HTTP, with or without a weekday.
  * - `@` and the seconds since 1970, which may be negative or have a fraction, in UTC and in any year.
  */
-QDateTime parse(std::string_view text);
+QDateTime parse(std::string_view text, const QTimeZone& zone = {});
 
 /** Whether a text is a number of seconds: an instant without a date and time in a zone. */
 inline bool isEpoch(std::string_view text)

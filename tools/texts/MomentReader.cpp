@@ -11,25 +11,29 @@ namespace zel::tool {
 
 namespace {
 
-QTimeZone zoneOfDevice(const QTimeZone& fallback)
+// Invalid if the device has none.
+QTimeZone zoneOfDevice()
 {
     const QByteArray id = Device::get(Assignments::timeZone()).value_or(QString()).toLatin1();
-    const QTimeZone zone = id.isEmpty() ? fallback : QTimeZone(id);
-    return zone.isValid() ? zone : fallback;
+    return id.isEmpty() ? QTimeZone() : QTimeZone(id);
 }
 
 } // namespace
 
 // Local time as a fallback, like that of moments without an offset, with which these may be compared.
-MomentReader::MomentReader(Offsets offsets)
-    : m_offsets(offsets),
-      m_zone(zoneOfDevice(offsets == Kept ? QTimeZone("GMT") : QTimeZone::systemTimeZone()))
+MomentReader::MomentReader(Offsets offsets) : m_offsets(offsets), m_zone(zoneOfDevice())
 {
+    if (offsets == Converted) {
+        m_zoneOfReadings = m_zone;
+    }
+    if (!m_zone.isValid()) {
+        m_zone = offsets == Kept ? QTimeZone("GMT") : QTimeZone::systemTimeZone();
+    }
 }
 
 QDateTime MomentReader::read(std::string_view text) const
 {
-    QDateTime moment = Moment::parse(text);
+    QDateTime moment = Moment::parse(text, m_zoneOfReadings);
     const bool converts = moment.timeSpec() != Qt::LocalTime && (m_offsets == Converted || Moment::isEpoch(text));
     if (converts) {
         moment = moment.toTimeZone(m_zone);

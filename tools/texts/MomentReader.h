@@ -36,6 +36,7 @@ public:
 private:
     Offsets m_offsets;
     QTimeZone m_zone;
+    QTimeZone m_zoneOfReadings; // of moments without an offset; invalid for local time
 };
 
 } // namespace zel::tool
