@@ -161,8 +161,12 @@ void DateText::applyActive(bool active)
         return;
     }
     m_isActive = active;
-    if (active && m_isComplete && m_timekeeper) {
-        m_timekeeper->renewLater(this);
+    if (m_isComplete && m_timekeeper) {
+        if (active) {
+            m_timekeeper->renewLater(this);
+        } else {
+            m_timekeeper->suspend(this);
+        }
     }
     Q_EMIT activeChanged();
 }

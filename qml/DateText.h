@@ -58,7 +58,7 @@ public:
     bool hasMoment() const { return m_moment.isValid(); }
     QDateTime sourceMoment();
     virtual QDateTime fixedAnchor() const { return {}; }
-    qint64 dueTime() const { return fixedAnchor().isValid() ? DatedText::never : m_validUntil; }
+    qint64 dueTime() const { return m_isActive && !fixedAnchor().isValid() ? m_validUntil : DatedText::never; }
     /** Counts the changes of the text and of what it is made from: a text made before the last one is out of date. */
     quint32 revision() const { return m_revision; }
     void receive(const DatedText& text);

@@ -19,7 +19,10 @@ namespace {
 constexpr qint64 longestWait = 86400000;
 constexpr qint64 longestWaitUnwatched = 60000;
 
-/** A transition of the time zone, or the next one where that is past; both in ms since the epoch. */
+// In ms. Texts that are due within one frame are renewed together.
+constexpr qint64 frame = 16;
+
+// A transition of the time zone, or the next one where that is past; both in ms since the epoch.
 qint64 later(qint64 transition, qint64 now)
 {
     if (transition > now) {
@@ -79,18 +82,7 @@ void Timekeeper::onTimeout()
     }
     const bool isTransition = std::exchange(m_transition, later(m_transition, now)) <= now;
     m_next = DatedText::never;
-    QList<DateText*> due;
-    for (DateText* const element : std::as_const(m_elements)) {
-        if (!element->isActive()) {
-            continue;
-        }
-        if (isTransition || element->dueTime() <= now) {
-            due.append(element);
-        } else {
-            schedule(element->dueTime());
-        }
-    }
-    renew(due);
+    renew(isTransition ? activeElements() : m_schedule.dueAt(now));
 }
 
 void Timekeeper::onSettingsChanged()
@@ -99,15 +91,10 @@ void Timekeeper::onSettingsChanged()
     m_settings.applyUserRegionLocale();
     m_relative.clear();
     m_custom.clear();
-    m_transition = 0;
-    QList<DateText*> active;
-    for (DateText* const element : std::as_const(m_elements)) {
+    for (DateText* const element : m_schedule.elements()) {
         element->forgetSource();
-        if (element->isActive()) {
-            active.append(element);
-        }
     }
-    renew(active);
+    renewAll();
     Q_EMIT settingsChanged();
     if (regionLocale() != before) {
         Q_EMIT regionChanged();
@@ -118,6 +105,13 @@ void Timekeeper::renewAll()
 {
     m_transition = 0;
     onTimeout();
+}
+
+QList<DateText*> Timekeeper::activeElements() const
+{
+    QList<DateText*> elements = m_schedule.elements();
+    elements.removeIf([](const DateText* element) { return !element->isActive(); });
+    return elements;
 }
 
 void Timekeeper::renew(const QList<DateText*>& elements)
@@ -165,16 +159,21 @@ void Timekeeper::renew(const QList<DateText*>& elements)
         if (element && element->revision() == revision) {
             element->receive(text);
         }
-        if (element && element->isActive()) {
-            schedule(element->dueTime());
+        if (element) {
+            m_schedule.set(element, element->dueTime());
         }
     }
+    startTimer();
 }
 
-void Timekeeper::schedule(qint64 time)
+void Timekeeper::startTimer()
 {
-    const qint64 next = std::min(time, m_transition);
-    if (time == DatedText::never || next >= m_next) {
+    const qint64 first = m_schedule.first();
+    if (first == DatedText::never) {
+        return;
+    }
+    const qint64 next = (std::min(first, m_transition) + frame - 1) / frame * frame;
+    if (next >= m_next) {
         return;
     }
     m_next = next;

@@ -6,6 +6,7 @@
 
 #include "CustomDateSource.h"
 #include "RelativeDateSource.h"
+#include "Schedule.h"
 #include "SourcePool.h"
 #include "SystemClock.h"
 #include <QtCore/QList>
@@ -29,12 +30,15 @@ public:
     /** The timekeeper of the engine that an object was created by; null for an object that none created. */
     static Timekeeper* of(const QObject* object);
 
-    void add(DateText* element) { m_elements.insert(element); }
+    void add(DateText* element) { suspend(element); }
     void remove(DateText* element)
     {
-        m_elements.remove(element);
+        m_schedule.remove(element);
         m_waiting.remove(element);
     }
+
+    /** Leaves an element as it is until it is to be renewed later, or settings change. */
+    void suspend(DateText* element) { m_schedule.set(element, DatedText::never); }
 
     /** Renews an element with all others that wait, before the next frame. */
     void renewLater(DateText* element);
@@ -59,15 +63,16 @@ private Q_SLOTS:
 private:
     explicit Timekeeper(QObject* parent);
 
+    QList<DateText*> activeElements() const;
     void renew(const QList<DateText*>& elements);
-    void schedule(qint64 time);
+    void startTimer();
 
     RelativeDateFormatter m_settings;
     SystemClock m_clock;
     QTimer m_timer;
     SourcePool<RelativeDateSource> m_relative;
     SourcePool<CustomDateSource> m_custom;
-    QSet<DateText*> m_elements;
+    Schedule m_schedule;
     QSet<DateText*> m_waiting;
     qint64 m_lastTimeout;             // in ms since the epoch, as all times here
     qint64 m_transition = 0;          // of the time zone, the next one
