@@ -90,9 +90,14 @@ QDateTime DateText::sourceMoment()
 // A change of settings may be one of the time zone.
 void DateText::forgetSource()
 {
+    m_source.reset();
+    forgetReading();
+}
+
+void DateText::forgetReading()
+{
     ++m_revision;
     m_isOutdated = !m_isStale;
-    m_source.reset();
     m_sourceMoment = {};
 }
 

@@ -63,6 +63,7 @@ public:
     quint32 revision() const { return m_revision; }
     void receive(const DatedText& text);
     void forgetSource();
+    void forgetReading();
 
 Q_SIGNALS:
     void momentChanged();

@@ -101,8 +101,12 @@ void Timekeeper::onSettingsChanged()
     }
 }
 
+// The time zone may be another one, too: a system that wakes up may have travelled.
 void Timekeeper::renewAll()
 {
+    for (DateText* const element : m_schedule.elements()) {
+        element->forgetReading();
+    }
     m_transition = 0;
     onTimeout();
 }

@@ -17,6 +17,8 @@ public:
     Q_INVOKABLE bool setRegion(const QString& value) { return m_root.setRegion(value.toUtf8()); }
     Q_INVOKABLE bool setTimeZone(const QString& value) { return m_root.setTimeZone(value.toUtf8()); }
 
+    Q_INVOKABLE bool setSystemTimeZone(const QString& value) { return qputenv("TZ", value.toUtf8()); }
+
     // Sets the time of the program's clock, and notifies the program if requested.
     Q_INVOKABLE void setTime(const QString& local, bool announced)
     {
@@ -29,7 +31,7 @@ public:
 public Q_SLOTS:
     void applicationAvailable()
     {
-        qputenv("TZ", "Europe/Berlin");
+        setSystemTimeZone(QStringLiteral("Europe/Berlin"));
         setClock(QStringLiteral("24"));
         setRegion(QStringLiteral("en_GB"));
         setTimeZone(QStringLiteral("Europe/Berlin"));

@@ -83,6 +83,7 @@ Item {
         }
 
         function init() {
+            device.setSystemTimeZone("Europe/Berlin");
             page.visible = true;
             shown.active = undefined;
             shown.moment = new Date(NaN);
@@ -169,12 +170,19 @@ Item {
         }
 
         // As after a night in which the machine slept.
-        function test_clockIsSet() {
+        function test_clockIsSet_data() {
+            return [
+                { tag: "in place", zone: "Europe/Berlin", text: "yesterday 22:26" },
+                { tag: "on a journey", zone: "America/New_York", text: "yesterday 16:26" }
+            ];
+        }
+        function test_clockIsSet(row) {
             device.setTime("2026-05-16T22:30:00", true);
             shown.moment = time("2026-05-16T22:26:00");
             compare(shown.text, "4 minutes ago");
+            device.setSystemTimeZone(row.zone);
             device.setTime("2026-05-17T08:00:00", true);
-            tryCompare(shown, "text", "yesterday 22:26", 200);
+            tryCompare(shown, "text", row.text, 200);
         }
 
         // Where the system reports no change of the clock.
