@@ -5,6 +5,7 @@
 
 #include "Timekeeper.h"
 #include <QtQml/QQmlInfo>
+#include <utility>
 
 namespace zel::utility::i18n::qml {
 
@@ -12,6 +13,7 @@ void CustomDate::setSkeleton(const QString& skeleton)
 {
     if (skeleton != m_skeleton) {
         m_skeleton = skeleton;
+        m_isReported = false;
         Q_EMIT skeletonChanged();
         renewWithOtherSource();
         Q_EMIT validChanged();
@@ -33,7 +35,11 @@ void CustomDate::classBegin()
 
 std::shared_ptr<TextSource> CustomDate::createSource()
 {
-    return timekeeper()->customDates(m_skeleton);
+    const std::shared_ptr<CustomDateSource> source = timekeeper()->customDates(m_skeleton);
+    if (!source->isValid() && !m_skeleton.isEmpty() && !std::exchange(m_isReported, true)) {
+        qmlWarning(this) << "skeleton: there is no pattern for \"" << m_skeleton << '"';
+    }
+    return source;
 }
 
 } // namespace zel::utility::i18n::qml

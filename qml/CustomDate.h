@@ -23,7 +23,7 @@ class CustomDate : public zel::utility::i18n::qml::DateText // in full for the t
 
     /** The fields to show, in any order: letters of an ICU date/time skeleton. Default: "", and the text is empty. */
     Q_PROPERTY(QString skeleton READ skeleton WRITE setSkeleton NOTIFY skeletonChanged FINAL)
-    /** Whether ICU can build a pattern from the skeleton; if not, the text is empty. */
+    /** Whether ICU can build a pattern from the skeleton; if not, the text is empty and a warning says so, once. */
     Q_PROPERTY(bool valid READ isValid NOTIFY validChanged FINAL)
 
 public:
@@ -45,6 +45,7 @@ protected:
 
 private:
     QString m_skeleton;
+    bool m_isReported = false; // that there is no pattern
 };
 
 } // namespace zel::utility::i18n::qml

@@ -5,6 +5,13 @@
 
 namespace zel::utility::i18n::qml {
 
+// Where ICU knows no letter of the skeleton, its pattern is empty.
+CustomDateSource::CustomDateSource(const QString& skeleton)
+    : m_formatter(skeleton),
+      m_isValid(m_formatter.isValid() && !m_formatter.format(QDateTime::currentDateTimeUtc()).isEmpty())
+{
+}
+
 QList<DatedText> CustomDateSource::texts(const QList<QDateTime>& moments, const QDateTime& /*anchor*/)
 {
     QList<DatedText> result;

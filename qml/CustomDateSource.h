@@ -13,15 +13,16 @@ namespace zel::utility::i18n::qml {
 class CustomDateSource : public TextSource
 {
 public:
-    explicit CustomDateSource(const QString& skeleton) : m_formatter(skeleton) {}
+    explicit CustomDateSource(const QString& skeleton);
 
     QString key() const { return m_formatter.skeleton(); }
-    bool isValid() const { return m_formatter.isValid(); }
+    bool isValid() const { return m_isValid; }
 
     QList<DatedText> texts(const QList<QDateTime>& moments, const QDateTime& anchor) override;
 
 private:
     CustomDateFormatter m_formatter;
+    bool m_isValid;
 };
 
 } // namespace zel::utility::i18n::qml

@@ -61,6 +61,21 @@ TestCase {
         day.skeleton = "yQ";
         compare(day.text, "2 2026");
         compare(day.isValid, true);
+    }
+
+    function test_unknownSkeleton() {
+        ignoreWarning(/tst_CustomDate\.qml:[0-9]+.*CustomDate: skeleton: there is no pattern for "!"/);
+        failOnWarning(/skeleton/);
+        day.skeleton = "!";
+        compare(day.isValid, false);
+        for (const clock of ["12", "24"]) {
+            verify(device.setClock(clock));
+            tryVerify(() => zone.text.startsWith(clock === "12" ? "10:30" : "22:30"), 200);
+            compare(day.text, "");
+        }
+    }
+
+    function cleanup() {
         day.skeleton = "yMMMdhm";
     }
 
