@@ -24,7 +24,7 @@
 /** Major version; a new one breaks source or binary compatibility. */
 #define ZEL_UTILITY_I18N_VERSION_MAJOR 1
 /** Minor version; a new one extends the interface. */
-#define ZEL_UTILITY_I18N_VERSION_MINOR 0
+#define ZEL_UTILITY_I18N_VERSION_MINOR 1
 /** Patch version; a new one does not change the interface. */
 #define ZEL_UTILITY_I18N_VERSION_PATCH 0
 
