@@ -132,7 +132,7 @@ Entry setSkeletonEntry()
 }
 
 // The skeletons of the slots of TimeCritical, under a 24-hour clock.
-const QStringList& ladderSkeletons()
+const QStringList& tableSkeletons()
 {
     static const QStringList side = {QStringLiteral("yMMMM"), QStringLiteral("MMMd"), QStringLiteral("EHmm"),
                                      QStringLiteral("EHmm"),  QStringLiteral("H"),    QStringLiteral("m")};
@@ -140,14 +140,14 @@ const QStringList& ladderSkeletons()
     return both;
 }
 
-void ladderPatterns(const QLocale& chosen)
+void tablePatterns(const QLocale& chosen)
 {
-    for (const QString& skeleton : ladderSkeletons()) {
+    for (const QString& skeleton : tableSkeletons()) {
         floors::bestPattern(chosen, skeleton);
     }
 }
 
-std::vector<Entry> ladderEntries()
+std::vector<Entry> relativeDateEntries()
 {
     const auto ours = std::make_shared<RelativeDateFormatter>(RelativeDateFormat::TimeCritical);
     const auto isOdd = std::make_shared<bool>(false);
@@ -164,7 +164,7 @@ std::vector<Entry> ladderEntries()
          [] {
              floors::lookAt(device().regionFile());
              const QDateTime now = QDateTime::currentDateTime();
-             ladderPatterns(locale);
+             tablePatterns(locale);
              return QString();
          },
          Entry::Same},
@@ -174,7 +174,7 @@ std::vector<Entry> ladderEntries()
              return QString();
          },
          [next] {
-             ladderPatterns(next() ? QLocale(QStringLiteral("de_DE")) : locale);
+             tablePatterns(next() ? QLocale(QStringLiteral("de_DE")) : locale);
              return QString();
          },
          Entry::Same},
@@ -285,7 +285,7 @@ Entry slotEntry(const SlotCalls& calls)
             Entry::Same};
 }
 
-// formatAll() beside ICU's kept formatter. Returns the last text.
+// formatAll() and ICU's reused formatter. Returns the last text.
 std::vector<Entry> listEntries()
 {
     std::vector<Entry> all;
@@ -307,7 +307,7 @@ std::vector<Entry> makeEntries()
     add(customEntries("yMMMdhm", timeSkeleton));
     add(customEntries("yMMMdhmz", zoneSkeleton));
     add({setSkeletonEntry()});
-    add(ladderEntries());
+    add(relativeDateEntries());
     add(listEntries());
     for (const SlotCalls& calls : slotCalls()) {
         add({slotEntry(calls)});

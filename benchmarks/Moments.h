@@ -12,7 +12,7 @@
 /** Moments to format, the same in every run; for Qt 5 and Qt 6. */
 namespace moments {
 
-/** Whole minutes from an anchor, 1 to 59, before and after it by turns. */
+/** Whole minutes from an anchor, 1 to 59, alternately before and after it. */
 inline qint64 minutesAway(int index)
 {
     const qint64 minutes = 1 + index * 37LL % 59;

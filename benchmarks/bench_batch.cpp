@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Times the texts of 1 to 100,000 moments in one call, beside ICU and Qt, on one thread and on two.
+// Times the texts of 1 to 100,000 moments in one call, and those of ICU and Qt, on one thread and on two.
 
 #include "Entry.h"
 #include "List.h"

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Times every entry beside its floor, and one thread against two.
+// Times every entry and its floor, and one thread against two.
 
 #include "Entry.h"
 

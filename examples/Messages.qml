@@ -5,11 +5,11 @@ import QtQuick
 import QtQuick.Window
 import Zel.Utility.I18n
 
-// Ten thousand messages. Each shows when it came, and renews that text when it changes.
+// Ten thousand messages. Each shows when it was received, and its text stays up to date.
 Window {
     id: window
 
-    // 5 minutes, 3 hours and a day before the present minute, and further back from row to row.
+    // 5 minutes, 3 hours and a day before the current minute, and further back from row to row.
     function receivedMoments(): var {
         const now = new Date().setSeconds(0, 0);
         const minutes = row => row < 2 ? [5, 180][row] : 1440 + (row - 2) * 37;

@@ -36,7 +36,7 @@ void showPercentages(QTextStream& out)
         << "  " << toPercentageString(0.5, 2, 2) << '\n';
 }
 
-// A skeleton names the fields; the region decides on order and punctuation.
+// A skeleton names the fields; the region determines order and punctuation.
 void showCustomDates(QTextStream& out)
 {
     CustomDateFormatter formatter(QStringLiteral("yMMMMEEEEd"));

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
 // SPDX-License-Identifier: Apache-2.0
 
-// A list of ten thousand messages whose times grow older, and follow the settings of the user while it is shown.
+// A list of ten thousand messages. Their relative times stay up to date and follow the settings of the user.
 //
 // usage: example_messages [--print]      (also prints the first texts, and each when it changes)
 #include <algorithm>
@@ -61,7 +61,7 @@ public:
     // Called for the rows that are shown.
     QString displayText(const QVariant& value, const QLocale& /*locale*/) const override
     {
-        const QDateTime moment = value.toDateTime().toLocalTime(); // of the time zone at present
+        const QDateTime moment = value.toDateTime().toLocalTime(); // in the current time zone
         const QDateTime validUntil = m_formatter.validUntil(moment);
         if (validUntil.isValid()) {
             wakeUpIn(QDateTime::currentDateTime().msecsTo(validUntil));
@@ -80,7 +80,7 @@ private Q_SLOTS:
         Q_EMIT renewed();
     }
 
-    // The user's clock is read again when it is set again.
+    // Setting the clock again makes the formatter read the user's clock again.
     void followSettings()
     {
         m_formatter.applyUserRegionLocale();
@@ -90,7 +90,7 @@ private Q_SLOTS:
     }
 
 private:
-    static constexpr qint64 longestWait = 60000; // the clock of the system may be set meanwhile
+    static constexpr qint64 longestWait = 60000; // ms; the clock of the system may be set meanwhile
 
     void wakeUpIn(qint64 time) const
     {

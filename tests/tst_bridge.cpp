@@ -69,7 +69,7 @@ private Q_SLOTS:
         row("open quote", "m 'h", QChar('h'), 0, false, -1);
         row("other case", "'H' H", QChar('h'), 0, true, 4);
         row("case counts", "H", QChar('h'), 0, false, -1);
-        row("behind the end", quoted, QChar('h'), 7, false, -1);
+        row("past the end", quoted, QChar('h'), 7, false, -1);
     }
 
     void findsLettersOutsideQuotes()
@@ -95,7 +95,7 @@ private Q_SLOTS:
         QCOMPARE(QString::fromLatin1(Locale::toICU(locale).getName()), icuName);
     }
 
-    void fallbackWalksToTheBogusEnd_data()
+    void fallbackEndsWithTheBogusLocale_data()
     {
         const NamedRow<QByteArray, QByteArray> row;
         row("keywords go first", "de_DE@calendar=gregorian", "de_DE de root end");
@@ -104,7 +104,7 @@ private Q_SLOTS:
         row("root", "root", "end");
     }
 
-    void fallbackWalksToTheBogusEnd()
+    void fallbackEndsWithTheBogusLocale()
     {
         const auto [start, expected] = cells<QByteArray, QByteArray>();
         QByteArrayList chain;
@@ -118,7 +118,7 @@ private Q_SLOTS:
         QCOMPARE(chain.join(' '), expected);
     }
 
-    void fallbackOfTheEndIsFatal()
+    void fallbackOfTheBogusLocaleIsFatal()
     {
         int channel[2] = {-1, -1};
         QCOMPARE(::pipe(channel), 0);
@@ -150,7 +150,7 @@ private Q_SLOTS:
                  messages.constData());
     }
 
-    void messagesAreTheirItemsEachWithOneSpace()
+    void messagesAreItemsWithOneSpaceEach()
     {
         MessageLog log;
         const QStringList keys{QStringLiteral("units"), QStringLiteral("minute-past")};

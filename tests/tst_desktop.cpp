@@ -160,7 +160,7 @@ class DesktopTest : public QObject
 private Q_SLOTS:
     void init() { qputenv("LC_ALL", "de_DE.UTF-8"); }
 
-    void asksThePortal_data()
+    void readsThePortal_data()
     {
         const NamedRow<QString, QString, QByteArray, int, QStringList> row;
         const QStringList unknown = fallback(QStringLiteral("the settings portal has an unknown clock format"));
@@ -179,7 +179,7 @@ private Q_SLOTS:
         row("silence, asked the old way", "old", "silence", "de_DE", 24, silent);
     }
 
-    void asksThePortal()
+    void readsThePortal()
     {
         const auto [kind, value, region, hours, messages] = cells<QString, QString, QByteArray, int, QStringList>();
         Bus bus;
@@ -193,7 +193,7 @@ private Q_SLOTS:
         QVERIFY2(waited <= longestWait, qPrintable(QString::number(waited)));
     }
 
-    void doesWithoutBus_data()
+    void worksWithoutBus_data()
     {
         const NamedRow<bool, QByteArray, QString> row;
         row("no bus", false, {}, "no session bus");
@@ -201,7 +201,7 @@ private Q_SLOTS:
         row("a silent bus", true, {}, "the session bus does not answer");
     }
 
-    void doesWithoutBus()
+    void worksWithoutBus()
     {
         const auto [silent, address, fault] = cells<bool, QByteArray, QString>();
         const SilentBus silentBus;
@@ -288,14 +288,14 @@ private Q_SLOTS:
                 QCOMPARE(action == QLatin1String("watch") && line != expected ? watch->line() : line, expected);
             }
         }
-        QCOMPARE(watch->errors(), losses); // it hears of changes and does not have to poll
+        QCOMPARE(watch->errors(), losses); // it receives changes and does not poll
     }
 
     void followsOnEveryThread()
     {
         Bus bus;
         QVERIFY(bus.isReady() && bus.startPortal("new", QStringLiteral("24h")));
-        std::thread([] { ClockSetting::clockFormat(); }).join(); // the one that asked first is gone
+        std::thread([] { ClockSetting::clockFormat(); }).join(); // the thread of the first query is gone
         QSemaphore isMade;
         QString text;
         const std::unique_ptr<QThread> thread(QThread::create([&] {
@@ -366,7 +366,7 @@ private Q_SLOTS:
         QCOMPARE(Locale::region(), region);
     }
 
-    void tellsOfLocaleChanges()
+    void reportsLocaleChanges()
     {
         QTimer receiver;
         receiver.setSingleShot(true);

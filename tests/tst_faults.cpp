@@ -48,9 +48,9 @@ std::atomic<bool> noInstances{false};
 std::atomic<bool> noWatches{false};
 std::atomic<bool> noConnections{false};
 std::atomic<bool> coarseTimes{false};
-std::atomic<int> looksToTear{0}; // at the region, of which the last finds it torn
+std::atomic<int> statsToTear{0}; // of the region; the last one finds it torn
 constexpr std::size_t longestStep = 1024;
-std::atomic<int> stepsToLive{-1}; // in a process that writes and is to be killed
+std::atomic<int> stepsToLive{-1}; // until the writing process is killed
 
 // The C library's names of these functions for 64-bit files and times.
 #if _TIME_BITS == 64 && __TIMESIZE == 32
@@ -115,7 +115,7 @@ QMetaObject::Connection tryToConnect(const QObject* sender, const char* signal, 
 extern "C" Q_DECL_EXPORT int stat(const char* file, struct stat* status) noexcept
 {
     static const auto look = systemFunction<int (*)(const char*, struct stat*)>(LARGE("stat"));
-    if (looksToTear > 0 && QByteArray(file).endsWith("/pps/system/locale") && --looksToTear == 0) {
+    if (statsToTear > 0 && QByteArray(file).endsWith("/pps/system/locale") && --statsToTear == 0) {
         ::truncate(file, 0);
     }
     const int result = look(file, status);
@@ -159,7 +159,7 @@ extern "C" Q_DECL_EXPORT int rename(const char* from, const char* to) noexcept
 namespace {
 
 const QString path = QStringLiteral("/pps/system/settings");
-constexpr int longerThanQuiet = 70; // a watcher has said by then what it has to say
+constexpr int settlingTime = 70; // ms after which a watcher has reported a change
 constexpr uid_t nobody = 65534;
 
 const QString current = QStringLiteral(U_ICUDATA_NAME);
@@ -170,7 +170,7 @@ void replaceByFile(const QString& directory)
     QVERIFY(QFile(directory).open(QIODevice::WriteOnly));
 }
 
-// Root may do everything, so root becomes nobody.
+// Permissions do not stop root, so root becomes nobody.
 void becomeNobody()
 {
     if (::geteuid() == 0 && ::setresuid(nobody, nobody, 0) != 0) {
@@ -191,7 +191,7 @@ void lockOut(const SettingsRoot& root)
     becomeNobody();
 }
 
-void mend(const SettingsRoot& root)
+void restore(const SettingsRoot& root)
 {
     becomeRoot();
     QFile::setPermissions(root.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
@@ -314,7 +314,7 @@ struct Reader
     int announced = 0;
 };
 
-// Lets a process write until it is killed after a number of steps. Returns the signal that ended it.
+// Runs a process that writes until it is killed after a number of steps. Returns the signal that ended it.
 int killWriter(int number, int steps, Reader& reader)
 {
     const pid_t writer = ::fork();
@@ -377,7 +377,7 @@ int followMount()
     const SettingsRoot root;
     root.setClock("12");
     const PpsManager manager("/pps/system/settings", "@settings", "hourFormat", nullptr);
-    QTest::qWait(longerThanQuiet);
+    QTest::qWait(settlingTime);
     const QByteArray over = QFile::encodeName(root.file("/pps"));
     ::mount("none", over.constData(), "tmpfs", 0, nullptr);
     root.setClock("24");
@@ -393,7 +393,7 @@ class FaultsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    // First, as the process keeps its instance of inotify.
+    // First, because the process keeps its inotify instance.
 
     void followsWithoutInotify_data()
     {
@@ -411,7 +411,7 @@ private Q_SLOTS:
         noInstances = !hasInstances;
         noWatches = hasInstances;
         const PpsManager manager("/pps/system/settings", "@settings", "hourFormat", nullptr);
-        QTest::qWait(longerThanQuiet);
+        QTest::qWait(settlingTime);
         QVERIFY(root.setClock("24"));
         QVERIFY(becomes(manager, 24));
         noInstances = false;
@@ -450,13 +450,13 @@ private Q_SLOTS:
         const SettingsRoot root;
         QVERIFY(root.setClock("12"));
         const PpsManager manager("/pps/system/settings", "@settings", "hourFormat", nullptr);
-        QTest::qWait(longerThanQuiet);
+        QTest::qWait(settlingTime);
         MessageLog log;
         fault(root);
-        QTest::qWait(2 * longerThanQuiet);
+        QTest::qWait(2 * settlingTime);
         const QStringList messages = log.take();
         const QVariant value = manager.value();
-        mend(root);
+        restore(root);
         QCOMPARE(messages, QStringList{failedToRead(root, reason)});
         QCOMPARE(value, QVariant(12));
         QVERIFY(becomes(manager, 24));
@@ -481,7 +481,7 @@ private Q_SLOTS:
         MessageLog log;
         becomeNobody();
         const PpsManager manager("/pps/system/settings", "@settings", "hourFormat", nullptr);
-        QTest::qWait(longerThanQuiet);
+        QTest::qWait(settlingTime);
         becomeRoot();
         QFile::setPermissions(root.file(unreadable), permissions);
         QCOMPARE(log.take(), QStringList{failedToRead(root, QStringLiteral("Permission denied"))});
@@ -496,28 +496,28 @@ private Q_SLOTS:
         QSignalSpy changes(&handler, SIGNAL(changed()));
         coarseTimes = true;
         handler.locale();
-        QTest::qWait(longerThanQuiet);
+        QTest::qWait(settlingTime);
         QVERIFY(root.rewrite("/pps/system/locale", "@locale\nregion::fr_FR\n"));
         const QString name = handler.locale().name();
-        const bool heard = changes.wait();
+        const bool notified = changes.wait();
         coarseTimes = false;
         QCOMPARE(name, QStringLiteral("fr_FR"));
-        QVERIFY(heard);
+        QVERIFY(notified);
     }
 
     // The object is torn between the announced read and the slot, and then restored.
-    void tellsWhatWasTornMeanwhile()
+    void reportsRegionTornMeanwhile()
     {
         const QString region = QStringLiteral("/pps/system/locale");
         const SettingsRoot root;
         QVERIFY(root.setRegion("de_DE"));
         const zel::system::LocaleHandler handler(zel::system::LocaleType::Region);
         QSignalSpy changes(&handler, SIGNAL(changed()));
-        QTest::qWait(longerThanQuiet);
+        QTest::qWait(settlingTime);
         MessageLog log;
-        looksToTear = 3; // two make sure that the change is over
+        statsToTear = 3; // the first two see that the change is over
         QVERIFY(root.rewrite(region, "@locale\nregion::fr_FR\n"));
-        while (looksToTear > 0) {
+        while (statsToTear > 0) {
             QCoreApplication::processEvents();
         }
         QVERIFY(root.rewrite(region, "@locale\nregion::fr_FR\n"));
@@ -554,10 +554,10 @@ private Q_SLOTS:
         QVERIFY(object != nullptr && object->children().isEmpty()); // nothing watches it
     }
 
-    void seesNoTornValue()
+    void readsNoTornValue()
     {
         constexpr int kills = 1000;
-        constexpr int longestLife = 20; // of which one write of the object takes 8
+        constexpr int longestLife = 20; // in steps; one write of the object takes 8
         const SettingsRoot root;
         QVERIFY(root.write(path, generation(0)));
         Reader reader;
@@ -613,7 +613,7 @@ private Q_SLOTS:
         row("root of zeros", "root.res", damaged, [](const QString& file) { change(file, zeroed); });
     }
 
-    // Beside a copy of the library, and named by ICU_DATA. ICU alone would show English, or read past the end of a
+    // Next to a copy of the library, and named by ICU_DATA. ICU alone would show English, or read past the end of a
     // bundle.
     void answersWithIcuDataDamaged()
     {

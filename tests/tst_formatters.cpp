@@ -115,7 +115,7 @@ private Q_SLOTS:
         }
     }
 
-    void withoutHoursNothingListens()
+    void clockIsNotFollowedWithoutHours()
     {
         CustomDateFormatterPrivate d(nullptr, "yMMMd");
         QVERIFY(d.formatter && !d.clockSetting);
@@ -163,7 +163,7 @@ private Q_SLOTS:
         QCOMPARE(CustomDateFormatter("hm").format(instant), QStringLiteral("00:30"));
     }
 
-    void ladder_data()
+    void textsOfSlots_data()
     {
         const Row<QString, QString, QString, QString> row;
         const char* const noon = "2012-05-16T12:00:00"; // a Wednesday
@@ -200,7 +200,7 @@ private Q_SLOTS:
         row("2012-02-28T12:00:00", "2012-03-01T12:00:00", "Thu 12:00", "Thursday");
     }
 
-    void ladder()
+    void textsOfSlots()
     {
         const auto [anchor, moment, timeCritical, nonTimeCritical] = cells<QString, QString, QString, QString>();
         MessageLog log;
@@ -215,7 +215,7 @@ private Q_SLOTS:
         QCOMPARE(log.take(), QStringList());
     }
 
-    void ladderSpeaksTheLocale_data()
+    void textsOfLocales_data()
     {
         const Row<QString, QStringList> row;
         // 5 minutes ago, in 3 hours, yesterday, tomorrow, two days ago, a week ago, last year
@@ -230,7 +230,7 @@ private Q_SLOTS:
         row("he", {"לפני 5 דקות", "בעוד 3 שעות", "אתמול 8:30", "מחר 19:00", "יום ב׳ 12:00", "9 במאי", "מאי 2011"});
     }
 
-    void ladderSpeaksTheLocale()
+    void textsOfLocales()
     {
         const auto [locale, texts] = cells<QString, QStringList>();
         RelativeDateFormatter formatter(RelativeDateFormat::TimeCritical);
@@ -328,7 +328,7 @@ private Q_SLOTS:
         QCOMPARE(formatter.anchorTime(), anchor);
     }
 
-    void typeStartsFromDefaults()
+    void typeResetsToDefaults()
     {
         QVERIFY(setClock(24));
         RelativeDateFormatter formatter(RelativeDateFormat::NonTimeCritical);

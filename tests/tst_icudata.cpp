@@ -475,7 +475,7 @@ private Q_SLOTS:
         QCOMPARE(QByteArray(u_getDataDirectory()), QByteArray("/elsewhere"));
     }
 
-    void environmentComesFirst()
+    void environmentTakesPrecedence()
     {
         const QList<QByteArray> ours{QByteArray(dataDirectory()) + " 1 1"};
         const QString mode = QStringLiteral("--data-directory");
@@ -485,7 +485,7 @@ private Q_SLOTS:
         QCOMPARE(runSelf(mode, QStringLiteral("/elsewhere"), true), ours);
     }
 
-    void generatorMends_data()
+    void generatorRepairs_data()
     {
         const NamedRow<Damage> row;
         row("nothing", [](const QDir&) {});
@@ -496,7 +496,7 @@ private Q_SLOTS:
         row("all gone", [](const QDir& bundles) { QDir(bundles).removeRecursively(); });
     }
 
-    void generatorMends()
+    void generatorRepairs()
     {
         const auto [damage] = cells<Damage>();
         const QTemporaryDir directory;
@@ -532,7 +532,7 @@ private Q_SLOTS:
         QVERIFY(QDir(directory.path()).isEmpty());
     }
 
-    void generatorsRunSideBySide()
+    void generatorsRunConcurrently()
     {
         const QTemporaryDir directory;
         for (int round = 0; round < 3; ++round) {

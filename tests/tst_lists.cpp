@@ -174,7 +174,7 @@ private Q_SLOTS:
         }
     }
 
-    void textsHoldUntil_data()
+    void validUntilTextsChange_data()
     {
         addColumns<RelativeDateFormat::Type, RelativeDateWording::Type>();
         for (const auto type : {RelativeDateFormat::TimeCritical, RelativeDateFormat::NonTimeCritical}) {
@@ -184,7 +184,7 @@ private Q_SLOTS:
         }
     }
 
-    void textsHoldUntil()
+    void validUntilTextsChange()
     {
         const auto [type, wording] = cells<RelativeDateFormat::Type, RelativeDateWording::Type>();
         Moments moments;

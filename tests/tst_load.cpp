@@ -51,14 +51,14 @@ class LoadTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void staysFlat_data()
+    void memoryStaysConstant_data()
     {
         const NamedRow<Write> row;
         row("CustomDateFormatter", Write(writeCustom));
         row("RelativeDateFormatter", Write(writeRelative));
     }
 
-    void staysFlat()
+    void memoryStaysConstant()
     {
         const auto [write] = cells<Write>();
         QVERIFY(m_root.setClock("24") && m_root.setRegion("pl_PL") && m_root.setTimeZone("Asia/Tokyo"));

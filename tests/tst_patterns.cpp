@@ -132,7 +132,7 @@ private Q_SLOTS:
         QCOMPARE(log.take(), unsupported ? warning : QStringList());
     }
 
-    void amPmComesAndGoes_data()
+    void addsAndRemovesAmPm_data()
     {
         const Row<QLocale::Language, QString, QString, QString> row;
         row(QLocale::German, "mm:ss", "mm:ss AP", "mm:ss");
@@ -149,10 +149,10 @@ private Q_SLOTS:
         row(QLocale::French, "hh:mm''", "h:mm AP''", "hh:mm''");
     }
 
-    void amPmComesAndGoes()
+    void addsAndRemovesAmPm()
     {
         auto [language, pattern, added, removed] = cells<QLocale::Language, QString, QString, QString>();
-        const MessageLog log; // of places that are not the language's own
+        const MessageLog log; // about an AM/PM field at an unexpected position
         AmPmField::add(language, pattern);
         QCOMPARE(pattern, added);
         if (AmPmField::isIn(pattern)) {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The stand-ins of the device platform: settings objects and the locale service, on real files.
+// The device platform: settings objects and the locale service, on real files.
 
 #include "support/MessageLog.h"
 #include "support/Rows.h"
@@ -32,7 +32,7 @@ Q_DECLARE_METATYPE(Action)
 namespace {
 
 const QString path = QStringLiteral("/pps/system/locale");
-constexpr int longerThanQuiet = 70; // a watcher has said by then what it has to say
+constexpr int settlingTime = 70; // ms after which a watcher has reported a change
 
 QByteArray object(const char* region)
 {
@@ -56,7 +56,7 @@ struct Watched
     {
         root.write(path, ::object("de_DE"));
         object.open(Subscribe);
-        QTest::qWait(longerThanQuiet);
+        QTest::qWait(settlingTime);
     }
 
     SettingsRoot root;
@@ -141,7 +141,7 @@ private Q_SLOTS:
     }
 
     // A text is decoded, a record encoded.
-    void refuses_data()
+    void rejects_data()
     {
         const NamedRow<QVariant, QString> row;
         row("empty", QByteArray(""), "line 1: no newline at the end");
@@ -180,7 +180,7 @@ private Q_SLOTS:
             "larger than 1048576 bytes");
     }
 
-    void refuses()
+    void rejects()
     {
         const auto [refused, expected] = cells<QVariant, QString>();
         bool ok = true;
@@ -316,11 +316,11 @@ private Q_SLOTS:
         PpsObject watched(path);
         QSignalSpy spy(&watched, SIGNAL(readyRead()));
         QVERIFY(watched.open(Subscribe));
-        QTest::qWait(longerThanQuiet);
+        QTest::qWait(settlingTime);
         QCOMPARE(spy.count(), 0);
         change(root);
         QVERIFY(notifications == 0 || spy.wait());
-        QTest::qWait(longerThanQuiet);
+        QTest::qWait(settlingTime);
         QCOMPARE(spy.count(), notifications);
 
         // Notification continues after every change.
@@ -338,11 +338,11 @@ private Q_SLOTS:
     void notifiesOfWholeObjects()
     {
         Watched watched;
-        QList<QByteArray> heard;
-        connect(&watched.object, &PpsObject::readyRead, this, [&] { heard.append(watched.object.read()); });
+        QList<QByteArray> received;
+        connect(&watched.object, &PpsObject::readyRead, this, [&] { received.append(watched.object.read()); });
         // Another writer leaves the object empty half of the time, for longer than the watcher's timeout.
         constexpr int rewrites = 200;
-        qint64 longestEmpty = 0; // longer than meant on a busy machine
+        qint64 longestEmpty = 0; // may exceed the sleep on a busy machine
         std::thread writer([&] {
             for (int i = 1; i <= rewrites; ++i) {
                 QElapsedTimer empty;
@@ -357,10 +357,10 @@ private Q_SLOTS:
         QTest::qWait(1000);
         writer.join();
         const QByteArray last = object(QByteArray::number(rewrites).constData());
-        QTRY_VERIFY(!heard.isEmpty() && heard.last() == last);
-        QVERIFY2(heard.size() >= 3, qPrintable(QString::number(heard.size())));
+        QTRY_VERIFY(!received.isEmpty() && received.last() == last);
+        QVERIFY2(received.size() >= 3, qPrintable(QString::number(received.size())));
         constexpr int quiet = 20;
-        QVERIFY(longestEmpty >= quiet || !heard.contains(QByteArray()));
+        QVERIFY(longestEmpty >= quiet || !received.contains(QByteArray()));
     }
 
     void notifiesAfterTornRead()
@@ -375,15 +375,15 @@ private Q_SLOTS:
     void readsWhatWasAnnounced()
     {
         Watched watched;
-        QList<QByteArray> heard;
+        QList<QByteArray> received;
         connect(&watched.object, &PpsObject::readyRead, this, [&] {
             // Another writer rewrites it again.
             watched.root.rewrite(path, "@loc");
-            heard.append(watched.object.read());
-            heard.append(watched.object.read());
+            received.append(watched.object.read());
+            received.append(watched.object.read());
         });
         watched.root.write(path, object("fr_FR"));
-        QTRY_COMPARE(heard, (QList<QByteArray>{object("fr_FR"), "@loc"}));
+        QTRY_COMPARE(received, (QList<QByteArray>{object("fr_FR"), "@loc"}));
     }
 
     void stopsNotifying()
@@ -393,7 +393,7 @@ private Q_SLOTS:
         QVERIFY(watched.root.write(path, object("it_IT")));
         QTRY_COMPARE(watched.spy.count(), 1);
         QVERIFY(watched.root.write(path, object("fr_FR")));
-        QTest::qWait(longerThanQuiet);
+        QTest::qWait(settlingTime);
         QCOMPARE(watched.spy.count(), 1);
         watched.object.setReadyReadEnabled(true);
         QTRY_COMPARE(watched.spy.count(), 2);
@@ -408,7 +408,7 @@ private Q_SLOTS:
         QCOMPARE(watches(), 0);
     }
 
-    void takesRegion_data()
+    void readsRegion_data()
     {
         addColumns<QByteArray, QString, QString>();
         const auto accepted = [](const char* value, const char* expected) {
@@ -449,7 +449,7 @@ private Q_SLOTS:
         rejected("torn", "@locale\nregion::de", QStringLiteral("line 2: no newline at the end"));
     }
 
-    void takesRegion()
+    void readsRegion()
     {
         const auto [contents, expected, reason] = cells<QByteArray, QString, QString>();
         const SettingsRoot root;
@@ -494,7 +494,7 @@ private Q_SLOTS:
         QCOMPARE(log.take(), QStringList());
     }
 
-    void reportsEachBadContentOnce()
+    void reportsInvalidContentOnce()
     {
         const SettingsRoot root;
         MessageLog log;
@@ -530,7 +530,7 @@ private Q_SLOTS:
                       .arg(root.file(path))});
     }
 
-    void seesChangeWithinOneTick()
+    void detectsChangeWithinOneTick()
     {
         const SettingsRoot root;
         QVERIFY(root.setRegion("de_DE"));
@@ -546,7 +546,7 @@ private Q_SLOTS:
     {
         const SettingsRoot root;
         QVERIFY(root.setRegion("de_DE"));
-        QCOMPARE(region().name(), QStringLiteral("de_DE")); // stays while there is no object
+        QCOMPARE(region().name(), QStringLiteral("de_DE")); // kept while there is no object
         const QByteArray file = QFile::encodeName(root.file(path));
         const QByteArray other = file + '2';
         std::atomic<bool> done{false};
@@ -579,7 +579,7 @@ private Q_SLOTS:
         QCOMPARE(region().name(), QStringLiteral("fr_FR"));
         QCOMPARE(PpsObject::filePath(path), root.file(path));
 
-        QTest::qSleep(30); // it is not read again for its own sake
+        QTest::qSleep(30); // until the object is too old to be read again for being new
         region();
         const SettingsRoot other;
         QVERIFY(other.write(path, "garbage"));
@@ -615,18 +615,18 @@ private Q_SLOTS:
         QVERIFY2(asking * 10 < reading, qPrintable(QStringLiteral("%1 against %2 ns").arg(asking).arg(reading)));
     }
 
-    void tellsChangedRegion()
+    void reportsChangedRegion()
     {
         const SettingsRoot root;
         QVERIFY(root.setRegion("de_DE"));
         const LocaleHandler handler(Region);
         QSignalSpy spy(&handler, SIGNAL(changed()));
-        QTest::qWait(longerThanQuiet);
+        QTest::qWait(settlingTime);
         QVERIFY(root.setRegion("fr_FR"));
         QTRY_COMPARE(spy.count(), 1);
         QCOMPARE(handler.locale().name(), QStringLiteral("fr_FR"));
         QVERIFY(root.write(path, "@locale\nregion::fr-FR\nlanguage::it\n"));
-        QTest::qWait(longerThanQuiet);
+        QTest::qWait(settlingTime);
         QCOMPARE(spy.count(), 1);
         removeDirectory(root, "/pps");
         QTRY_COMPARE(spy.count(), 2);

@@ -136,7 +136,7 @@ private Q_SLOTS:
         }
     }
 
-    void timeZonesDoNotCount()
+    void timeZonesAreIgnored()
     {
         const QDate day(2012, 3, 25);
         const QDateTime local(day, QTime(10, 0));

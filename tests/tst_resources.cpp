@@ -83,7 +83,7 @@ private Q_SLOTS:
         QVERIFY(m_bundles.compile(QStringLiteral("ar"), arabic));
     }
 
-    void walksAKeyPath_data()
+    void followsAKeyPath_data()
     {
         const NamedRow<QStringList, int, QStringList> row;
         row("no key", {}, URES_TABLE, {});
@@ -98,7 +98,7 @@ private Q_SLOTS:
                  "de_DE@calendar=gregorian "});
     }
 
-    void walksAKeyPath()
+    void followsAKeyPath()
     {
         const auto [keys, type, messages] = cells<QStringList, int, QStringList>();
         MessageLog log;
@@ -108,7 +108,7 @@ private Q_SLOTS:
         QCOMPARE(log.take(), messages);
     }
 
-    void apostrophesStandAsTheyAre()
+    void apostrophesAreUnchanged()
     {
         const QDateTime anchor = QDateTime::fromString(QStringLiteral("2012-05-16T12:00Z"), Qt::ISODate);
         const RelativeDatePattern pattern(QLocale("de_DE"), ClockFormat::Use24hourClock, anchor, QStringLiteral("E"),
@@ -233,7 +233,7 @@ private Q_SLOTS:
                                          "called on an invalid formatter "});
     }
 
-    void formatterOfNoElement()
+    void formatterOfInvalidElement()
     {
         MessageLog log;
         const ResourceFormatter formatter(QLocale("pl"), static_cast<RelativeDateElement::Type>(64), nullptr);

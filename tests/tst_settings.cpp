@@ -133,7 +133,7 @@ private Q_SLOTS:
         QCOMPARE(reader.manager.value(), QVariant(8));
     }
 
-    void clockAnswersTwelveOrTwentyFour_data()
+    void clockIsTwelveOrTwentyFour_data()
     {
         const NamedRow<QByteArray, int, bool> row;
         row("24", "hourFormat:n:24", 24, true);
@@ -145,7 +145,7 @@ private Q_SLOTS:
         row("not set", "other:n:24", 12, true);
     }
 
-    void clockAnswersTwelveOrTwentyFour()
+    void clockIsTwelveOrTwentyFour()
     {
         const auto [attribute, hours, known] = cells<QByteArray, int, bool>();
         // Each row starts from another value, so that there is a change to wait for.
@@ -201,7 +201,7 @@ private Q_SLOTS:
         }
     }
 
-    void timeZoneIsTakenAsItStands()
+    void timeZoneIsUnchecked()
     {
         MessageLog log;
         QVERIFY(TimeZoneSetting::timeZone().isEmpty());
@@ -213,21 +213,21 @@ private Q_SLOTS:
         QCOMPARE(log.take().size(), 1); // of the object that was missing at first
     }
 
-    void regionNotifierCallsUntilItDies()
+    void regionNotifierCallsUntilDestroyed()
     {
         QVERIFY(m_root.setRegion("de_DE"));
         QObject receiver;
-        QSignalSpy heard(&receiver, SIGNAL(destroyed()));
+        QSignalSpy calls(&receiver, SIGNAL(destroyed()));
         {
             const RegionNotifier notifier(&receiver, SIGNAL(destroyed()), nullptr);
             for (const char* const region : {"de_CH", "de_AT"}) {
                 QVERIFY(m_root.setRegion(region));
-                QVERIFY(heard.wait(2000));
+                QVERIFY(calls.wait(2000));
             }
         }
         QVERIFY(m_root.setRegion("de_LU"));
         QTest::qWait(200);
-        QCOMPARE(heard.count(), 2);
+        QCOMPARE(calls.count(), 2);
     }
 
     void enumerationIsReadByName()

@@ -34,7 +34,7 @@ struct Target
     std::string contents;
 };
 
-std::error_code ignored; // what is to be done may not be possible any more
+std::error_code ignored; // an operation may fail after earlier ones
 
 void write(const fs::path& file, const std::string& contents)
 {
@@ -151,7 +151,7 @@ private:
     std::thread m_thread;
 };
 
-// Created on the querying thread. The result tells whether the last value has arrived.
+// Created on the querying thread. The result returns whether the last value has arrived.
 
 auto makeQueries()
 {
@@ -193,13 +193,13 @@ private Q_SLOTS:
         QByteArray read;
         zel::PpsObject object(QStringLiteral("/pps/system/settings"));
         connect(&object, &zel::PpsObject::readyRead, this, [&] { read = object.read(); });
-        QString told;
+        QString reported;
         const zel::system::LocaleHandler handler(zel::system::LocaleType::Region);
-        connect(&handler, &zel::system::LocaleHandler::changed, this, [&] { told = handler.locale().name(); });
+        connect(&handler, &zel::system::LocaleHandler::changed, this, [&] { reported = handler.locale().name(); });
         QVERIFY(object.open(zel::PpsOpenMode::Subscribe));
         // A reader that sees only the last value, which equals the first, receives no signal.
         read = object.read();
-        told = handler.locale().name();
+        reported = handler.locale().name();
         QTRY_VERIFY(queries.isRight() && formatter.isRight());
         QTest::qWait(100);
         const QStringList before = descriptors();
@@ -214,7 +214,7 @@ private Q_SLOTS:
         }
         writer.join();
         QTRY_COMPARE(read, QByteArray(clockTarget(root, 24).contents.c_str()));
-        QTRY_COMPARE(told, QStringLiteral("ja_JP"));
+        QTRY_COMPARE(reported, QStringLiteral("ja_JP"));
         QTRY_VERIFY(queries.isRight());
         QTRY_VERIFY(formatter.isRight());
         QTRY_COMPARE(descriptors(), before);

@@ -37,8 +37,8 @@ namespace {
 constexpr std::array<DateFormat::Type, 4> lengths{DateFormat::Short, DateFormat::Medium, DateFormat::Long,
                                                   DateFormat::Full};
 
-// No other number of it looks like its hour, its year is in the century that Qt takes two digits for, and in no locale
-// does the name of its weekday begin that of another one, which Qt would stop at.
+// Its hour differs from its other numbers, its year is in the century that Qt assumes for two digits, and in no locale
+// is the name of its weekday the beginning of another one's, at which Qt would stop.
 const QDateTime moment = QDateTime::fromString(QStringLiteral("1987-11-30T15:08:42Z"), Qt::ISODate);
 
 const QStringList skeletons{"y",     "yM",     "yMd",        "yMMM", "yMMMd",  "yMMMM",   "yMMMMd",      "yMMMEd",
@@ -303,8 +303,8 @@ private:
             icu::DateFormat::createDateTimeInstance(icu::DateFormat::kNone, icu::DateFormat::kShort, icuLocale));
         icu::UnicodeString ownPattern;
         static_cast<const icu::SimpleDateFormat&>(*own).toPattern(ownPattern);
-        // Of all French only that of Cameroon has it in front; the others changed sides with ICU 76 or 78, or are new
-        // there with the zone in front of the time, where AM/PM goes with it.
+        // Of all French locales, only Cameroon's has AM/PM in front. The others changed sides with ICU 76 or 78, or are
+        // new there and have the zone in front of the time, and AM/PM with it.
         static const QStringList elsewhere{QStringLiteral("fr_CM"),  QStringLiteral("ii_CN"), QStringLiteral("ko_CN"),
                                            QStringLiteral("za_CN"),  QStringLiteral("cv_RU"), QStringLiteral("ta_LK"),
                                            QStringLiteral("tok_001")};

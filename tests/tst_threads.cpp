@@ -252,7 +252,7 @@ private Q_SLOTS:
         QCOMPARE(log.take(), QStringList());
     }
 
-    void endsInSilence_data()
+    void endsWithoutMessages_data()
     {
         QTest::addColumn<QString>("program");
         for (const Program& program : programs) {
@@ -260,7 +260,7 @@ private Q_SLOTS:
         }
     }
 
-    void endsInSilence()
+    void endsWithoutMessages()
     {
         QFETCH(const QString, program);
         const SettingsRoot root;

@@ -300,7 +300,7 @@ private Q_SLOTS:
         }
     }
 
-    void ladderHasEverySlot()
+    void tableHasEverySlot()
     {
         const SettingsRoot root;
         const Result result = run("relative|--table|--locale|en_US|--clock|24|--json");
@@ -317,7 +317,7 @@ private Q_SLOTS:
                                         "September 2013"));
     }
 
-    void columnsStandBelowEachOther()
+    void columnsAreAligned()
     {
         const SettingsRoot root;
         qputenv("TZ", "Asia/Tokyo"); // of the process: a device without a time zone has GMT
@@ -329,17 +329,17 @@ private Q_SLOTS:
         // 年, 月, 日, 時, 分 and 秒 are two columns wide each.
         QCOMPARE(formats.at(3), QString::fromUtf8("date       long    yyyy年M月d日                    2012年5月16日"));
         QCOMPARE(formats.at(5), QString::fromUtf8("time       short   h:mm                            15:30"));
-        const QStringList ladder = run("relative|--table|--type|time-critical|--clock|12|--locale|ja|--locale|en")
-                                       .output.split(QLatin1Char('\n'));
-        QCOMPARE(ladder.at(5), QString::fromUtf8("3 hours before    2012-09-03 07:30  3 時間前        3 hours ago"));
+        const QStringList table = run("relative|--table|--type|time-critical|--clock|12|--locale|ja|--locale|en")
+                                      .output.split(QLatin1Char('\n'));
+        QCOMPARE(table.at(5), QString::fromUtf8("3 hours before    2012-09-03 07:30  3 時間前        3 hours ago"));
         const Result inSpring =
             run("relative|--table|--anchor|2012-03-25T04:30|--type|time-critical|--locale|en|--device|"
                 "time-zone=Europe/Berlin");
         QVERIFY2(inSpring.output.contains("2012-03-25 01:30  3 hours ago\n"), qPrintable(inSpring.output));
-        QCOMPARE(ladder.at(2), QString::fromUtf8("4 days before     2012-08-30 10:30  8月30日         Aug 30"));
+        QCOMPARE(table.at(2), QString::fromUtf8("4 days before     2012-08-30 10:30  8月30日         Aug 30"));
     }
 
-    void badLinesAreReported()
+    void invalidLinesAreReported()
     {
         const SettingsRoot root;
         const Result percentages = run("percent|-|--locale|en_US", "0.5\nhalf\n-1\r\n");
@@ -466,7 +466,7 @@ private Q_SLOTS:
         expectRefusal("device|set|hour-format=24", root.file("/pps/system: Too many levels of symbolic links"));
     }
 
-    void valuesAreNoCommandsToTerminals()
+    void terminalsGetNoControlCharacters()
     {
         const SettingsRoot root;
         QVERIFY(root.setRegion("de\x1b[2J\\nDE\u202e"));
@@ -479,10 +479,10 @@ private Q_SLOTS:
         expectRefusal("device|get|region", root.file("/?/pps/system/locale: Not a directory"));
     }
 
-    void machineThatIsNoDevice()
+    void machineWithoutSettings()
     {
         if (QFileInfo::exists(QStringLiteral("/pps"))) {
-            return; // it is one
+            return; // this machine has settings
         }
         qunsetenv("ZEL_PPS_ROOT");
         const auto error = QStringLiteral("this machine has no /pps; --create makes it, with %1");
@@ -531,7 +531,7 @@ private Q_SLOTS:
         QCOMPARE(run("percent|--locale|en|1").output, QStringLiteral("100%\n")); // needs no settings
     }
 
-    void doctorFindsWhatIsWrong()
+    void doctorReportsProblems()
     {
         const SettingsRoot root;
         const Result bare = run("doctor");
@@ -635,7 +635,7 @@ private Q_SLOTS:
         }
     }
 
-    void throwAwayDeviceLeavesNothing()
+    void simulatedDeviceLeavesNothing()
     {
         const SettingsRoot root;
         // The user's device is neither changed nor read.

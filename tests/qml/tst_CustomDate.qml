@@ -8,14 +8,14 @@ import Zel.Utility.I18n
 TestCase {
     id: test
 
-    // The first test finds the settings as they were when the program began.
+    // The first test has the settings of the program's start.
     readonly property date moment: new Date("2026-05-16T22:30:00")
     readonly property string percentage: formats.percentage(0.256, 1)
     readonly property string patterns: [formats.shortDate, formats.shortTime, formats.shortDateTime].join(" | ")
 
     name: "CustomDate"
 
-    // Spaces that do not break look like any other here.
+    // No-break spaces are replaced by ordinary ones.
     function plain(text) {
         return text.replace(/[\u00a0\u202f]/g, " ");
     }

@@ -72,7 +72,7 @@ Item {
         name: "RelativeDate"
         when: windowShown
 
-        // A space that does not break looks like any other here.
+        // No-break spaces are replaced by ordinary ones.
         function plain(text) {
             return text.replace(/\u202f/g, " ");
         }

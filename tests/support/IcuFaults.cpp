@@ -17,9 +17,9 @@
 #define ZEL_EXPANDED_TEXT(x) ZEL_TEXT(x)
 #define ZEL_SYMBOL(prefix, name) prefix "6icu_" ZEL_EXPANDED_TEXT(U_ICU_VERSION_MAJOR_NUM) name
 
-// Declares the real function and its stand-in under the names that the linker's --wrap gives them. Members take the
-// object as their first parameter, as the C++ ABI passes it. The stand-in is visible because shared libraries name some
-// of these functions, too.
+// Declares the real function and its replacement under the names that the linker's --wrap gives them. Members take the
+// object as their first parameter, as the C++ ABI passes it. The replacement is visible because shared libraries name
+// some of these functions, too.
 #define ZEL_DECLARE(function, result, prefix, name, ...)                                                               \
     result real##function(__VA_ARGS__) asm("__real_" ZEL_SYMBOL(prefix, name));                                        \
     __attribute__((visibility("default"))) result wrap##function(__VA_ARGS__) asm("__wrap_" ZEL_SYMBOL(prefix, name)); \

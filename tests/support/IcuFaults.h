@@ -10,8 +10,8 @@
 #include <unicode/utypes.h>
 
 /**
- * Stands between the code under test and ICU, and makes chosen calls fail. The linker's --wrap sends there what the
- * code under test calls, and nothing that ICU calls itself.
+ * Makes chosen ICU calls of the code under test fail. The linker's --wrap redirects the calls of the code under test,
+ * but not those that ICU makes itself.
  */
 class IcuFaults
 {
@@ -35,7 +35,7 @@ public:
         FunctionCount
     };
 
-    /** The effect of a call: success, failure after the work, null without an error, or failure at once. */
+    /** The effect of a call: success, failure after the work, null without an error, or immediate failure. */
     static constexpr int Works = U_ZERO_ERROR;
     static constexpr int FailsLate = U_INTERNAL_PROGRAM_ERROR;
     static constexpr int ReturnsNull = -1;

@@ -10,7 +10,7 @@
 #include <QtCore/QtGlobal>
 
 /**
- * Records what reaches the Qt message handler while it lives, each message as its type and text:
+ * Records all messages that reach the Qt message handler while it exists, each as its type and text:
  * "warning: text". Any thread may write; one log at a time.
  */
 class MessageLog

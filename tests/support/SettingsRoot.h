@@ -12,8 +12,8 @@
 #include <QtCore/QTemporaryDir>
 
 /**
- * A settings root in a temporary directory, put into ZEL_PPS_ROOT. Objects are written as the text they are on a
- * device, without the code under test.
+ * A settings root in a temporary directory, set as ZEL_PPS_ROOT. Objects are written as text, without the code under
+ * test.
  */
 class SettingsRoot
 {
