@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
 # SPDX-License-Identifier: Apache-2.0
 
-# How every target of this project is compiled, and where it is put.
+# Compiler options and output directories of all targets.
 
 set(CMAKE_CXX_STANDARD 17)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -16,7 +16,7 @@ set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/lib")
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/lib")
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/bin")
 
-# Programs and libraries find each other from where they are, in the build tree as in an installed tree that was moved.
+# Programs and libraries find each other by relative paths, in the build tree and in an installed tree that was moved.
 # A path that CMake replaces on installation would have empty entries, which the loader reads as the current directory.
 file(RELATIVE_PATH libraryFromProgram "${CMAKE_INSTALL_FULL_BINDIR}" "${CMAKE_INSTALL_FULL_LIBDIR}")
 set(CMAKE_INSTALL_RPATH "$ORIGIN" "$ORIGIN/${libraryFromProgram}" "$ORIGIN/../lib")
@@ -28,14 +28,14 @@ if(PROJECT_IS_TOP_LEVEL AND NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYP
 endif()
 
 if(CMAKE_SIZEOF_VOID_P EQUAL 4)
-    # Else stat() fails for large inode numbers, and times end in 2038.
+    # Otherwise stat() fails for large inode numbers, and times end in 2038.
     add_compile_definitions(_FILE_OFFSET_BITS=64 _TIME_BITS=64)
 endif()
 
 add_library(zel_warnings INTERFACE)
 target_compile_options(zel_warnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion)
 if(CMAKE_UNITY_BUILD)
-    # What shadows a name of another file shadows nothing.
+    # In a unity build, -Wshadow also compares names of separate source files.
     target_compile_options(zel_warnings INTERFACE -Wno-shadow)
 endif()
 if(ZEL_WERROR)
@@ -53,7 +53,7 @@ if(ZEL_SANITIZE)
 endif()
 
 # zel_link_library(TARGET MAP): exports what the version script MAP names. The library stays loaded when the plug-in
-# that brought it is unloaded, because Qt keeps pointers to its meta-types.
+# that loaded it is unloaded, because Qt keeps pointers to its meta-types.
 function(zel_link_library target map)
     set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS "${map}")
     target_link_options(${target} PRIVATE "LINKER:--version-script=${map}" "LINKER:-z,nodelete")

@@ -14,7 +14,7 @@ else()
 endif()
 
 
-# The QML module, where it is wanted and can be. From here on ZEL_QML is ON or OFF.
+# The QML module, if requested and possible. From here on ZEL_QML is ON or OFF.
 if(ZEL_QT_MAJOR EQUAL 5)
     if(NOT ZEL_QML STREQUAL AUTO AND ZEL_QML)
         message(FATAL_ERROR "ZEL_QML is ${ZEL_QML}, but the QML module needs Qt 6")

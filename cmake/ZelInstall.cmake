@@ -1,9 +1,9 @@
 # SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
 # SPDX-License-Identifier: Apache-2.0
 
-# What is installed, and with which part: the library, its data, the files to develop with, the tool.
-# Applications see the public headers and one library. The platform libraries come along because it needs them;
-# they have neither headers nor a name to link with.
+# The installed files by component: the library, its data, the development files, the tool.
+# Applications use the public headers and one library. The platform libraries are installed because it needs them, without
+# headers and without a name to link with.
 
 include(CMakePackageConfigHelpers)
 
@@ -24,7 +24,7 @@ if(ZEL_BUILD_TOOL)
     install(TARGETS zel-i18n RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT tool)
     install(FILES "${PROJECT_SOURCE_DIR}/tools/zel-i18n.1"
         DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT tool)
-    # Where shells look. Debian's zsh looks below /usr in share/zsh/vendor-completions instead.
+    # The directories that the shells search; below /usr, Debian's zsh searches share/zsh/vendor-completions.
     if(NOT ZEL_ZSH_COMPLETIONS)
         set(ZEL_ZSH_COMPLETIONS "${CMAKE_INSTALL_DATADIR}/zsh/site-functions")
     endif()

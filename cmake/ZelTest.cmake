@@ -20,7 +20,7 @@ function(zel_add_test name)
     target_include_directories(tst_${name} PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}")
     target_link_libraries(tst_${name} PRIVATE zelutilityi18n_static Qt::Test zel_warnings)
     if(Qt6Test_VERSION VERSION_GREATER_EQUAL 6.7 AND Qt6Test_VERSION VERSION_LESS 6.11)
-        # The QTRY macros of these versions convert carelessly themselves.
+        # The QTRY macros of these versions cause conversion warnings.
         set_source_files_properties(tst_${name}.cpp PROPERTIES COMPILE_OPTIONS -Wno-conversion)
     endif()
     add_test(NAME ${name} COMMAND tst_${name} ${ZEL_TEST_FUNCTIONS})

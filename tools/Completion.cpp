@@ -117,7 +117,7 @@ Completion::Proposals Completion::arguments(const Command& command, const QStrin
 try {
     return withoutDescriptions({}, command.proposals(Arguments(command.allOptions(), before).positional(), word));
 } catch (const Failure&) {
-    return {}; // the words before make no command
+    return {}; // no such command
 }
 
 Completion::Proposals Completion::commands() const

@@ -17,7 +17,7 @@ namespace zel::tool {
 class Command;
 class Console;
 
-/** Proposes words for the end of a command line, so that every shell completes the same. */
+/** Proposes words for the end of a command line, so that completion is the same in every shell. */
 class Completion
 {
 public:
@@ -26,7 +26,7 @@ public:
     explicit Completion(const Commands& commands) : m_commands(commands) {}
 
     /**
-     * Writes the proposals for the last word, one a line: the word, a tab and a description, which may be empty. The
+     * Writes the proposals for the last word, one per line: the word, a tab and a description, which may be empty. The
      * status is NoAnswer if the word is the name of a file, which the shell completes itself.
      *
      * @param words the command line without the name of the program

@@ -55,7 +55,7 @@ try {
     console.flush();
     return status;
 } catch (const Failure& failure) {
-    console.complain(failure.text());
+    console.printError(failure.text());
     return failure.status();
 }
 

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
 # SPDX-License-Identifier: Apache-2.0
 
-# What the toolchains share. CMAKE_SYSROOT names a directory with the packages of the target; scripts/build-for makes one.
+# The common part of the toolchains. CMAKE_SYSROOT names a directory with the packages of the target; scripts/build-for creates one.
 
 set(CMAKE_SYSTEM_NAME Linux)
 set(CMAKE_CXX_COMPILER ${zelTriplet}-g++)

@@ -87,7 +87,7 @@ QString explanation(const QDBusError& error)
     return QStringLiteral("the settings portal does not tell: ") + error.message();
 }
 
-// Errors whose end no signal reports.
+// Errors that end without a signal.
 bool isSilence(const QDBusError& error)
 {
     switch (error.type()) {
@@ -238,7 +238,7 @@ void SettingsPortal::ask(const QString& method)
 void SettingsPortal::onFinished()
 {
     if (!m_call || !m_call->isFinished()) {
-        return; // of an abandoned call
+        return; // the answer to an abandoned call
     }
     const QDBusPendingReply<QDBusVariant> reply = *m_call;
     if (!reply.isError()) {

@@ -32,8 +32,8 @@ public:
     }
 
     /**
-     * Whether the file changed just now, so that another change within the same tick of its time stamps would leave the
-     * stamp as it is. A tick is some milliseconds, or up to two seconds where the time has no fraction.
+     * Whether the file changed so recently that another change within the same tick of its time stamps would not change
+     * the stamp. A tick is some milliseconds, or up to two seconds where the time has no fraction.
      */
     bool isFresh() const
     {

@@ -18,8 +18,8 @@ namespace zel {
 class PpsWatcher;
 
 /**
- * The inotify instance of the process, shared by the watchers of all threads, as a user has few instances. Also reports
- * mounts, which inotify does not.
+ * The inotify instance of the process, shared by the watchers of all threads, because a user may have only a few. Also
+ * reports mounts, which inotify does not.
  *
  * Every thread that added a watch delivers events, through its event loop, to the watchers of all threads.
  */

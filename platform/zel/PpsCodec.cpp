@@ -23,7 +23,7 @@ QString decodeText(const QByteArray& line, QString& text)
         return QStringLiteral("NUL character");
     }
     text = QString::fromUtf8(line);
-    // Qt replaces or drops invalid bytes, so that they do not come back.
+    // Qt replaces or drops invalid bytes, so that encoding the text again gives other bytes.
     return text.toUtf8() == line ? QString() : QStringLiteral("not valid UTF-8");
 }
 
@@ -137,7 +137,7 @@ QByteArray encodeReal(double real)
     std::array<char, 32> text{};
     const auto [end, error] = std::to_chars(text.begin(), text.end(), real);
     QByteArray digits(text.data(), static_cast<int>(end - text.begin()));
-    // A whole number would come back as an integer.
+    // A whole number would be decoded as an integer.
     const bool whole =
         std::all_of(digits.begin(), digits.end(), [](char c) { return c == '-' || (c >= '0' && c <= '9'); });
     return whole ? digits + ".0" : digits;
@@ -203,7 +203,7 @@ QByteArray PpsCodec::encode(const QVariantMap& record, QString& error)
     for (auto attribute = attributes.begin(); attribute != attributes.end(); ++attribute) {
         contents += attribute.key().toUtf8() + encodeValue(attribute.value()) + '\n';
     }
-    // Decoding knows every rule: a record that it does not give back cannot be encoded.
+    // decode() applies all rules: a record that it does not return unchanged cannot be encoded.
     const bool same = decode(contents, error) == record;
     if (!same && error.isEmpty()) {
         error = QStringLiteral("holds what an object cannot");

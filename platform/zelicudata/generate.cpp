@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 // zel-icudata-gen [--unless-sound] [--for=<kind>] <directory>: writes ICU's locale bundles, with phrase tables added,
-// to <directory>/<icudtNNl>. A kind is that of ICU's data, "ICU 72.1, little-endian", in case that is another ICU's.
+// to <directory>/<icudtNNl>. With --for, fails unless ICU's data is of that kind, such as "ICU 72.1, little-endian".
 
 #include "BundleList.h"
 #include "PhraseTables.h"

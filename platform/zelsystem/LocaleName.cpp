@@ -70,8 +70,8 @@ QString join(const Parts& parts)
     return name;
 }
 
-// Not every Qt version gives script codes. These scripts are shared by several languages; any other one belongs to one
-// language, so that it suffices that the locale has none of these.
+// Not every Qt version has script codes. These scripts are shared by several languages. Any other script belongs to one
+// language, so it is enough to check that the locale's script is none of these.
 bool hasScript(const QLocale& locale, const QString& code)
 {
     using Scripts = QHash<QString, QLocale::Script>;

@@ -17,7 +17,7 @@ namespace {
 
 constexpr const char* objectPath = "/pps/system/locale";
 
-// As the C library chooses the locale for times; empty for its own.
+// The locale for times, chosen as by the C library; empty for its default.
 const char* posixLocaleName()
 {
     const char* const variable = LocaleName::variable();
@@ -111,7 +111,7 @@ bool RegionCache::refresh()
         isTorn = next.isTorn;
         m_region = std::move(next);
     }
-    // Outside the lock: the message handler may ask for the region, to write the time.
+    // Outside the lock: the message handler may query the region to format the time.
     if (!message.isEmpty()) {
         qWarning("zel::system::LocaleHandler: %s", qUtf8Printable(message));
     }
@@ -136,7 +136,7 @@ RegionCache::Region RegionCache::Region::next() const
     region.object = reading.object;
     region.isTorn = !reading.error.isEmpty() && !reading.object->isCurrent();
     if (wasSet && !reading.error.isEmpty()) {
-        // Half an object that is new is most likely being rewritten.
+        // An incomplete new object is most likely still being written.
         if (!region.isTorn || !reading.isRead) {
             region.report(reading.error, reading.contents);
         }

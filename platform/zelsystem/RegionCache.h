@@ -50,12 +50,12 @@ private:
         std::shared_ptr<PpsObject> object; // as it was read; null before the first time
         QByteArray root;
         bool isSet = false; // the locale is that of the object
-        QString name;       // by which the object gave it
+        QString name;       // as written in the object
         QByteArray posix;   // the name of the fallback
         QLocale locale = QLocale::c();
         QByteArray reported; // the last reported error, with its content
         bool isTorn = false; // the object is being written
-        QString message;     // what is to be reported now
+        QString message;     // to be written now
 
         bool isCurrent() const;
         Region next() const;

@@ -18,7 +18,7 @@ public:
     /** The instant of a moment. */
     static UDate toICU(const QDateTime& dateTime);
 
-    /** The date and time that a moment shows, whatever its time zone, taken as GMT. */
+    /** The date and time that a moment shows, regardless of its time zone, interpreted as GMT. */
     static UDate wallClock(const QDateTime& dateTime);
 };
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
 // SPDX-License-Identifier: Apache-2.0
 
-// The region locale, asked of the Linux host.
+// The region locale of the Linux host.
 
 #include "bridge/Locale.h"
 

@@ -33,7 +33,7 @@ int behindUnit(const QString& format, int fieldEnd)
         return fieldEnd;
     }
     const auto end = static_cast<int>(format.indexOf(QLatin1Char('\''), start + 1)) + 1;
-    if (end <= start + 2) { // an apostrophe that is no quote
+    if (end <= start + 2) { // a literal apostrophe, not a quoted text
         return fieldEnd;
     }
     return charAt(format, end) == QLatin1Char('.') ? end + 1 : end;

@@ -118,7 +118,7 @@ bool replaceWithSystemClockFormat(const QLocale& locale, QString& format)
     }
 }
 
-// A translated pattern under the clock of the device.
+// Changes a translated pattern to the clock of the device.
 QString followClock(const QLocale& locale, QString pattern, const char* failure)
 {
     if (!replaceWithSystemClockFormat(locale, pattern)) {

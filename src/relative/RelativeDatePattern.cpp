@@ -139,7 +139,7 @@ QString RelativeDatePattern::withPhrase(const QString& text, RelativeDateElement
     }
     QString literal = phrase;
     literal.replace(QLatin1Char('\''), QLatin1String("''"));
-    // Literal text around a single field belongs to its number ("15 Uhr"), not to a phrase.
+    // Literal text around a single field belongs to its number ("15 Uhr"), not to the phrase.
     if (isAlone(element)) {
         return RelativeDate::apply(PatternText(m_pattern).fields(), element, literal);
     }

@@ -14,8 +14,8 @@ class PpsManager;
 
 /**
  * The clock setting of the device. An object relays the changes of the process's shared reader, through the event loop
- * of the thread that created it; a thread without one can query at any time. On a desktop the value is the last one
- * that arrived through the event loop of any thread.
+ * of the thread that created it; a thread without an event loop can query at any time. On a desktop the value is the
+ * last one that arrived through the event loop of any thread.
  */
 class ClockSetting : public QObject
 {

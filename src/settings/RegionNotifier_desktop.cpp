@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
 // SPDX-License-Identifier: Apache-2.0
 
-// Changes of the region, heard from the Linux host.
+// Changes of the region of the Linux host.
 
 #include "settings/RegionNotifier.h"
 

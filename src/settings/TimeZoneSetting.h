@@ -14,7 +14,7 @@ class PpsManager;
 
 /**
  * The time zone of the device. An object relays the changes of the process's shared reader, through the event loop of
- * the thread that created it; a thread without one can query at any time.
+ * the thread that created it; a thread without an event loop can query at any time.
  */
 class TimeZoneSetting : public QObject
 {

@@ -25,7 +25,7 @@ void readClock()
 
 void readSettings()
 {
-    i18n::toPercentageString(0, 0, 0); // asks for the region only
+    i18n::toPercentageString(0, 0, 0); // reads only the region
     readClock();
     const Messages dropped;
     i18n::CustomDateFormatter(QStringLiteral("z")).format({});

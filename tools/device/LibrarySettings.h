@@ -6,16 +6,16 @@
 
 namespace zel::tool {
 
-/** The clock that the library takes the device to have: 12 or 24. */
+/** The clock of the device as the library sees it: 12 or 24. */
 int libraryClock();
 
 /**
- * Has the library read the clock of the device, and drops what it says. To be called when the setting can be read: it
- * says no more then than that nobody has made it, which is nothing to worry about, as defaults apply.
+ * Makes the library read the clock of the device, and drops its messages. Call after checking that the setting can be
+ * read: the library then only reports that it is not set, and uses the default.
  */
 void readClock();
 
-/** The same for the clock and the time zone. What the library says of the region is shown. */
+/** The same for the clock and the time zone. Messages about the region are shown. */
 void readSettings();
 
 } // namespace zel::tool

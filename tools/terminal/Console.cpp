@@ -102,7 +102,7 @@ int Console::writeSome(const char* text, int size) const
     return 0;
 }
 
-void Console::complain(const QString& text)
+void Console::printError(const QString& text)
 {
     flush();
     std::fprintf(stderr, "zel-i18n: %s\n", printable(text).toUtf8().constData());

@@ -41,7 +41,7 @@ public:
     void flush();
 
     /** Prints one line on standard error, after all output so far. */
-    void complain(const QString& text);
+    void printError(const QString& text);
 
     /** Reads available input, and waits only if there is none. Returns the number of bytes, 0 at the end. */
     int read(char* target, int size);

@@ -14,7 +14,7 @@ void LineAnswers::report(const Line& line)
              {QStringLiteral("error"), line.error}});
     }
     m_reader.eraseProgress();
-    m_console.complain(QStringLiteral("line %1: ").arg(line.number) + line.error);
+    m_console.printError(QStringLiteral("line %1: ").arg(line.number) + line.error);
     m_status = NoAnswer;
 }
 

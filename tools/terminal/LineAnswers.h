@@ -13,14 +13,14 @@
 
 namespace zel::tool {
 
-/** Answers the lines of standard input in their order. What is there already is formatted in one call. */
+/** Answers the lines of standard input in their order. Lines that are already available are formatted in one call. */
 class LineAnswers
 {
 public:
     LineAnswers(Console& console, bool json) : m_console(console), m_json(json) {}
 
     /**
-     * A line for which reading or writing is a Failure is reported and passed over; with JSON also in the output.
+     * A line for which reading or writing is a Failure is reported and skipped; with JSON also reported in the output.
      *
      * @param read makes a value of the text of a line
      * @param format makes a list of texts of a list of values

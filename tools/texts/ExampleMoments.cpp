@@ -39,7 +39,7 @@ QString name(const Distance& distance)
         .arg(units.at(static_cast<int>(distance.unit)), QLatin1String(distance.count == 1 ? "" : "s"));
 }
 
-// By the reading of a clock, as texts count, also where clocks are put forward or back.
+// By the reading of a clock, as texts count, even across a clock change.
 QDateTime movedReading(const QDateTime& anchor, qint64 seconds)
 {
     QDateTime reading = QDateTime::fromMSecsSinceEpoch(0).toUTC();

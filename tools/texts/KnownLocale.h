@@ -9,7 +9,7 @@
 
 namespace zel::tool {
 
-/** A locale that --locale takes, with what a user looks for it by. */
+/** A locale that --locale accepts, with the names by which a user may search for it. */
 class KnownLocale
 {
 public:

@@ -11,7 +11,7 @@ namespace zel::tool {
 
 namespace {
 
-// What a text says, before it is known to make a moment.
+// The parts of a text before it is known to be a valid moment.
 struct Reading
 {
     QDate day;

@@ -28,7 +28,7 @@ public:
     bool accept(std::string_view characters);
     void expect(std::string_view characters) { m_good = accept(characters) && m_good; }
 
-    /** Skips all following characters of these. */
+    /** Skips all of these characters that follow. */
     void skip(std::string_view characters);
 
     /** A number with exactly this many digits. */
