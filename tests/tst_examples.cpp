@@ -96,14 +96,14 @@ Relative dates
   in the user's region again: 5 minutes ago
   in days, as type 2: today
   as of now: today)");
-        row("threads", {}, R"(en_GB  100 dates  3 Sept 2012  5 minutes ago
-de_DE  100 dates  3 Sept 2012  vor 5 Minuten
-fr_FR  100 dates  3 Sept 2012  il y a 5 minutes
-pl_PL  100 dates  3 Sept 2012  5 minut temu
-ar_EG  100 dates  3 Sept 2012  قبل ٥ دقائق
-ja_JP  100 dates  3 Sept 2012  5 分前
-he_IL  100 dates  3 Sept 2012  לפני 5 דקות
-th_TH  100 dates  3 Sept 2012  5 นาทีที่ผ่านมา)");
+        row("threads", {}, R"(en_GB  200 texts  3 Sept 2012  5 minutes ago
+de_DE  200 texts  3 Sept 2012  vor 5 Minuten
+fr_FR  200 texts  3 Sept 2012  il y a 5 minutes
+pl_PL  200 texts  3 Sept 2012  5 minut temu
+ar_EG  200 texts  3 Sept 2012  قبل ٥ دقائق
+ja_JP  200 texts  3 Sept 2012  5 分前
+he_IL  200 texts  3 Sept 2012  לפני 5 דקות
+th_TH  200 texts  3 Sept 2012  5 นาทีที่ผ่านมา)");
     }
     void output()
     {
