@@ -52,7 +52,7 @@ public:
     {
         m_formatter.setWording(RelativeDateWording::Natural);
         m_timer.setSingleShot(true);
-        m_ready = connect(&m_timer, SIGNAL(timeout()), this, SLOT(renew())) &&
+        m_ready = connect(&m_timer, SIGNAL(timeout()), this, SLOT(refresh())) &&
                   m_formatter.connectToSettings(this, SLOT(followSettings()));
     }
 
@@ -69,15 +69,15 @@ public:
         return m_formatter.format(moment);
     }
 
-    Q_SIGNAL void renewed();
+    Q_SIGNAL void refreshed();
 
 private Q_SLOTS:
-    void renew()
+    void refresh()
     {
         m_formatter.applyCurrentTimeAsAnchor();
         m_view->viewport()->update();
         wakeUpIn(longestWait);
-        Q_EMIT renewed();
+        Q_EMIT refreshed();
     }
 
     // Setting the clock again makes the formatter read the user's clock again.
@@ -86,7 +86,7 @@ private Q_SLOTS:
         m_formatter.applyUserRegionLocale();
         m_formatter.setClockFormat(ClockFormat::ApplyLocaleFormat);
         m_formatter.setClockFormat(ClockFormat::ApplyUserFormat);
-        renew();
+        refresh();
     }
 
 private:
@@ -148,7 +148,7 @@ int main(int argc, char* argv[])
     Printer printer(list, delegate);
     if (QApplication::arguments().contains(QStringLiteral("--print"))) {
         printer.print();
-        QObject::connect(&delegate, SIGNAL(renewed()), &printer, SLOT(print()));
+        QObject::connect(&delegate, SIGNAL(refreshed()), &printer, SLOT(print()));
     }
     return delegate.isReady() ? QApplication::exec() : 1;
 }

@@ -222,7 +222,7 @@ QByteArray utf8(const icu::UnicodeString& text)
     return QByteArray::fromStdString(text.toUTF8String(bytes));
 }
 
-// ICU's results from the data beside the additions: dates in three calendars, the week, and the source locale.
+// ICU's results from the data other than the additions: dates in three calendars, the week, and the source locale.
 QByteArray describe(const char* name)
 {
     QByteArray text(name);

@@ -43,7 +43,7 @@ std::string problemOf(const fs::path& bundles, Check check)
     return problem.empty() ? problem : bundles.string() + ": " + problem;
 }
 
-// The directory beside the library, or the reason why none can be used.
+// The directory next to the library, or the reason why none can be used.
 struct Found
 {
     std::string directory;

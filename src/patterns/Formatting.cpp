@@ -70,7 +70,7 @@ QString withAMPMForDayPeriods(const QString& pattern)
     return result;
 }
 
-// The clock rewriting and Qt's parser accept only a plain space beside an AM/PM field.
+// The clock rewriting and Qt's parser accept only a plain space next to an AM/PM field.
 QString withPlainSpacesAroundAMPM(const QString& pattern)
 {
     const PatternText fields(pattern);

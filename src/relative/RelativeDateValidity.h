@@ -11,7 +11,7 @@
 namespace zel::utility::i18n {
 
 /**
- * The time until which the text of a moment holds while the anchor advances.
+ * The time until which the text of a moment stays the same while the anchor advances.
  *
  * @code
  * const RelativeDateValidity validity(RelativeDateTable(RelativeDateFormat::TimeCritical), RelativeDateWording::Exact);
@@ -27,7 +27,7 @@ public:
     {
     }
 
-    /** The first anchor with another text, in the time zone of the present one; invalid if there is none. */
+    /** The first later anchor with another text, in the time zone of the given one; invalid if there is none. */
     QDateTime until(const QDateTime& anchor, const QDateTime& moment) const;
 
 private:
