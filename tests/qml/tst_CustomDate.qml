@@ -58,8 +58,8 @@ TestCase {
 
     function test_skeleton() {
         compare(day.isValid, true);
-        day.skeleton = "yQ";
-        compare(day.text, "2 2026");
+        day.skeleton = "yMMMM";
+        compare(day.text, "May 2026");
         compare(day.isValid, true);
     }
 
