@@ -46,7 +46,7 @@ void showAll(const Arguments& arguments, Console& console)
 void get(const QStringList& keys, const Arguments& arguments, Console& console)
 {
     if (keys.size() > 1) {
-        throw Failure::usage(QStringLiteral("'get' takes one key or none"));
+        throw Failure::usage(QStringLiteral("'get' takes at most one key"));
     }
     if (keys.isEmpty()) {
         showAll(arguments, console);

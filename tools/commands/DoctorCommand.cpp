@@ -182,7 +182,7 @@ CommandHelp DoctorCommand::help() const
 ExitStatus DoctorCommand::run(const Arguments& arguments, Console& console) const
 {
     if (!arguments.positional().isEmpty()) {
-        throw Failure::usage(QStringLiteral("no argument expected, not ") + quoted(arguments.positional().first()));
+        throw Failure::usage(QStringLiteral("unexpected argument ") + quoted(arguments.positional().first()));
     }
     const QList<Finding> findings =
         QList<Finding>{examineLibrary(), examineQt(), examineIcu(), examineData(), examinePhrases()} +

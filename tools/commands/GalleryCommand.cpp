@@ -71,8 +71,9 @@ void requireUsage(const Arguments& arguments)
         return !file.isEmpty() && file != standardOutput;
     };
     const QStringList words = arguments.positional();
-    requireUsage(words.isEmpty(),
-                 quoted(words.value(0)) + QStringLiteral(" is no option; name a file with --html or --tsv"));
+    requireUsage(
+        words.isEmpty(),
+        QStringLiteral("unexpected argument %1; name a file with --html or --tsv").arg(quoted(words.value(0))));
     requireUsage(arguments.has(QStringLiteral("html")) || arguments.has(QStringLiteral("tsv")) ||
                      arguments.has(QStringLiteral("compare")),
                  QStringLiteral("no file given with --html, --tsv or --compare"));

@@ -50,7 +50,7 @@ SettingsLock::SettingsLock(const QString& path) : m_umask(::umask(readableByAll)
         ::umask(m_umask);
         throw Failure(
             directory + QLatin1String(": ") +
-            (error == EWOULDBLOCK ? QStringLiteral("somebody else keeps it locked") : qt_error_string(error)));
+            (error == EWOULDBLOCK ? QStringLiteral("another program holds the lock") : qt_error_string(error)));
     }
 }
 

@@ -249,15 +249,16 @@ QByteArray GalleryPage::begin(int locales, int marked, bool isCompared)
 {
     const auto changes =
         isCompared ? QStringLiteral("<label><input type=checkbox name=changed> changed only</label>\n") : QString();
-    return head + QStringLiteral("<header><h1>Gallery of locales</h1>\n"
-                                 "<p>%1 locales of ICU %2 with Qt %3; on %4 of them a row is marked, with the reason.\n"
-                                 "<form hidden><input type=search name=search placeholder=\"Locale or language\" "
-                                 "aria-label=\"Show only these\">\n"
-                                 "<label><input type=checkbox name=mark> marked only</label>\n%5"
-                                 "<output name=count></output></form></header>\n<main>\n")
-                      .arg(QString::number(locales), QStringLiteral(U_ICU_VERSION), QLatin1String(qVersion()),
-                           QString::number(marked), changes)
-                      .toUtf8();
+    return head +
+           QStringLiteral("<header><h1>Gallery of locales</h1>\n"
+                          "<p>%1 locales of ICU %2 with Qt %3; %4 of them have a marked row, which gives the reason.\n"
+                          "<form hidden><input type=search name=search placeholder=\"Locale or language\" "
+                          "aria-label=\"Show only these\">\n"
+                          "<label><input type=checkbox name=mark> marked only</label>\n%5"
+                          "<output name=count></output></form></header>\n<main>\n")
+               .arg(QString::number(locales), QStringLiteral(U_ICU_VERSION), QLatin1String(qVersion()),
+                    QString::number(marked), changes)
+               .toUtf8();
 }
 
 QByteArray GalleryPage::section(const GalleryEntry& entry, const QStringList& clocks)
@@ -268,8 +269,8 @@ QByteArray GalleryPage::section(const GalleryEntry& entry, const QStringList& cl
     QByteArray html = "<section id=\"" + escaped(entry.locale) + "\" lang=\"" + escaped(language) +
                       "\" dir=" + (rightToLeft ? "rtl>\n" : "ltr>\n") + heading(entry.locale);
     if (entry.clocks.isEmpty()) {
-        return html + "<p class=mark lang=en dir=ltr><span>Qt does not know this locale, so that the library cannot be "
-                      "asked for it.</span></section>\n";
+        return html + "<p class=mark lang=en dir=ltr><span>Qt does not know this locale, so the library cannot format "
+                      "for it.</span></section>\n";
     }
     int relative = 0;
     while (relative < entry.size() && !entry.clocks.first()[relative].group.startsWith(QLatin1String("relative"))) {

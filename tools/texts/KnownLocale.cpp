@@ -49,7 +49,7 @@ std::vector<Texts> phraseTables(const char* locale)
 QString titleIn(const QString& name, const QString& language)
 {
     if (name == QLatin1String("C")) {
-        return QStringLiteral("no locale, as in English");
+        return QStringLiteral("C locale (English)");
     }
     icu::UnicodeString title;
     icu::Locale::createCanonical(name.toLatin1().constData())

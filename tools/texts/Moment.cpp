@@ -157,7 +157,7 @@ QDateTime Moment::parse(std::string_view text, const QTimeZone& zone)
                     qAbs(reading.offset.value_or(0)) <= largestOffset,
                 text);
     QDateTime moment = dateTime(reading, zone);
-    require(moment.isValid(), text, QStringLiteral(" does not exist in local time, where clocks are put forward then"));
+    require(moment.isValid(), text, QStringLiteral(" does not exist in local time, as clocks are put forward then"));
     return moment;
 }
 
