@@ -23,8 +23,10 @@ function(zel_add_test name)
         # The QTRY macros of these versions cause conversion warnings.
         set_source_files_properties(tst_${name}.cpp PROPERTIES COMPILE_OPTIONS -Wno-conversion)
     endif()
+    target_compile_definitions(tst_${name} PRIVATE ZEL_TEST_TIMEOUT_MS=${ZEL_TEST_TIMEOUT}000)
     add_test(NAME ${name} COMMAND tst_${name} ${ZEL_TEST_FUNCTIONS})
-    set_tests_properties(${name} PROPERTIES TIMEOUT ${ZEL_TEST_TIMEOUT})
+    set_tests_properties(${name} PROPERTIES TIMEOUT ${ZEL_TEST_TIMEOUT}
+        ENVIRONMENT_MODIFICATION "QTEST_FUNCTION_TIMEOUT=set:${ZEL_TEST_TIMEOUT}000")
     if(ZEL_SANITIZE MATCHES thread)
         # Qt, ICU and the C library are not instrumented: the sanitizer cannot see their locks and atomics.
         set_tests_properties(${name} PROPERTIES ENVIRONMENT "TSAN_OPTIONS=ignore_noninstrumented_modules=1")

@@ -608,15 +608,18 @@ private Q_SLOTS:
         QVERIFY(root.remove(settings));
         QVERIFY(root.setClock("24"));
         QString line = watch.line(second);
-        if (line.startsWith(QLatin1String("4:30"))) { // a slow machine shows the object that is not there, too
+        const bool sawNoObject = line.startsWith(QLatin1String("4:30")); // on a slow machine
+        if (sawNoObject) {
             line = watch.line(second);
         }
         QCOMPARE(line, QStringLiteral("16:30 MESZ"));
 
         watch.signal(SIGTERM);
         const Result result = watch.finish();
-        QCOMPARE(result.errors, QStringLiteral("zel-i18n: void zel::utility::i18n::PpsManager::onPpsUpdate() failed to "
-                                               "decode PPS payload from /pps/system/settings\n"));
+        const QStringList errors = result.errors.split(QLatin1Char('\n'));
+        QCOMPARE(errors.at(0), QStringLiteral("zel-i18n: void zel::utility::i18n::PpsManager::onPpsUpdate() failed to "
+                                              "decode PPS payload from /pps/system/settings"));
+        QCOMPARE(errors.size(), sawNoObject ? 3 : 2);
         QCOMPARE(result.status, 0);
         QCOMPARE(result.output, QString());
     }

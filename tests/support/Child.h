@@ -21,7 +21,7 @@ public:
         QString errors;
     };
 
-    static constexpr int timeoutMs = 120000;
+    static constexpr int timeoutMs = ZEL_TEST_TIMEOUT_MS / 5 * 2;
 
     Child(const QString& program, const QStringList& arguments,
           const QProcessEnvironment& environment = QProcessEnvironment::systemEnvironment())
@@ -39,7 +39,7 @@ public:
     }
 
     /** The next line; empty after the timeout. */
-    QString line(int time = 30000)
+    QString line(int time = timeoutMs / 4)
     {
         QElapsedTimer timer;
         timer.start();
