@@ -20,7 +20,6 @@
 #include <QtCore/QSet>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
-#include <sched.h>
 #include <sys/inotify.h>
 #include <sys/mount.h>
 #include <sys/stat.h>
@@ -366,14 +365,11 @@ bool becomes(const PpsManager& manager, int value)
     return QTest::qWaitFor([&manager, value] { return manager.value() == QVariant(value); });
 }
 
-constexpr int notPossible = 77;
+constexpr int notFollowed = 2;
 
-// Mounts another file system over the settings while they are followed, in a private mount namespace.
+// Mounts another file system over the settings while they are followed. For a private mount namespace.
 int followMount()
 {
-    if (::unshare(CLONE_NEWNS) != 0 || ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0) {
-        return notPossible;
-    }
     const SettingsRoot root;
     root.setClock("12");
     const PpsManager manager("/pps/system/settings", "@settings", "hourFormat", nullptr);
@@ -383,7 +379,7 @@ int followMount()
     root.setClock("24");
     const bool followed = becomes(manager, 24);
     ::umount(over.constData());
-    return followed && becomes(manager, 12) ? 0 : 1;
+    return followed && becomes(manager, 12) ? 0 : notFollowed;
 }
 
 } // namespace
@@ -475,7 +471,7 @@ private Q_SLOTS:
         const auto [unreadable] = cells<QString>();
         const SettingsRoot root;
         QVERIFY(root.setClock("24"));
-        QFile::setPermissions(root.path(), QFile::Permissions(0x5555));
+        QFile::setPermissions(root.path(), QFile::Permissions(0x7755));
         const auto permissions = QFile::permissions(root.file(unreadable));
         QFile::setPermissions(root.file(unreadable), {});
         MessageLog log;
@@ -527,10 +523,12 @@ private Q_SLOTS:
 
     void followsMount()
     {
-        const int result =
-            QProcess::execute(QCoreApplication::applicationFilePath(), {QStringLiteral("--follow-mount")});
-        if (result == notPossible) {
-            QTest::qSkip("Only root can mount.", __FILE__, __LINE__); // QSKIP is no macro of C++17 for clang
+        const int result = QProcess::execute(
+            QStringLiteral("unshare"),
+            {QStringLiteral("-rm"), QCoreApplication::applicationFilePath(), QStringLiteral("--follow-mount")});
+        if (result == 1) {
+            // QSKIP is no macro of C++17 for clang.
+            QTest::qSkip("mount namespaces are not permitted here", __FILE__, __LINE__);
             return;
         }
         QCOMPARE(result, 0);
