@@ -139,8 +139,8 @@ emulation() {
     echo -E ":target:M::$magic:$mask:$sysroot/start:P"
 }
 
-# in_namespace EMULATION COMMAND...: runs a command in a namespace where the kernel starts the target's programs with the
-# emulator; needs Linux 6.7. The command runs as an ordinary user: the namespace has no other users to switch to.
+# in_namespace EMULATION COMMAND...: runs a command in a namespace where the kernel starts the target's programs with
+# the emulator; needs Linux 6.7. The command runs as an ordinary user: the namespace has no other users to switch to.
 in_namespace() {
     # shellcheck disable=SC2016
     unshare --map-root-user --mount bash -c 'mount -t binfmt_misc none /proc/sys/fs/binfmt_misc &&
