@@ -49,11 +49,16 @@ build() {
     fi
 }
 
-# sources: every C++ file of the project, committed or not.
-sources() {
-    git ls-files --cached --others --exclude-standard --deduplicate -- '*.cpp' '*.h' | while IFS= read -r file; do
+# files [PATTERN...]: the files of the project, committed or not.
+files() {
+    git ls-files --cached --others --exclude-standard --deduplicate -- "$@" | while IFS= read -r file; do
         [ ! -e "$file" ] || printf '%s\n' "$file"
     done
+}
+
+# sources: every C++ file of the project.
+sources() {
+    files '*.cpp' '*.h'
 }
 
 cache=${XDG_CACHE_HOME:-$HOME/.cache}/zel-i18n

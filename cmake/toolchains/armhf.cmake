@@ -4,5 +4,4 @@
 # 32-bit ARM with hardware floating point, and files of any size.
 set(CMAKE_SYSTEM_PROCESSOR armv7l)
 set(zelTriplet arm-linux-gnueabihf)
-set(ZEL_DEBIAN_ARCHITECTURE armhf)
 include("${CMAKE_CURRENT_LIST_DIR}/common.cmake")

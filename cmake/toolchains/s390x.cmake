@@ -4,5 +4,4 @@
 # A big-endian machine, to test what depends on the byte order.
 set(CMAKE_SYSTEM_PROCESSOR s390x)
 set(zelTriplet s390x-linux-gnu)
-set(ZEL_DEBIAN_ARCHITECTURE s390x)
 include("${CMAKE_CURRENT_LIST_DIR}/common.cmake")
