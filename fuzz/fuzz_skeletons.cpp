@@ -16,6 +16,7 @@
 #include <map>
 #include <memory>
 #include <QtCore/QDateTime>
+#include <QtCore/QTimeZone>
 #include <string>
 #include <unicode/dtptngen.h>
 #include <unicode/smpdtfmt.h>
@@ -128,7 +129,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     FuzzedDataProvider input(data, size);
     const Device device{region.take(input.PickValueInArray(regions)), clock.take(input.PickValueInArray(clocks)),
                         zone.take(input.PickValueInArray(zones))};
-    const QDateTime moment = QDateTime::fromMSecsSinceEpoch(input.ConsumeIntegral<std::int64_t>() >> 10, Qt::UTC);
+    const QDateTime moment =
+        QDateTime::fromMSecsSinceEpoch(input.ConsumeIntegral<std::int64_t>() >> 10, QTimeZone::utc());
     const QString first = skeletonOf(input.ConsumeRandomLengthString());
     const QString second = skeletonOf(input.ConsumeRemainingBytesAsString());
 

@@ -9,11 +9,25 @@
 
 namespace zel::utility::i18n::qml {
 
+namespace {
+
+// Not QMetaEnum::valueToKey(), whose parameter is signed or not, depending on the version of Qt.
+bool contains(const QMetaEnum& values, int value)
+{
+    int i = 0;
+    while (i < values.keyCount() && values.value(i) != value) {
+        ++i;
+    }
+    return i < values.keyCount();
+}
+
+} // namespace
+
 template <typename Value>
 void RelativeDate::choose(const char* property, Value& current, Value value, void (RelativeDate::*changed)())
 {
     const QMetaEnum values = QMetaEnum::fromType<Value>();
-    if (values.valueToKey(value) == nullptr) {
+    if (!contains(values, value)) {
         qmlWarning(this) << property << ": there is no " << values.enumName() << " " << static_cast<int>(value);
         return;
     }

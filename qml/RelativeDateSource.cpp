@@ -20,8 +20,10 @@ RelativeDateSource::RelativeDateSource(const RelativeDateStyle& style) : m_style
 
 QDateTime RelativeDateSource::reading(const QDateTime& dateTime)
 {
-    QDateTime reading = dateTime.toLocalTime();
-    reading.setTimeSpec(Qt::UTC);
+    const QDateTime local = dateTime.toLocalTime();
+    QDateTime reading = local.toUTC();
+    reading.setDate(local.date());
+    reading.setTime(local.time());
     return reading;
 }
 

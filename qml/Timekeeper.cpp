@@ -28,7 +28,7 @@ qint64 later(qint64 transition, qint64 now)
     if (transition > now) {
         return transition;
     }
-    const QDateTime time = QDateTime::fromMSecsSinceEpoch(now, Qt::UTC);
+    const QDateTime time = QDateTime::fromMSecsSinceEpoch(now, QTimeZone::utc());
     const QDateTime next = QTimeZone::systemTimeZone().nextTransition(time).atUtc;
     return next.isValid() ? next.toMSecsSinceEpoch() : DatedText::never;
 }
