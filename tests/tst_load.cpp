@@ -8,6 +8,7 @@
 #include "support/SettingsRoot.h"
 #include <QtCore/QFile>
 #include <QtTest/QTest>
+#include <utility>
 #include <zel/utility/i18n/CustomDateFormatter.h>
 #include <zel/utility/i18n/RelativeDateFormatter.h>
 
@@ -44,6 +45,19 @@ QString writeRelative(const QDateTime& moment)
     return formatter.format(moment);
 }
 
+// Formats each thousand moments in one call.
+QString writeList(const QDateTime& moment)
+{
+    static RelativeDateFormatter formatter(RelativeDateFormat::TimeCritical);
+    static QList<QDateTime> moments;
+    moments.append(moment);
+    if (moments.size() < 1000) {
+        return QStringLiteral("later");
+    }
+    formatter.setAnchorTime(anchor);
+    return formatter.formatAll(std::exchange(moments, {})).constLast();
+}
+
 } // namespace
 
 class LoadTest : public QObject
@@ -56,6 +70,7 @@ private Q_SLOTS:
         const NamedRow<Write> row;
         row("CustomDateFormatter", Write(writeCustom));
         row("RelativeDateFormatter", Write(writeRelative));
+        row("lists", Write(writeList));
     }
 
     void memoryStaysConstant()
