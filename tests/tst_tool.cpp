@@ -342,7 +342,8 @@ private Q_SLOTS:
     void invalidLinesAreReported()
     {
         const SettingsRoot root;
-        const Result percentages = run("percent|-|--locale|en_US", "0.5\nhalf\n-1\r\n");
+        const Result percentages = run("percent|-|--locale|en_US", "\xEF\xBB\xBF"
+                                                                   "0.5\nhalf\n-1\r\n");
         QCOMPARE(percentages.output, QStringLiteral("50%\n-100%\n"));
         QCOMPARE(percentages.errors, QStringLiteral("zel-i18n: line 2: 'half' is not a number such as 0.256\n"));
         QCOMPARE(percentages.status, 1);

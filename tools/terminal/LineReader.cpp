@@ -12,6 +12,7 @@ namespace zel::tool {
 namespace {
 
 constexpr std::size_t longestLine = 1024;
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF"; // as some editors put it at the start of a file
 
 std::string_view trimmed(std::string_view line)
 {
@@ -52,7 +53,10 @@ std::optional<std::string_view> LineReader::next()
         m_begin += complete ? end + 1 : text.size();
         if (!std::exchange(m_inLongLine, !complete)) {
             ++m_number;
-            const std::string_view line = text.substr(0, end);
+            std::string_view line = text.substr(0, end);
+            if (m_number == 1 && line.substr(0, byteOrderMark.size()) == byteOrderMark) {
+                line.remove_prefix(byteOrderMark.size());
+            }
             return line.size() > longestLine ? line.substr(0, longestLine) : trimmed(line);
         }
     }
