@@ -25,7 +25,7 @@ class DateOffsetRange : public QObject
 
 public:
     /**
-     * @param minimum the smallest distance in the range, whichever its sign
+     * @param minimum the smallest distance in the range, in either direction
      * @param absolute true to count calendar positions, false to count elapsed time
      * @param past true for counts of 0 and below, false for those above 0
      */

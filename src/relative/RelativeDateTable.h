@@ -59,7 +59,7 @@ public:
     Step stepOf(const RelativeDistance& distance, RelativeDateWording::Type wording) const;
 
     /**
-     * The slot for a day by name or weekday, one to three days away, in whichever year; -1 for any other distance.
+     * The slot for a day by name or weekday, one to three days away, in any year; -1 for any other distance.
      *
      * @param days calendar days from the anchor, negative before it
      */
