@@ -16,6 +16,7 @@
 #include <QtCore/QFileInfo>
 #include <zel/PpsObject.h>
 #include <zel/system/LocaleHandler.h>
+#include <zel/system/LocaleName.h>
 
 namespace zel::tool {
 
@@ -125,12 +126,9 @@ QString fallback(const QString& key)
     if (key == Assignments::timeZone()) {
         return QStringLiteral("none; texts with a zone show GMT");
     }
-    for (const char* const variable : {"LC_ALL", "LC_TIME", "LANG"}) {
-        if (!qEnvironmentVariableIsEmpty(variable)) {
-            return Device::region().name() + QStringLiteral(", from %1").arg(QLatin1String(variable));
-        }
-    }
-    return QStringLiteral("C, as neither LC_ALL, LC_TIME nor LANG is set");
+    const char* const variable = system::LocaleName::variable();
+    return variable == nullptr ? QStringLiteral("C, as neither LC_ALL, LC_TIME nor LANG is set")
+                               : Device::region().name() + QStringLiteral(", from %1").arg(QLatin1String(variable));
 }
 
 QString example(const QString& key)
