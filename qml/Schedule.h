@@ -4,10 +4,11 @@
 #ifndef ZEL_QML_SCHEDULE_H
 #define ZEL_QML_SCHEDULE_H
 
+#include "TextSource.h"
 #include <QtCore/QHash>
 #include <QtCore/QList>
-#include <set>
 #include <utility>
+#include <vector>
 
 namespace zel::utility::i18n::qml {
 
@@ -24,13 +25,19 @@ public:
     QList<DateText*> elements() const { return m_dueTimes.keys(); }
 
     /** When the first element is due, or DatedText::never. */
-    qint64 first() const;
-    /** The elements that are due at a time, the first of them first. */
-    QList<DateText*> dueAt(qint64 time) const;
+    qint64 first();
+    /** The elements that are due at a time, at most a number of them. They are not due again until set() says so. */
+    QList<DateText*> take(qint64 time, qsizetype count);
 
 private:
+    using Entry = std::pair<qint64, DateText*>;
+
+    bool isCurrent(const Entry& entry) const { return m_dueTimes.value(entry.second, DatedText::never) == entry.first; }
+    void pop();
+    void dropOutdated();
+
     QHash<DateText*, qint64> m_dueTimes;
-    std::set<std::pair<qint64, DateText*>> m_order; // without those that are never due
+    std::vector<Entry> m_heap; // the first on top; entries that are out of date stay until their turn
 };
 
 } // namespace zel::utility::i18n::qml

@@ -22,6 +22,9 @@ constexpr qint64 longestWaitUnwatched = 60000;
 // In ms. Texts that are due within one frame are renewed together.
 constexpr qint64 frame = 16;
 
+// How many texts are renewed before other events have their turn, so that no frame is missed.
+constexpr qsizetype blockSize = 1000;
+
 // A transition of the time zone, or the next one where that is past; both in ms since the epoch.
 qint64 later(qint64 transition, qint64 now)
 {
@@ -61,6 +64,12 @@ Timekeeper::Timekeeper(QObject* parent)
     }
 }
 
+void Timekeeper::remove(DateText* element)
+{
+    m_schedule.remove(element);
+    m_waiting.remove(element);
+}
+
 void Timekeeper::renewLater(DateText* element)
 {
     if (m_waiting.isEmpty()) {
@@ -82,7 +91,10 @@ void Timekeeper::onTimeout()
     }
     const bool isTransition = std::exchange(m_transition, later(m_transition, now)) <= now;
     m_next = DatedText::never;
-    renew(isTransition ? activeElements() : m_schedule.dueAt(now));
+    if (isTransition) {
+        makeAllDue();
+    }
+    renew(m_schedule.take(now, blockSize)); // the timer is at the others at once
 }
 
 void Timekeeper::onSettingsChanged()
@@ -111,11 +123,13 @@ void Timekeeper::renewAll()
     onTimeout();
 }
 
-QList<DateText*> Timekeeper::activeElements() const
+void Timekeeper::makeAllDue()
 {
-    QList<DateText*> elements = m_schedule.elements();
-    elements.removeIf([](const DateText* element) { return !element->isActive(); });
-    return elements;
+    for (DateText* const element : m_schedule.elements()) {
+        if (element->isActive()) {
+            m_schedule.set(element, 0);
+        }
+    }
 }
 
 void Timekeeper::renew(const QList<DateText*>& elements)

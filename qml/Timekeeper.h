@@ -31,11 +31,7 @@ public:
     static Timekeeper* of(const QObject* object);
 
     void add(DateText* element) { suspend(element); }
-    void remove(DateText* element)
-    {
-        m_schedule.remove(element);
-        m_waiting.remove(element);
-    }
+    void remove(DateText* element);
 
     /** Leaves an element as it is until it is to be renewed later, or settings change. */
     void suspend(DateText* element) { m_schedule.set(element, DatedText::never); }
@@ -63,7 +59,7 @@ private Q_SLOTS:
 private:
     explicit Timekeeper(QObject* parent);
 
-    QList<DateText*> activeElements() const;
+    void makeAllDue();
     void renew(const QList<DateText*>& elements);
     void startTimer();
 
