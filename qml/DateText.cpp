@@ -144,7 +144,7 @@ void DateText::renewWithOtherSource()
     renew();
 }
 
-// The item is looked for when somebody wants to know, and not before the element has its place.
+// The item is looked for on first use: before, the element may not have its parent yet.
 void DateText::onVisibilityChanged()
 {
     if (m_requestedActive || !m_isComplete) {
@@ -159,7 +159,7 @@ void DateText::onVisibilityChanged()
     applyActive(m_visibility->isShown());
 }
 
-// Texts that grew old meanwhile are renewed together.
+// Texts that expired meanwhile are renewed together.
 void DateText::applyActive(bool active)
 {
     if (active == m_isActive) {

@@ -18,7 +18,7 @@ namespace zel::utility::i18n::qml {
 class Timekeeper;
 class Visibility;
 
-/** What RelativeDate and CustomDate have in common: a moment, and its text, which is kept up to date. */
+/** The common base of RelativeDate and CustomDate: a moment, and its text, which is kept up to date. */
 class DateText : public QObject, public QQmlParserStatus
 {
     Q_OBJECT
@@ -28,12 +28,12 @@ class DateText : public QObject, public QQmlParserStatus
 
     /** The moment to format, shown in local time. Default: none, and the text is empty. */
     Q_PROPERTY(QDateTime moment READ moment WRITE setMoment NOTIFY momentChanged FINAL)
-    /** The text of the moment. */
+    /** The text of the moment. It stays empty if no QML engine created the element. */
     Q_PROPERTY(QString text READ text NOTIFY textChanged FINAL)
     /**
-     * Whether the text is renewed when time passes. Default: while the item around this element is visible and its
+     * Whether the text is updated when time passes. Default: while the item around this element is visible and its
      * window is neither hidden nor minimised. Set it where the program renders a window that is never shown. An
-     * inactive element costs nothing; it is renewed once it is active again.
+     * inactive element costs nothing; it is updated when it becomes active again.
      */
     Q_PROPERTY(bool active READ isActive WRITE setActive RESET resetActive NOTIFY activeChanged FINAL)
 
@@ -59,7 +59,8 @@ public:
     QDateTime sourceMoment();
     virtual QDateTime fixedAnchor() const { return {}; }
     qint64 dueTime() const { return m_isActive && !fixedAnchor().isValid() ? m_validUntil : DatedText::never; }
-    /** Counts the changes of the text and of what it is made from: a text made before the last one is out of date. */
+    /** Counts the changes of the text and of what it is made from. A text made before the last change is out of date.
+     */
     quint32 revision() const { return m_revision; }
     void receive(const DatedText& text);
     void forgetSource();
@@ -76,8 +77,9 @@ protected:
     virtual QDateTime prepared(const QDateTime& moment) const { return moment; }
     virtual void onValidityChanged() {}
 
-    /** What the text is made from, or only the moment, is another one. */
+    /** Call when only the moment or the anchor has changed. */
     void renew();
+    /** Call when another source is to make the text. */
     void renewWithOtherSource();
 
     /** Null if no engine created the element. */
@@ -95,8 +97,8 @@ private:
     qint64 m_validUntil = DatedText::never;
     quint32 m_revision = 0;
     bool m_isComplete = false;
-    bool m_isStale = true;     // readers know, and have not asked since
-    bool m_isOutdated = false; // by other settings while the element was inactive, and readers do not know
+    bool m_isStale = true;     // textChanged() was emitted, and text() was not read since
+    bool m_isOutdated = false; // settings changed while the element was inactive; textChanged() is still to come
     bool m_isActive = true;
     std::optional<bool> m_requestedActive;
     Visibility* m_visibility = nullptr;

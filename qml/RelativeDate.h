@@ -13,7 +13,7 @@
 namespace zel::utility::i18n::qml {
 
 /**
- * A moment relative to now: "5 minutes ago", and in time "6 minutes ago".
+ * A moment relative to now: "5 minutes ago", later "6 minutes ago".
  *
  * @code
  * RelativeDate { id: sent; moment: model.date }
@@ -33,7 +33,7 @@ class RelativeDate : public zel::utility::i18n::qml::DateText // in full for the
     Q_PROPERTY(Clock clockFormat READ clockFormat WRITE setClockFormat NOTIFY clockFormatChanged FINAL)
     /** The wording. Default: Natural. */
     Q_PROPERTY(Wording wording READ wording WRITE setWording NOTIFY wordingChanged FINAL)
-    /** The moment counted from. Default: now, and the text is renewed when it changes. */
+    /** The moment counted from. Default: now; the text is updated when it expires. */
     Q_PROPERTY(QDateTime anchor READ anchor WRITE setAnchor RESET resetAnchor NOTIFY anchorChanged FINAL)
     /** The first anchor at which the text may change; an invalid date if it never changes. */
     Q_PROPERTY(QDateTime validUntil READ validUntil NOTIFY validUntilChanged FINAL)

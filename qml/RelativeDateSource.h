@@ -9,7 +9,7 @@
 
 namespace zel::utility::i18n::qml {
 
-/** What decides, besides the moment and the anchor, how a relative date reads. */
+/** What determines the text of a relative date besides the moment and the anchor. */
 struct RelativeDateStyle
 {
     RelativeDateFormat::Type table = RelativeDateFormat::TimeCritical;
@@ -29,8 +29,8 @@ public:
     const RelativeDateStyle& key() const { return m_style; }
 
     /**
-     * What a clock on the wall shows at a moment, as a time in UTC. The formatter compares such readings only, and in
-     * UTC they are cheap. The time zone comes in again where a reading is turned into a time.
+     * The wall-clock reading of a moment, as a time in UTC. The formatter only compares such readings, and in UTC they
+     * are cheap. The time zone comes in again where a reading is turned into a time.
      */
     static QDateTime reading(const QDateTime& dateTime);
 

@@ -32,7 +32,7 @@ public:
         return created;
     }
 
-    /** Sources that are in use stay, but are given to nobody else. */
+    /** Sources in use stay alive, but are not shared any more. */
     void clear() { m_sources.clear(); }
 
 private:

@@ -3,6 +3,8 @@
 
 #include "SystemClock.h"
 
+#include <algorithm>
+#include <limits>
 #include <QtCore/QLoggingCategory>
 #include <QtCore/QSocketNotifier>
 #ifdef Q_OS_LINUX
@@ -17,7 +19,9 @@ namespace zel::utility::i18n::qml {
 
 namespace {
 
-constexpr std::time_t distantFuture = 32503680000; // 1 January 3000: only a clock that is set makes the timer readable
+// In practice, only a clock that is set makes the timer readable.
+constexpr auto distantFuture =
+    static_cast<std::time_t>(std::min<qint64>(32503680000, std::numeric_limits<std::time_t>::max())); // year 3000
 
 } // namespace
 

@@ -15,7 +15,7 @@ namespace zel::utility::i18n::qml {
 
 namespace {
 
-// In ms. A clock that nobody watches may be set while the timer runs.
+// In ms. A clock that is not watched may be set while the timer runs.
 constexpr qint64 longestWait = 86400000;
 constexpr qint64 longestWaitUnwatched = 60000;
 
@@ -34,6 +34,47 @@ qint64 later(qint64 transition, qint64 now)
     const QDateTime time = QDateTime::fromMSecsSinceEpoch(now, QTimeZone::utc());
     const QDateTime next = QTimeZone::systemTimeZone().nextTransition(time).atUtc;
     return next.isValid() ? next.toMSecsSinceEpoch() : DatedText::never;
+}
+
+struct MadeText
+{
+    QPointer<DateText> element;
+    quint32 revision;
+    DatedText text;
+};
+
+// Elements with the same source and anchor, whose texts are made in one call.
+struct Batch
+{
+    QDateTime anchor;
+    QList<QDateTime> moments;
+    QList<DateText*> elements;
+};
+
+QList<MadeText> makeTexts(const QList<DateText*>& elements, const QDateTime& now)
+{
+    QList<MadeText> made;
+    made.reserve(elements.size());
+    std::map<std::pair<TextSource*, qint64>, Batch> batches;
+    for (DateText* const element : elements) {
+        if (!element->hasMoment()) {
+            made.append({element, element->revision(), DatedText()});
+            continue;
+        }
+        const QDateTime anchor = element->fixedAnchor();
+        Batch& batch = batches[{&element->source(), anchor.isValid() ? anchor.toMSecsSinceEpoch() : DatedText::never}];
+        batch.anchor = anchor.isValid() ? anchor : now;
+        batch.moments.append(element->sourceMoment());
+        batch.elements.append(element);
+    }
+    for (const auto& [key, batch] : batches) {
+        const QList<DatedText> texts = key.first->texts(batch.moments, batch.anchor);
+        for (qsizetype i = 0; i < texts.size(); ++i) {
+            DateText* const element = batch.elements.at(i);
+            made.append({element, element->revision(), texts.at(i)});
+        }
+    }
+    return made;
 }
 
 } // namespace
@@ -134,46 +175,13 @@ void Timekeeper::makeAllDue()
 
 void Timekeeper::renew(const QList<DateText*>& elements)
 {
-    struct Result
-    {
-        QPointer<DateText> element;
-        quint32 revision;
-        DatedText text;
-    };
-    struct Batch
-    {
-        QDateTime anchor;
-        QList<QDateTime> moments;
-        QList<DateText*> elements;
-    };
     const QDateTime now = QDateTime::currentDateTime();
     if (m_transition == 0) {
         m_transition = later(0, now.toMSecsSinceEpoch());
     }
-    // Everything is computed before anybody hears of it: listeners may change or delete elements.
-    QList<Result> results;
-    results.reserve(elements.size());
-    std::map<std::pair<TextSource*, qint64>, Batch> batches;
-    for (DateText* const element : elements) {
-        if (!element->hasMoment()) {
-            results.append({element, element->revision(), DatedText()});
-            continue;
-        }
-        const QDateTime anchor = element->fixedAnchor();
-        TextSource& source = element->source();
-        Batch& batch = batches[{&source, anchor.isValid() ? anchor.toMSecsSinceEpoch() : DatedText::never}];
-        batch.anchor = anchor.isValid() ? anchor : now;
-        batch.moments.append(element->sourceMoment());
-        batch.elements.append(element);
-    }
-    for (const auto& [key, batch] : batches) {
-        const QList<DatedText> texts = key.first->texts(batch.moments, batch.anchor);
-        for (qsizetype i = 0; i < texts.size(); ++i) {
-            DateText* const element = batch.elements.at(i);
-            results.append({element, element->revision(), texts.at(i)});
-        }
-    }
-    for (const auto& [element, revision, text] : std::as_const(results)) {
+    // Computed before any signal is emitted: listeners may change or delete elements.
+    const QList<MadeText> made = makeTexts(elements, now);
+    for (const auto& [element, revision, text] : made) {
         if (element && element->revision() == revision) {
             element->receive(text);
         }

@@ -27,7 +27,7 @@ class Timekeeper : public QObject
     Q_DISABLE_COPY_MOVE(Timekeeper)
 
 public:
-    /** The timekeeper of the engine that an object was created by; null for an object that none created. */
+    /** The timekeeper of the engine that created an object; null if none did. */
     static Timekeeper* of(const QObject* object);
 
     void add(DateText* element) { suspend(element); }
@@ -47,7 +47,7 @@ public:
 
     QLocale regionLocale() const { return m_settings.locale(); }
 
-    /** The clock, the region or the time zone of the user is another one. The elements know already. */
+    /** The clock, the region or the time zone of the user has changed. Emitted after the elements have been updated. */
     Q_SIGNAL void settingsChanged();
     Q_SIGNAL void regionChanged();
 

@@ -12,7 +12,7 @@ namespace zel::utility::i18n::qml {
 /**
  * Whether the item that an object belongs to is shown: the item and all items above it are visible, and their window
  * is neither hidden nor minimised. An object without an item counts as shown; without a window, only the items decide.
- * Items and windows are known by their meta-objects, so that Qt Quick is not needed.
+ * Items and windows are recognised by their meta-objects, so that Qt Quick is not needed.
  */
 class Visibility : public QObject
 {
