@@ -109,6 +109,15 @@ Item {
             compare(date.validUntil.getTime() > date.anchor.getTime(), row.text !== "");
         }
 
+        function test_anchorsOneOffsetApart() {
+            const moment = time("2026-05-16T12:25:00");
+            const early = createTemporaryObject(component, root, { anchor: time("2026-05-16T10:30:00"), moment });
+            const late = createTemporaryObject(component, root, { anchor: time("2026-05-16T12:30:00") });
+            compare(early.text, "in 1 hour");
+            late.moment = moment;
+            compare(late.validUntil, time("2026-05-16T12:31:00"));
+        }
+
         function test_defaults() {
             compare(shown.table, RelativeDate.TimeCritical);
             compare(shown.clockFormat, RelativeDate.ApplyUserFormat);
