@@ -26,7 +26,7 @@ bool isVisible(const QObject& object)
     return object.property("visible").toBool();
 }
 
-/** The window of an item: the owner of the topmost item. Null while the item is in no window. */
+// The window of an item: the owner of the topmost item. Null while the item is in no window.
 QObject* windowOf(QObject* item)
 {
     while (auto* const above = item->property("parent").value<QObject*>()) {
