@@ -64,10 +64,9 @@ RelativeDateFormatterPrivate::RelativeDateFormatterPrivate(RelativeDateFormatter
         Diagnostic::write(QtCriticalMsg, signature, "not enough ranges!");
     }
     for (const RelativeDateTable::Slot& slot : table) {
-        QList<RelativeDateElement::Type> elements;
-        if (slot.shown == RelativeDateTable::Shown::Relative) {
-            elements.append(slot.element);
-        }
+        using Elements = QList<RelativeDateElement::Type>;
+        const Elements elements =
+            slot.shown == RelativeDateTable::Shown::Relative ? Elements{slot.element} : Elements{};
         patterns.push_back(std::make_unique<RelativeDatePattern>(locale, clockFormat, anchorTime,
                                                                  QString::fromLatin1(slot.skeleton), elements, this));
     }
