@@ -115,10 +115,9 @@ private Q_SLOTS:
             "vor 3 Stunden\ngestern, 09:00");
         row("relative|--anchor|2012-05-16T10:30|--locale|de|2012-05-15T09:00|--device|hour-format=12",
             "gestern 9:00\u202fAM");
-        row("relative|--anchor|2013-01-01T00:02|--locale|de|--wording|natural|--until|2013-01-01T00:02|2012-12-31T23:"
-            "59:30|"
-            "--clock|24",
-            "jetzt\t2013-01-01T00:03:00\ngestern, 23:59\t2013-01-02T00:00:00");
+        row("relative|--anchor|2013-01-01T00:02|--locale|de|--wording|natural|--until|2013-01-01T00:02|"
+            "2012-12-31T23:59:30|--clock|24|--device|time-zone=Europe/Berlin",
+            "jetzt\t2013-01-01T00:03:00+01:00\ngestern, 23:59\t2013-01-02T00:00:00+01:00");
         row("relative|--anchor|2012-05-16T10:30|--locale|en|--until|2011-05-16", "May 2011\tnever");
         row("relative|--anchor|2012-05-16T10:30Z|--locale|en|--device|hour-format=24,time-zone=Asia/Tokyo|"
             "2012-05-16T05:25-05:00|Wed, 16 May 2012 00:30:00 +0200|2012-05-15T14:30Z|@1337157000.5|2012-05-16T18:30",
@@ -127,8 +126,8 @@ private Q_SLOTS:
             "in 2 hours\nyesterday 23:30"); // of the process: UTC
         row("relative|--anchor|2012-05-16T10:30|--type|non-time-critical|2012-05-16T07:30|--device|region=zh_TW",
             "今天");
-        row("relative|--anchor|2012-05-16T10:30|--locale|en|--json|2011-12-31",
-            R"({"moment":"2011-12-31T00:00:00","text":"December 2011"})");
+        row("relative|--anchor|2012-05-16T10:30|--locale|en|--json|2011-12-31|--device|time-zone=Europe/Berlin",
+            R"({"moment":"2011-12-31T00:00:00+01:00","text":"December 2011"})");
 
         row("locales|de-at", "locale  script  phrases  English name      own name\n"
                              "de_AT   Latn    own      German (Austria)  Deutsch (\u00d6sterreich)");
