@@ -45,6 +45,12 @@ void useEmpty(const QString& directory);
 /** Changes the region for this process only. The change is kept in a directory. */
 void useRegion(const QString& name, const QString& directory);
 
+/**
+ * Makes conversions of local time cheap where it is not a setting to follow: without TZ, the C library looks at
+ * /etc/localtime each time. Local time stays the same.
+ */
+void keepLocalTime();
+
 /** The state of the settings, and each setting with its source. */
 QList<Finding> examine();
 

@@ -117,6 +117,8 @@ void Device::useRegion(const QString& name, const QString& /*directory*/)
     qputenv("LC_ALL", name.toUtf8());
 }
 
+void Device::keepLocalTime() {} // it is a setting here
+
 QList<Finding> Device::examine()
 {
     QList<Finding> findings;

@@ -14,6 +14,7 @@
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
+#include <QtCore/QTimeZone>
 #include <zel/PpsObject.h>
 #include <zel/system/LocaleHandler.h>
 #include <zel/system/LocaleName.h>
@@ -231,6 +232,15 @@ void Device::useRegion(const QString& name, const QString& directory)
     }
     useEmpty(directory);
     set({{Assignments::region(), name}}, {});
+}
+
+void Device::keepLocalTime()
+{
+    const QByteArray id = QTimeZone::systemTimeZoneId();
+    const QString link = QFile::symLinkTarget(QStringLiteral("/etc/localtime"));
+    if (qEnvironmentVariableIsEmpty("TZ") && link.endsWith(QLatin1String("/zoneinfo/") + QString::fromLatin1(id))) {
+        qputenv("TZ", id);
+    }
 }
 
 QList<Finding> Device::examine()
