@@ -4,7 +4,6 @@
 #include "BundleData.h"
 
 #include <array>
-#include <cstdint>
 #include <cstring>
 
 namespace zel::icudata {
@@ -21,9 +20,6 @@ struct FileHeader
 
 constexpr std::array<std::uint8_t, 2> dataMagic{0xda, 0x27};
 constexpr std::size_t paddedHeaderSize = 32; // ICU requires the data after the header to be aligned to 16 bytes
-
-constexpr std::size_t indexLengthWord = 1;
-constexpr std::size_t bundleTopWord = 4;
 
 } // namespace
 
@@ -56,9 +52,10 @@ BundleData BundleData::fromIcu(UDataMemory* memory)
     data.info.size = sizeof data.info;
     udata_getInfo(memory, &data.info);
 
+    constexpr auto top = static_cast<std::size_t>(IndexWord::BundleTop);
     const auto* words = static_cast<const std::uint32_t*>(udata_getMemory(memory));
-    const bool hasTop = (words[indexLengthWord] & 0xffU) >= bundleTopWord;
-    const std::size_t size = hasTop ? std::size_t{words[bundleTopWord]} * sizeof *words : 0;
+    const bool hasTop = (words[static_cast<std::size_t>(IndexWord::Length)] & 0xffU) >= top;
+    const std::size_t size = hasTop ? std::size_t{words[top]} * sizeof *words : 0;
     data.body = {static_cast<const char*>(udata_getMemory(memory)), size};
     return data;
 }

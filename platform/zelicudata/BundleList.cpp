@@ -4,7 +4,6 @@
 #include "BundleList.h"
 
 #include "BundleData.h"
-#include "ResourceBundleReader.h"
 
 #include <algorithm>
 #include <charconv>

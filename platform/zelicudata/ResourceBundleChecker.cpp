@@ -10,8 +10,8 @@ namespace zel::icudata {
 
 namespace {
 
-constexpr std::uint32_t isPoolAttribute = 2U;
-constexpr std::uint32_t usesPoolAttribute = 4U;
+constexpr std::uint32_t isPoolAttribute = 2U;   // URES_ATT_IS_POOL_BUNDLE
+constexpr std::uint32_t usesPoolAttribute = 4U; // URES_ATT_USES_POOL_BUNDLE
 constexpr std::uint32_t unknownAttributes = 0x0ff8U;
 
 constexpr std::size_t indexLength = static_cast<std::size_t>(IndexWord::PoolChecksum);

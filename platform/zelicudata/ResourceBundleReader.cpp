@@ -13,9 +13,10 @@ namespace {
 
 constexpr std::uint32_t poolKeyBit = 0x80000000U;
 
-constexpr std::uint32_t noFallbackAttribute = 1U;
+constexpr std::uint32_t noFallbackAttribute = 1U; // URES_ATT_NO_FALLBACK
 
-// The first unit of a 16-bit string is its length; a unit below these is already text, which ends at a NUL.
+// The length of a URES_STRING_V2: in its first unit up to 0xdfee, in the first two from 0xdfef, in the two after
+// 0xdfff. Any other first unit is already text, which ends at a NUL. ICU has no names for these limits.
 constexpr char16_t shortLength = 0xdc00;
 constexpr char16_t mediumLength = 0xdfef;
 constexpr char16_t longLength = 0xdfff;

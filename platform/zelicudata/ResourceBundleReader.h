@@ -17,35 +17,24 @@ namespace zel::icudata {
 /** A reference to a resource: the type in the upper 4 bits, the offset or a small value in the lower 28. */
 using Resource = std::uint32_t;
 
+/** The types of resources, with the names in ICU's unicode/ures.h and, for internal types, in its uresdata.h. */
 enum class ResourceType : std::uint8_t {
-    String = 0,
-    Binary = 1,
-    Table = 2,
-    Alias = 3,
-    Table32 = 4,
-    Table16 = 5,
-    String16 = 6,
-    Int = 7,
-    Array = 8,
-    Array16 = 9,
-    IntVector = 14
-};
-
-/** The words of a bundle's index, counted from the start of its body. */
-enum class IndexWord : std::uint8_t {
-    Root = 0,
-    Length = 1,
-    KeysTop = 2,
-    ResourcesTop = 3,
-    BundleTop = 4,
-    LongestTable = 5,
-    Attributes = 6,
-    Units16Top = 7,
-    PoolChecksum = 8
+    String = 0,    ///< URES_STRING
+    Binary = 1,    ///< URES_BINARY
+    Table = 2,     ///< URES_TABLE
+    Alias = 3,     ///< URES_ALIAS
+    Table32 = 4,   ///< URES_TABLE32, internal
+    Table16 = 5,   ///< URES_TABLE16, internal
+    String16 = 6,  ///< URES_STRING_V2, internal
+    Int = 7,       ///< URES_INT
+    Array = 8,     ///< URES_ARRAY
+    Array16 = 9,   ///< URES_ARRAY16, internal
+    IntVector = 14 ///< URES_INT_VECTOR
 };
 
 /**
- * Reads one compiled ICU resource bundle of format version 2 or 3.
+ * Reads one compiled ICU resource bundle of format version 2 or 3. ICU describes the format in
+ * icu4c/source/common/uresdata.h.
  *
  * open() checks every table, key and text of the bundle, so that reading an open bundle cannot fail. A bundle with
  * shared keys and texts needs the pool bundle that has them. The pool and the bytes of both must outlive the reader.
@@ -121,10 +110,10 @@ private:
     BundleData m_data;
     const ResourceBundleReader* m_pool = nullptr;
     std::size_t m_keys = 0;                  ///< offset of the first key
-    std::size_t m_keyLimit = 0;              ///< 16-bit keys from here on are in the pool
+    std::size_t m_keyLimit = 0;              ///< localKeyLimit in ICU: 16-bit keys from here on are in the pool
     std::size_t m_units16 = 0;               ///< offset of the 16-bit units
-    std::uint32_t m_poolStringLimit = 0;     ///< 16-bit strings below are in the pool
-    std::uint32_t m_poolStringItemLimit = 0; ///< the same for the 16-bit items of tables and arrays
+    std::uint32_t m_poolStringLimit = 0;     ///< poolStringIndexLimit: 16-bit strings below are in the pool
+    std::uint32_t m_poolStringItemLimit = 0; ///< poolStringIndex16Limit: the same for items of 16-bit tables, arrays
 };
 
 } // namespace zel::icudata
