@@ -30,14 +30,15 @@ class SettingsPortal : public QObject
     Q_DISABLE_COPY_MOVE(SettingsPortal)
 
 public:
+    /** The timeout of a portal that requests the setting later, when the event loop of the thread runs. */
+    static constexpr int later = 0;
+
     /**
-     * Requests the setting and waits up to the timeout. A later answer is used when it arrives. With `later`, requests
-     * it when the event loop of the thread runs, and reports nothing before the first answer: another portal may have a
-     * value, which a failure of this one must not replace.
+     * Requests the setting and waits up to the timeout. A later answer is used when it arrives. With `later`, emits no
+     * reason before the first value: another portal may have one, which a failure of this one must not replace.
      *
      * @param group the namespace of the setting
      */
-    static constexpr int later = 0;
     SettingsPortal(const QString& group, const QString& key, int timeoutMs, Reporter reporter);
     ~SettingsPortal() override;
 

@@ -15,7 +15,7 @@
  * to another ICU, or are damaged: ICU would trust them. An application with other data calls u_setDataDirectory() in
  * main(), before its first use of ICU.
  *
- * All functions are thread-safe and report failures only by their return values.
+ * All functions are thread-safe.
  *
  * @code
  * #include <cstdio>
@@ -35,8 +35,9 @@ ZEL_EXPORT const char* dataDirectory() noexcept;
 ZEL_EXPORT const char* dataDirectoryProblem() noexcept;
 
 /**
- * Checks every bundle in the directory that ICU uses, once per process. If one is missing or damaged, ICU is switched
- * back to its own data. The other functions and libzelutilityi18n call this before they ask ICU for a locale's data.
+ * Checks every bundle in the directory that ICU uses, once per process. If one is missing or damaged, writes a line on
+ * standard error and switches ICU back to its own data. The functions below and libzelutilityi18n call this before they
+ * ask ICU for a locale's data.
  */
 ZEL_EXPORT void checkDataDirectory() noexcept;
 
@@ -49,7 +50,8 @@ ZEL_EXPORT bool hasPhraseTables() noexcept;
 /**
  * Returns the ICU package from which to open bundles with phrase tables; null for ICU's default data. It is null unless
  * ICU had already opened its own root bundle when this library was loaded: ICU keeps that one open, and the package
- * bypasses it.
+ * bypasses it. If the package is needed but not in the directory, it is null, with a line on standard error at the
+ * first call.
  */
 ZEL_EXPORT const char* phrasePackage() noexcept;
 
