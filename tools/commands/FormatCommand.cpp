@@ -4,9 +4,9 @@
 #include "commands/Commands.h"
 
 #include "Arguments.h"
+#include "commands/OtherRegion.h"
 #include "device/Device.h"
 #include "device/LibrarySettings.h"
-#include "device/OtherRegion.h"
 #include "texts/Answers.h"
 #include "texts/Moments.h"
 #include "texts/Skeleton.h"
@@ -57,7 +57,7 @@ ExitStatus FormatCommand::run(const Arguments& arguments, Console& console) cons
     const QStringList words = arguments.positional();
     const QString skeleton = Skeleton::from(words);
     Device::requireReadable();
-    const Moments moments(words.mid(1), MomentReader(MomentReader::Kept));
+    const Moments moments(words.mid(1), MomentReader(MomentReader::Kept, Device::timeZone()));
     const OtherRegion region(arguments);
     readSettings();
     const zel::utility::i18n::CustomDateFormatter formatter(skeleton);
@@ -65,6 +65,7 @@ ExitStatus FormatCommand::run(const Arguments& arguments, Console& console) cons
         throw Failure(QStringLiteral("no pattern for the skeleton ") + quoted(skeleton));
     }
     const Answers answers(console, arguments.json());
+    Device::keepLocalTime();
     return moments.format(
         console, arguments.json(), [&](const QList<QDateTime>& list) { return formatter.formatAll(list); },
         [&](const QDateTime& moment, const QString& text) { answers.write(moment, text); });

@@ -97,7 +97,7 @@ ExitStatus FormatsCommand::run(const Arguments& arguments, Console& console) con
     const QList<NamedLocale> locales = arguments.locales();
     Device::requireReadable();
     readClock();
-    const MomentReader reader(MomentReader::Kept);
+    const MomentReader reader(MomentReader::Kept, Device::timeZone());
     const QDateTime moment = arguments.moment(QStringLiteral("at"), reader, reader.now());
     bool first = true;
     for (const NamedLocale& locale : locales) {

@@ -50,7 +50,7 @@ const QMap<QString, int>& wordings()
     return wordings;
 }
 
-// A formatter with the options applied.
+// Makes formatters with the options applied.
 class Formatters
 {
 public:
@@ -91,13 +91,14 @@ ExitStatus writeMoments(const Arguments& arguments, Console& console)
     if (arguments.positional().isEmpty()) {
         throw Failure::usage(QStringLiteral("no moment given"));
     }
-    const MomentReader reader(MomentReader::Converted);
+    const MomentReader reader(MomentReader::Converted, Device::timeZone());
     const Moments moments(arguments.positional(), reader);
     const Formatters formatters(arguments, reader, reader.now());
     const int type = typeOf(arguments);
     const auto formatter = formatters.make(type, arguments.locale().locale);
     const Answers answers(console, arguments.json());
     const bool until = arguments.has(QStringLiteral("until"));
+    Device::keepLocalTime();
     return moments.format(
         console, arguments.json(), [&](const QList<QDateTime>& list) { return formatter->formatAll(list); },
         [&](const QDateTime& moment, const QString& text) {
@@ -188,7 +189,7 @@ ExitStatus writeExamples(const Arguments& arguments, Console& console)
     if (!arguments.positional().isEmpty()) {
         throw Failure::usage(QStringLiteral("--table takes no moment, not ") + quoted(arguments.positional().first()));
     }
-    const Formatters formatters(arguments, MomentReader(MomentReader::Converted), exampleAnchor());
+    const Formatters formatters(arguments, MomentReader(MomentReader::Converted, Device::timeZone()), exampleAnchor());
     const int chosen = typeOf(arguments);
     const QList<NamedLocale> locales = arguments.locales();
     QList<int> both = {RelativeDateFormat::TimeCritical, RelativeDateFormat::NonTimeCritical};

@@ -4,9 +4,9 @@
 #include "commands/Commands.h"
 
 #include "Arguments.h"
+#include "commands/OtherRegion.h"
 #include "device/Device.h"
 #include "device/LibrarySettings.h"
-#include "device/OtherRegion.h"
 #include "terminal/Console.h"
 #include "texts/LiveText.h"
 #include "texts/MomentReader.h"
@@ -52,15 +52,16 @@ ExitStatus WatchCommand::run(const Arguments& arguments, Console& console) const
         throw Failure::usage(QStringLiteral("one moment at most, not also ") + quoted(words.at(2)));
     }
     Device::requireReadable();
-    const auto moment =
-        words.size() == 2 ? std::make_optional(MomentReader(MomentReader::Kept).read(words.at(1))) : std::nullopt;
+    std::optional<QDateTime> moment;
+    if (words.size() == 2) {
+        moment = MomentReader(MomentReader::Kept, Device::timeZone()).read(words.at(1));
+    }
     const OtherRegion region(arguments);
     readSettings();
     try {
         LiveText(skeleton, moment, console, arguments.json()).run();
     } catch (const Console::Interrupted&) {
         // An interrupt is the normal end.
-        return Worked;
     }
     return Worked;
 }

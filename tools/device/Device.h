@@ -11,6 +11,7 @@
 #include <QtCore/QMap>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
+#include <QtCore/QTimeZone>
 
 namespace zel::tool {
 
@@ -27,14 +28,15 @@ struct Permissions
     bool create = false;  ///< create the settings directory
 };
 
-/**
- * Changes settings, each object atomically and under a lock, and keeps its other attributes.
- */
+/** Changes settings, each object atomically and under a lock, and keeps its other attributes. */
 void set(const QMap<QString, QString>& values, Permissions permissions);
 void unset(const QStringList& keys);
 
 /** The user's region locale. */
 QLocale region();
+
+/** The time zone; invalid if it is not set. Throws a Failure if it cannot be read. */
+QTimeZone timeZone();
 
 /** Throws a Failure if a setting cannot be read, so that no text depends on a wrong default. */
 void requireReadable();

@@ -12,9 +12,7 @@ namespace zel::tool {
 
 class Console;
 
-/**
- * Aligned columns of text on a terminal, where a Chinese character is two columns wide and a combining one none.
- */
+/** Aligned columns of text on a terminal, where a Chinese character is two columns wide and a combining one none. */
 class Table
 {
 public:

@@ -3,25 +3,12 @@
 
 #include "texts/MomentReader.h"
 
-#include "device/Assignments.h"
-#include "device/Device.h"
 #include "texts/Moment.h"
 
 namespace zel::tool {
 
-namespace {
-
-// Invalid if the device has none.
-QTimeZone zoneOfDevice()
-{
-    const QByteArray id = Device::get(Assignments::timeZone()).value_or(QString()).toLatin1();
-    return id.isEmpty() ? QTimeZone() : QTimeZone(id);
-}
-
-} // namespace
-
-// Local time as a fallback, like that of moments without an offset, with which these may be compared.
-MomentReader::MomentReader(Offsets offsets) : m_offsets(offsets), m_zone(zoneOfDevice())
+// The fallback for converted moments is local time, as for moments without an offset, so that the two can be compared.
+MomentReader::MomentReader(Offsets offsets, const QTimeZone& zone) : m_offsets(offsets), m_zone(zone)
 {
     if (offsets == Converted) {
         m_zoneOfReadings = m_zone;

@@ -11,7 +11,7 @@
 
 namespace zel::tool {
 
-/** Reads moments for commands, in the time zone of the device where needed. Reads that zone once. */
+/** Reads moments for commands, in the time zone of the device where needed. */
 class MomentReader
 {
 public:
@@ -21,7 +21,8 @@ public:
         Converted ///< converted to the time zone of the device, or of the process if the device has none
     };
 
-    explicit MomentReader(Offsets offsets);
+    /** @param zone the time zone of the device; invalid if it has none */
+    MomentReader(Offsets offsets, const QTimeZone& zone);
 
     /**
      * Moment::parse(), with offsets treated as chosen. Seconds since 1970 are converted to the time zone of the device;

@@ -3,7 +3,6 @@
 
 #include "texts/Moments.h"
 
-#include "device/Device.h"
 #include "terminal/LineAnswers.h"
 
 namespace zel::tool {
@@ -29,7 +28,6 @@ Moments::Moments(const QStringList& words, const MomentReader& reader)
 ExitStatus Moments::format(Console& console, bool json, const Formatter& formatter, const Writer& writer) const
 {
     if (m_fromInput) {
-        Device::keepLocalTime();
         const auto read = [this](std::string_view line) { return m_reader.read(line); };
         return LineAnswers(console, json).run(read, formatter, writer);
     }

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
 // SPDX-License-Identifier: Apache-2.0
 
-#include "device/OtherRegion.h"
+#include "commands/OtherRegion.h"
 
 #include "device/Device.h"
 #include "terminal/Failure.h"
