@@ -134,10 +134,9 @@ private:
 
 QStringList fallback(const QString& fault)
 {
-    return {
-        QStringLiteral("warning: void zel::utility::i18n::HostClock::onAnswer() uses the clock of the region's time "
-                       "pattern : \"%1\" ")
-            .arg(fault)};
+    return {QStringLiteral(
+                "warning: void zel::host::Clock::onAnswer() uses the clock of the region's time pattern : \"%1\" ")
+                .arg(fault)};
 }
 
 // Creates a clock and returns how many milliseconds that took.

@@ -8,7 +8,6 @@
 #include <cerrno>
 #include <cstddef>
 #include <poll.h>
-#include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QStringList>
 #include <sys/socket.h>
@@ -93,7 +92,7 @@ void BusProbe::startListening()
     }
     m_notifier = std::make_unique<QSocketNotifier>(m_socket, QSocketNotifier::Read);
     checkConnection(m_reporter, connect(m_notifier.get(), SIGNAL(activated(int)), this, SLOT(onReadable())),
-                    "void zel::utility::i18n::BusProbe::startListening()", "QSocketNotifier::activated()");
+                    "void zel::host::BusProbe::startListening()", "QSocketNotifier::activated()");
 }
 
 void BusProbe::onReadable()

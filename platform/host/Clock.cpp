@@ -84,8 +84,7 @@ std::unique_ptr<SettingsPortal> Clock::ask(int timeoutMs)
     checkConnection(m_reporter,
                     connect(portal.get(), SIGNAL(changed(QVariant, QString)), this, SLOT(onAnswer(QVariant, QString)),
                             Qt::DirectConnection),
-                    "std::unique_ptr<SettingsPortal> zel::utility::i18n::HostClock::ask(int)",
-                    "SettingsPortal::changed()");
+                    "std::unique_ptr<SettingsPortal> zel::host::Clock::ask(int)", "SettingsPortal::changed()");
     return portal;
 }
 
@@ -133,8 +132,8 @@ void Clock::onAnswer(const QVariant& answer, const QString& reason)
     const QString silence = take(answer, reason);
     Q_EMIT changed();
     if (!silence.isEmpty()) {
-        m_reporter(QtWarningMsg, QStringLiteral("void zel::utility::i18n::HostClock::onAnswer() uses the clock of the "
-                                                "region's time pattern : \"%1\"")
+        m_reporter(QtWarningMsg, QStringLiteral("void zel::host::Clock::onAnswer() uses the clock of the region's time "
+                                                "pattern : \"%1\"")
                                      .arg(silence));
     }
 }

@@ -16,7 +16,7 @@ LinkWatcher::LinkWatcher(const QString& link, Reporter reporter) : m_link(link),
 
 void LinkWatcher::start()
 {
-    constexpr const char* signature = "void zel::utility::i18n::LinkWatcher::start()";
+    constexpr const char* signature = "void zel::host::LinkWatcher::start()";
     // Watches the directory, because a watch on the link would be on its target.
     m_watcher = std::make_unique<QFileSystemWatcher>(QStringList{QFileInfo(m_link).absolutePath()});
     checkConnection(m_reporter, connect(m_watcher.get(), SIGNAL(directoryChanged(QString)), this, SIGNAL(changed())),

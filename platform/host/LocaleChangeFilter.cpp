@@ -19,8 +19,8 @@ void LocaleChangeFilter::call(QObject* receiver, const char* member, QObject* ow
     // An application's events can be filtered on its thread only.
     auto* const filter = new LocaleChangeFilter;
     filter->moveToThread(application->thread());
-    constexpr const char* signature =
-        "static void zel::utility::i18n::LocaleChangeFilter::call(QObject*, const char*, QObject*, Qt::ConnectionType)";
+    constexpr const char* signature = "static void zel::host::LocaleChangeFilter::call(QObject*, const char*, "
+                                      "QObject*, Reporter, Qt::ConnectionType)";
     checkConnection(reporter, connect(filter, SIGNAL(changed()), receiver, member, type), signature,
                     "LocaleChangeFilter::changed()");
     checkConnection(reporter, connect(owner, SIGNAL(destroyed()), filter, SLOT(stop())), signature,

@@ -20,9 +20,6 @@ namespace {
 constexpr int firstRetryMs = 1000;
 constexpr int lastRetryMs = 60000;
 
-constexpr const char* constructor =
-    "zel::utility::i18n::SettingsPortal::SettingsPortal(const QString&, const QString&, int)";
-
 // Functions, so that nothing is constructed when the library is loaded.
 QString service()
 {
@@ -105,7 +102,7 @@ bool isSilence(const QDBusError& error)
 SettingsPortal::SettingsPortal(const QString& group, const QString& key, int timeoutMs, Reporter reporter)
     : m_group(group),
       m_key(key),
-      m_tellsSilence(timeoutMs != later),
+      m_emitsEveryFailure(timeoutMs != later),
       m_reporter(reporter),
       m_bus(QString()),
       m_retry(this)
@@ -113,7 +110,8 @@ SettingsPortal::SettingsPortal(const QString& group, const QString& key, int tim
     // The slot's argument types are looked up by name, which Qt registers at the first use of a type.
     qRegisterMetaType<QDBusVariant>();
     m_retry.setSingleShot(true);
-    checkConnection(m_reporter, connect(&m_retry, SIGNAL(timeout()), this, SLOT(retry())), constructor,
+    checkConnection(m_reporter, connect(&m_retry, SIGNAL(timeout()), this, SLOT(retry())),
+                    "zel::host::SettingsPortal::SettingsPortal(const QString&, const QString&, int, Reporter)",
                     "QTimer::timeout()");
     if (timeoutMs == later) {
         QMetaObject::invokeMethod(this, "retry", Qt::QueuedConnection);
@@ -154,7 +152,7 @@ void SettingsPortal::awaitBus()
     // Queued: join() destroys the probe.
     checkConnection(m_reporter,
                     connect(m_probe.get(), SIGNAL(answered()), this, SLOT(onBusAnswered()), Qt::QueuedConnection),
-                    constructor, "BusProbe::answered()");
+                    "void zel::host::SettingsPortal::awaitBus()", "BusProbe::answered()");
     m_probe->listen();
 }
 
@@ -190,8 +188,8 @@ bool SettingsPortal::listen()
         m_bus.connect(busService(), busPath(), busService(), QStringLiteral("NameOwnerChanged"), {service()},
                       QStringLiteral("sss"), this, SLOT(onOwnerChanged(QString, QString, QString)));
     if (!isListening) {
-        m_reporter(QtWarningMsg, QStringLiteral("bool zel::utility::i18n::SettingsPortal::listen() cannot subscribe to "
-                                                "the settings portal and polls it"));
+        m_reporter(QtWarningMsg, QStringLiteral("bool zel::host::SettingsPortal::listen() cannot subscribe to the "
+                                                "settings portal and polls it"));
     }
     return isListening;
 }
@@ -231,8 +229,7 @@ void SettingsPortal::ask(const QString& method)
     checkConnection(m_reporter,
                     connect(m_call.get(), SIGNAL(finished(QDBusPendingCallWatcher*)), this, SLOT(onFinished()),
                             Qt::QueuedConnection),
-                    "void zel::utility::i18n::SettingsPortal::ask(const QString&)",
-                    "QDBusPendingCallWatcher::finished()");
+                    "void zel::host::SettingsPortal::ask(const QString&)", "QDBusPendingCallWatcher::finished()");
 }
 
 void SettingsPortal::onFinished()
@@ -318,7 +315,7 @@ void SettingsPortal::lose(const QString& reason)
     m_call.reset();
     const bool hadValue = std::exchange(m_value, QVariant()).isValid();
     m_reason = reason;
-    if (hadValue || m_tellsSilence) {
+    if (hadValue || m_emitsEveryFailure) {
         Q_EMIT changed(m_value, m_reason);
     }
 }

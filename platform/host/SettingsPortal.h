@@ -77,7 +77,7 @@ private:
 
     const QString m_group;
     const QString m_key;
-    const bool m_tellsSilence;
+    const bool m_emitsEveryFailure; // otherwise only those that take a value away
     const Reporter m_reporter;
     QString m_address;
     QVariant m_value;

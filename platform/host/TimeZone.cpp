@@ -95,7 +95,7 @@ std::unique_ptr<QObject> TimeZone::listen()
     auto watcher = std::make_unique<LinkWatcher>(m_link, m_reporter);
     checkConnection(m_reporter,
                     connect(watcher.get(), SIGNAL(changed()), this, SIGNAL(changed()), Qt::DirectConnection),
-                    "std::unique_ptr<QObject> zel::utility::i18n::HostTimeZone::listen()", "LinkWatcher::changed()");
+                    "std::unique_ptr<QObject> zel::host::TimeZone::listen()", "LinkWatcher::changed()");
     return watcher;
 }
 
