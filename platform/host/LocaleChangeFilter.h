@@ -15,7 +15,10 @@ class LocaleChangeFilter : public QObject
     Q_DISABLE_COPY_MOVE(LocaleChangeFilter)
 
 public:
-    /** Calls a signal or slot at every locale change while the owner exists. Call on any thread. */
+    /**
+     * Calls a signal or slot at every locale change while the owner exists. Does nothing if there is no application
+     * object, even if one is created later. Call on any thread.
+     */
     static void call(QObject* receiver, const char* member, QObject* owner, Reporter reporter,
                      Qt::ConnectionType type = Qt::AutoConnection);
 

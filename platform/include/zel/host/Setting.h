@@ -24,14 +24,18 @@ public:
     Setting() = default;
     ~Setting() override = default;
 
+    /**
+     * Returns the value: of the clock as int, of the time zone and the region as QString. From an environment variable,
+     * its text as QString; invalid if that is empty.
+     */
     virtual QVariant value() const = 0;
 
     /** Returns the source of the value as readable text. */
     virtual QString source() const = 0;
 
     /**
-     * Delivers changes through the event loop of the calling thread while the returned object exists. Returns null if
-     * they arrive there already.
+     * Delivers changes through the event loop of the calling thread while the returned object exists; destroy it on
+     * that thread. Returns null if they arrive there already.
      */
     virtual std::unique_ptr<QObject> listen() = 0;
 

@@ -22,7 +22,8 @@ constexpr int portalTimeoutMs = 80;
 
 /**
  * Returns the clock, 12 or 24, from the settings portal; fallback: the clock of the region's time pattern. Waits for
- * the portal up to the timeout, and uses a later answer when it arrives.
+ * the portal up to the timeout, and uses a later answer when it arrives. Without an application
+ * object when it is created, it never reports a change of the region.
  */
 std::unique_ptr<Setting> clock(Reporter reporter, int timeoutMs = portalTimeoutMs);
 
@@ -31,7 +32,8 @@ std::unique_ptr<Setting> timeZone(Reporter reporter);
 
 /**
  * Returns the name of the environment's locale for dates and times. It changes with the application's locale change
- * events, which arrive through the event loop of the setting's thread.
+ * events, which arrive through the event loop of the setting's thread. Without an application object when it is
+ * created, it never emits changed(), even if one is created later.
  */
 std::unique_ptr<Setting> region(Reporter reporter);
 
