@@ -8,17 +8,11 @@
 #include <fcntl.h>
 #include <QtCore/QFile>
 #include <sys/stat.h>
-#include <system_error>
 #include <zel/PpsObject.h>
 
 namespace zel {
 
 namespace {
-
-QString errorText(int error)
-{
-    return QString::fromLocal8Bit(std::generic_category().message(error).c_str());
-}
 
 bool isPermanent(int error)
 {
@@ -36,7 +30,8 @@ bool isLasting(int error)
 void readRegular(QFile& file, PpsContents& contents)
 {
     if (!S_ISREG(contents.stamp.mode())) {
-        contents.error = S_ISDIR(contents.stamp.mode()) ? errorText(EISDIR) : QStringLiteral("Not a regular file");
+        contents.error =
+            S_ISDIR(contents.stamp.mode()) ? qt_error_string(EISDIR) : QStringLiteral("Not a regular file");
         contents.permanent = true;
         return;
     }
@@ -63,7 +58,7 @@ PpsContents PpsContents::read(const QByteArray& file)
     if (descriptor < 0) {
         const int error = errno;
         contents.permanent = isPermanent(error);
-        contents.error = errorText(error);
+        contents.error = qt_error_string(error);
         contents.settled = isLasting(error) && !contents.stamp.isFresh();
         return contents;
     }

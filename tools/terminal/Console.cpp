@@ -16,7 +16,6 @@
 #include <sys/ioctl.h>
 #include <sys/signalfd.h>
 #include <sys/stat.h>
-#include <system_error>
 #include <unistd.h>
 
 namespace zel::tool {
@@ -24,11 +23,6 @@ namespace zel::tool {
 namespace {
 
 constexpr int enoughOutput = 32 * 1024;
-
-QString errorText(int error)
-{
-    return QString::fromLocal8Bit(std::generic_category().message(error).c_str());
-}
 
 sigset_t endingSignals()
 {
@@ -97,7 +91,7 @@ int Console::writeSome(const char* text, int size) const
         throw OutputFailed();
     }
     if (errno != EINTR && errno != EAGAIN) {
-        throw OutputFailed{QStringLiteral("cannot write the output: ") + errorText(errno)};
+        throw OutputFailed{QStringLiteral("cannot write the output: ") + qt_error_string(errno)};
     }
     return 0;
 }
@@ -117,7 +111,7 @@ int Console::read(char* target, int size)
             return static_cast<int>(count);
         }
         if (errno != EINTR && errno != EAGAIN) {
-            throw Failure(QStringLiteral("cannot read standard input: ") + errorText(errno));
+            throw Failure(QStringLiteral("cannot read standard input: ") + qt_error_string(errno));
         }
     }
 }
