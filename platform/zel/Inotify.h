@@ -26,6 +26,7 @@ class PpsWatcher;
 class Inotify : public QObject
 {
     Q_OBJECT
+    Q_DISABLE_COPY_MOVE(Inotify)
 
 public:
     /** A watch: of an inode or, if the name is not empty, of that entry of a directory. */

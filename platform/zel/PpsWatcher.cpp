@@ -15,9 +15,9 @@ namespace zel {
 
 namespace {
 
-constexpr int pollInterval = 20;
-constexpr int longestSeries = 200;
-constexpr int retryInterval = 1000;
+constexpr int pollIntervalMs = 20;
+constexpr int longestSeriesMs = 200;
+constexpr int retryIntervalMs = 1000;
 
 QByteArray linkTarget(const QByteArray& path)
 {
@@ -65,15 +65,15 @@ void PpsWatcher::poll()
         m_settling.start();
     }
     const bool isQuiet = !isFirst && m_contents == previous && m_contents.stamp == previous.stamp;
-    if (!isQuiet && !(m_settling.hasExpired(longestSeries) && m_contents.isWhole())) {
+    if (!isQuiet && !(m_settling.hasExpired(longestSeriesMs) && m_contents.isWhole())) {
         // Not a member timer: an active one cannot be destroyed on another thread, as at process exit.
-        QTimer::singleShot(pollInterval, this, SLOT(poll()));
+        QTimer::singleShot(pollIntervalMs, this, SLOT(poll()));
         return;
     }
     m_settling.invalidate();
     const bool mayPass = !m_contents.error.isEmpty() && !m_contents.settled;
     if ((!isWatched || mayPass) && !std::exchange(m_retrying, true)) {
-        QTimer::singleShot(retryInterval, this, SLOT(retry()));
+        QTimer::singleShot(retryIntervalMs, this, SLOT(retry()));
     }
     Q_EMIT settled();
 }

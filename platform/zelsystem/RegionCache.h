@@ -22,6 +22,7 @@ namespace zel::system {
 class RegionCache : public QObject
 {
     Q_OBJECT
+    Q_DISABLE_COPY_MOVE(RegionCache)
 
 public:
     RegionCache();

@@ -45,6 +45,7 @@ Q_DECLARE_OPERATORS_FOR_FLAGS(QFlags<Type>)
 class ZEL_EXPORT PpsObject : public QObject
 {
     Q_OBJECT
+    Q_DISABLE_COPY_MOVE(PpsObject)
 
 public:
     /** Size limit of an object, in bytes. */

@@ -40,6 +40,7 @@ enum Type : int {
 class ZEL_EXPORT LocaleHandler : public QObject
 {
     Q_OBJECT
+    Q_DISABLE_COPY_MOVE(LocaleHandler)
 
 public:
     /** Creates a handler for a type, on any thread. Cannot fail. */
