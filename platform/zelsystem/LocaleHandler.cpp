@@ -12,7 +12,7 @@ namespace zel::system {
 
 namespace {
 
-constexpr int writeInterval = 20; // milliseconds that an object may be half written
+constexpr int writeIntervalMs = 20; // how long an object may be half written
 
 } // namespace
 
@@ -38,7 +38,7 @@ void LocaleHandler::startWatching()
     if (m_object != nullptr) {
         return;
     }
-    m_object = new PpsObject(QStringLiteral("/pps/system/locale"), this);
+    m_object = new PpsObject(QString::fromLatin1(RegionCache::objectPath), this);
     bool isConnected = connect(m_object, SIGNAL(readyRead()), this, SLOT(onObjectChanged()));
     m_object->open(PpsOpenMode::Subscribe);
     RegionCache& cache = RegionCache::instance();
@@ -54,7 +54,7 @@ void LocaleHandler::startWatching()
 void LocaleHandler::onObjectChanged()
 {
     if (!RegionCache::instance().refresh()) {
-        QTimer::singleShot(writeInterval, this, SLOT(onObjectChanged()));
+        QTimer::singleShot(writeIntervalMs, this, SLOT(onObjectChanged()));
     }
 }
 

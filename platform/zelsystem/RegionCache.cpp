@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <cstdlib>
 #include <mutex>
-#include <optional>
 #include <QtCore/QVariantMap>
 #include <utility>
 #include <zel/system/LocaleName.h>
@@ -14,8 +13,6 @@
 namespace zel::system {
 
 namespace {
-
-constexpr const char* objectPath = "/pps/system/locale";
 
 // The locale for times, chosen as by the C library; empty for its default.
 const char* posixLocaleName()
@@ -37,7 +34,7 @@ QString shown(const QString& value)
 // The result of reading the object.
 struct Reading
 {
-    std::shared_ptr<PpsObject> object = std::make_shared<PpsObject>(QString::fromLatin1(objectPath));
+    std::shared_ptr<PpsObject> object = std::make_shared<PpsObject>(QString::fromLatin1(RegionCache::objectPath));
     QByteArray contents;
     QVariant value; // invalid if the region is not set
     QString error;
@@ -46,7 +43,7 @@ struct Reading
 
 QString errorOfObject(const QString& reason)
 {
-    return PpsObject::filePath(QString::fromLatin1(objectPath)) + QLatin1String(": ") + reason;
+    return PpsObject::filePath(QString::fromLatin1(RegionCache::objectPath)) + QLatin1String(": ") + reason;
 }
 
 Reading readRegion()
@@ -88,7 +85,7 @@ QLocale RegionCache::locale()
 {
     refresh();
     const std::shared_lock lock(m_mutex);
-    return m_region.locale;
+    return m_region.choice.locale;
 }
 
 bool RegionCache::refresh()
@@ -105,11 +102,11 @@ bool RegionCache::refresh()
     bool isTorn = false;
     {
         const std::lock_guard lock(m_mutex);
-        Region next = m_region.next();
-        message.swap(next.message);
-        isOther = next.locale != m_region.locale;
-        isTorn = next.isTorn;
-        m_region = std::move(next);
+        Step step = next(m_region);
+        message.swap(step.message);
+        isOther = step.region.choice.locale != m_region.choice.locale;
+        isTorn = step.isTorn;
+        m_region = std::move(step.region);
     }
     // Outside the lock: the message handler may query the region to format the time.
     if (!message.isEmpty()) {
@@ -123,51 +120,52 @@ bool RegionCache::refresh()
 
 bool RegionCache::Region::isCurrent() const
 {
-    return object && root == PpsObject::root() && object->isCurrent() && (isSet || posix == posixLocaleName());
+    return object && root == PpsObject::root() && object->isCurrent() &&
+           (choice.isSet || choice.name == posixLocaleName());
 }
 
-RegionCache::Region RegionCache::Region::next() const
+RegionCache::Step RegionCache::next(const Region& last)
 {
-    Region region = *this;
-    region.message.clear();
-    region.root = PpsObject::root();
-    const bool wasSet = isSet && region.root == root;
-    Reading reading = readRegion();
-    region.object = reading.object;
-    region.isTorn = !reading.error.isEmpty() && !reading.object->isCurrent();
-    if (wasSet && !reading.error.isEmpty()) {
+    const QByteArray root = PpsObject::root();
+    const Choice known = last.root == root ? last.choice : Choice(); // nothing is known below another root
+    const Reading reading = readRegion();
+    const bool isTorn = !reading.error.isEmpty() && !reading.object->isCurrent();
+    const bool isKept = !reading.error.isEmpty() && known.isSet;
+    if (isKept && isTorn && reading.isRead) {
         // An incomplete new object is most likely still being written.
-        if (!region.isTorn || !reading.isRead) {
-            region.report(reading.error, reading.contents);
-        }
-        return region;
+        return {{reading.object, root, known, last.reported}, {}, isTorn};
     }
-    region.isSet = false;
-    if (reading.value.isValid()) {
-        const QString text = reading.value.toString();
-        const auto found = wasSet && text == name ? std::make_optional(locale) : LocaleName::find(text);
-        if (found) {
-            region.isSet = true;
-            region.name = text;
-            region.locale = *found;
-            region.reported.clear();
-            return region;
-        }
-        reading.error = errorOfObject(QStringLiteral("region %1 is not a locale").arg(shown(text)));
-    }
-    region.posix = posixLocaleName();
-    region.locale = LocaleName::closest(QString::fromLocal8Bit(region.posix));
-    region.report(reading.error, reading.contents);
-    return region;
+    QString error = reading.error;
+    const std::optional<Choice> found = isKept ? known : chosen(reading.value, known, error);
+    const Choice choice = found ? *found : fallback();
+    const QByteArray report = error.isEmpty() ? QByteArray() : error.toUtf8() + reading.contents;
+    const bool isNews = !error.isEmpty() && report != last.reported;
+    const QString message = isNews ? error + QLatin1String("; using the locale ") + choice.locale.name() : QString();
+    return {{reading.object, root, choice, report}, message, isTorn};
 }
 
-void RegionCache::Region::report(const QString& error, const QByteArray& contents)
+// The choice of the object; none if the region is not set or, with the reason in `error`, not a locale.
+std::optional<RegionCache::Choice> RegionCache::chosen(const QVariant& value, const Choice& last, QString& error)
 {
-    const QByteArray report = error.isEmpty() ? QByteArray() : error.toUtf8() + contents;
-    const bool isNews = report != std::exchange(reported, report);
-    if (isNews && !error.isEmpty()) {
-        message = error + QLatin1String("; using the locale ") + locale.name();
+    if (!value.isValid()) {
+        return {};
     }
+    const QString text = value.toString();
+    if (last.isSet && text == QString::fromUtf8(last.name)) {
+        return last;
+    }
+    const std::optional<QLocale> locale = LocaleName::find(text);
+    if (!locale) {
+        error = errorOfObject(QStringLiteral("region %1 is not a locale").arg(shown(text)));
+        return {};
+    }
+    return Choice{true, text.toUtf8(), *locale};
+}
+
+RegionCache::Choice RegionCache::fallback()
+{
+    const QByteArray name = posixLocaleName();
+    return {false, name, LocaleName::closest(QString::fromLocal8Bit(name))};
 }
 
 } // namespace zel::system

@@ -5,10 +5,12 @@
 #define ZEL_SYSTEM_REGIONCACHE_H
 
 #include <memory>
+#include <optional>
 #include <QtCore/QByteArray>
 #include <QtCore/QLocale>
 #include <QtCore/QObject>
 #include <QtCore/QString>
+#include <QtCore/QVariant>
 #include <shared_mutex>
 #include <zel/PpsObject.h>
 
@@ -25,6 +27,8 @@ class RegionCache : public QObject
     Q_DISABLE_COPY_MOVE(RegionCache)
 
 public:
+    static constexpr const char* objectPath = "/pps/system/locale";
+
     RegionCache();
 
     /** The cache of this process. */
@@ -45,23 +49,36 @@ Q_SIGNALS:
     void changed();
 
 private:
-    /** The region and its source. */
+    /** A locale and its name in the object or, if that does not set the region, in the environment. */
+    struct Choice
+    {
+        bool isSet = false;
+        QByteArray name;
+        QLocale locale = QLocale::c();
+    };
+
+    /** The region and its source. Never changed, only replaced. */
     struct Region
     {
         std::shared_ptr<PpsObject> object; // as it was read; null before the first time
         QByteArray root;
-        bool isSet = false; // the locale is that of the object
-        QString name;       // as written in the object
-        QByteArray posix;   // the name of the fallback
-        QLocale locale = QLocale::c();
+        Choice choice;
         QByteArray reported; // the last reported error, with its content
-        bool isTorn = false; // the object is being written
-        QString message;     // to be written now
 
         bool isCurrent() const;
-        Region next() const;
-        void report(const QString& error, const QByteArray& contents);
     };
+
+    /** The result of reading the region again. */
+    struct Step
+    {
+        Region region;
+        QString message; // to be written, if not empty
+        bool isTorn;     // the object is being written
+    };
+
+    static Step next(const Region& last);
+    static std::optional<Choice> chosen(const QVariant& value, const Choice& last, QString& error);
+    static Choice fallback();
 
     std::shared_mutex m_mutex;
     Region m_region; // copy and destroy under the lock only
