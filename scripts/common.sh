@@ -9,8 +9,10 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 # Qt warns in the C locale of a clean system.
 [ "$(locale charmap 2>/dev/null)" = UTF-8 ] || export LC_ALL=C.UTF-8
 
+# ccache fails where it cannot write.
 if command -v ccache >/dev/null; then
-    export CMAKE_CXX_COMPILER_LAUNCHER=ccache
+    compiled=$(ccache --get-config cache_dir)
+    mkdir -p "$compiled" 2>/dev/null && [ -w "$compiled" ] && export CMAKE_CXX_COMPILER_LAUNCHER=ccache
 fi
 
 heading() {
@@ -61,12 +63,18 @@ sources() {
     files '*.cpp' '*.h'
 }
 
-cache=${XDG_CACHE_HOME:-$HOME/.cache}/zel-i18n
+cache=${XDG_CACHE_HOME:-$(echo ~/.cache)}/zel-i18n # without HOME as well
 
 # debian_mirror: the Debian mirror that this machine's apt uses.
 debian_mirror() {
-    # shellcheck disable=SC2016
-    apt-get indextargets --format '$(REPO_URI)' 'Created-By: Packages' 'Origin: Debian' 'Label: Debian' | sed 1q
+    local mirror update
+    for update in : 'apt-get -qq update'; do
+        $update >&2
+        # shellcheck disable=SC2016
+        mirror=$(apt-get indextargets --format '$(REPO_URI)' 'Created-By: Packages' 'Origin: Debian' 'Label: Debian' | sed 1q)
+        [ -z "$mirror" ] || { echo "$mirror"; return; }
+    done
+    fail "apt has no Debian mirror"
 }
 
 # register_package PACKAGE DIRECTORY: records an unpacked package in the directory for dpkg-shlibdeps.
@@ -84,11 +92,13 @@ register_package() {
 # unpack_debian DIRECTORY RELEASE ARCHITECTURE PACKAGE...: unpacks packages and their dependencies, once. Nothing is
 # installed, and this machine's own apt only provides the mirror.
 unpack_debian() {
-    local directory=$1 release=$2 architecture=$3 contents="${*:2}" apt=$1.apt package options mirror
+    local directory=$1 release=$2 architecture=$3 contents="${*:2}" apt=$1.apt package options mirror lock
     shift 3
-    [ "$(cat "$directory/contents" 2>/dev/null)" != "$contents" ] || return 0
+    mkdir -p "$cache"
+    exec {lock}>"$directory.lock"
+    flock "$lock"
+    [ "$(cat "$directory/contents" 2>/dev/null)" != "$contents" ] || { exec {lock}>&-; return 0; }
     mirror=$(debian_mirror)
-    [ -n "$mirror" ] || fail "apt has no Debian mirror; run apt-get update"
     echo "Unpacking packages of $release for $architecture in $directory"
     rm -rf "$directory" "$apt"
     mkdir -p "$apt"/{state/lists,cache/archives}/partial "$directory"/usr/{bin,lib,sbin} "$directory/var/lib/dpkg/info"
@@ -97,7 +107,8 @@ unpack_debian() {
     echo 1 >"$directory/var/lib/dpkg/info/format"
     echo "deb [signed-by=/usr/share/keyrings/debian-archive-keyring.gpg] $mirror $release main" >"$apt/sources.list"
     options=(-qq -o "Dir::State=$apt/state" -o "Dir::State::status=$apt/status" -o "Dir::Cache=$apt/cache"
-        -o "Dir::Etc::sourcelist=$apt/sources.list" -o Dir::Etc::sourceparts=- -o APT::Sandbox::User=root
+        -o "Dir::Etc::sourcelist=$apt/sources.list" -o Dir::Etc::sourceparts=- -o Dir::Etc::preferences=- -o Dir::Etc::preferencesparts=-
+        -o APT::Default-Release= -o APT::Sandbox::User=root
         -o "APT::Architecture=$architecture" -o "APT::Architectures=$architecture")
     apt-get "${options[@]}" update
     apt-get "${options[@]}" install --no-install-recommends --download-only -y "$@" >/dev/null
@@ -107,6 +118,7 @@ unpack_debian() {
     done
     rm -rf "$apt"
     echo "$contents" >"$directory/contents"
+    exec {lock}>&-
 }
 
 target=
