@@ -16,6 +16,7 @@
 #include <memory>
 #include <QtCore/QLocale>
 #include <QtCore/QRegularExpression>
+#include <QtCore/QSet>
 #include <QtTest/QTest>
 #include <tuple>
 #include <unicode/dtptngen.h>
@@ -136,7 +137,13 @@ private Q_SLOTS:
     // A locale's names in Qt and ICU give the same digits, patterns and names.
     void asInICU()
     {
-        for (const icu::Locale& own : icuLocales()) {
+        // Qt omits likely scripts. For these locales ICU then gives other results.
+        const QSet<QString> needScript{QStringLiteral("ff_Latn_GH"),  QStringLiteral("ff_Latn_GM"),
+                                       QStringLiteral("ff_Latn_LR"),  QStringLiteral("ff_Latn_SL"),
+                                       QStringLiteral("kok_Deva_IN"), QStringLiteral("zh_Hans_MY")};
+        const std::vector<icu::Locale> all = icuLocales();
+        std::size_t compared = 0;
+        for (const icu::Locale& own : all) {
             const QLocale locale = qtLocale(own);
             UErrorCode status = U_ZERO_ERROR;
             icu::Locale likely = own;
@@ -147,12 +154,17 @@ private Q_SLOTS:
             gregorian.setKeywordValue("calendar", "gregorian", status);
             icu::Locale withoutScript(own.getLanguage(), own.getCountry());
             withoutScript.setKeywordValue("calendar", "gregorian", status);
-            // Qt omits likely scripts. For a few locales, such as ff_Latn_GH, ICU then gives other results.
-            const bool needsScript =
-                writtenBy(withoutScript, icu::DateFormat::kFull) != writtenBy(gregorian, icu::DateFormat::kFull);
-            if (own.getCountry()[0] == '\0' || likely != qtLikely || needsScript) {
+            if (own.getCountry()[0] == '\0' || likely != qtLikely) {
                 continue;
             }
+            const bool hasScript = Locale::toICU(locale).getScript()[0] != '\0';
+            if (!hasScript &&
+                writtenBy(withoutScript, icu::DateFormat::kFull) != writtenBy(gregorian, icu::DateFormat::kFull)) {
+                const QString name = QString::fromLatin1(own.getName());
+                check(needScript.contains(name), locale, name + QStringLiteral(" needs its script"));
+                continue;
+            }
+            ++compared;
             for (const auto style : {icu::DateFormat::kShort, icu::DateFormat::kMedium, icu::DateFormat::kFull}) {
                 check(writtenBy(Locale::toICU(locale), style) == writtenBy(gregorian, style), locale,
                       writtenBy(Locale::toICU(locale), style) + QStringLiteral(" instead of ") +
@@ -165,6 +177,7 @@ private Q_SLOTS:
                   toPercentageString(locale, 0.256, 1, 0) + QStringLiteral(" instead of ") + String::toQt(text));
         }
         failIfAny();
+        QVERIFY2(compared > all.size() / 2, qPrintable(QString::number(compared)));
     }
 
     void patterns_data() { clocks(); }
