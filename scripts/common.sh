@@ -173,7 +173,10 @@ on_target() {
     ln -sf ../usr/bin/genrb "$sysroot/tools"
     start=(in_namespace "$(emulation)")
     # The tracer is slower, as it follows every system call, and occasionally loses the start of a program.
-    "${start[@]}" "$sysroot/usr/bin/icuinfo" >/dev/null 2>&1 || start=(proot -q "$emulator -L $sysroot")
+    "${start[@]}" "$sysroot/usr/bin/icuinfo" >/dev/null 2>&1 || {
+        echo "The kernel cannot start programs of the target here; proot does, more slowly." >&2
+        start=(proot -q "$emulator -L $sysroot")
+    }
     PATH=$sysroot/tools:$PATH QT_PLUGIN_PATH=$(echo "$sysroot"/usr/lib/*/qt6/plugins) \
         QML_IMPORT_PATH=$(echo "$sysroot"/usr/lib/*/qt6/qml) "${start[@]}" "$@"
 }
