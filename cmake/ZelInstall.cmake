@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The zel-utility-i18n authors
 # SPDX-License-Identifier: Apache-2.0
 
-# The installed files by component: the library, its data, the development files, the tool.
+# The installed files by component: the library, its data, the licences, the development files, the tool.
 # Applications use the public headers and one library. The platform libraries are installed because it needs them, without
 # headers and without a name to link with.
 
@@ -20,6 +20,9 @@ install(TARGETS ${platformLibraries} EXPORT ZelUtilityI18nTargets
     LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT library NAMELINK_SKIP)
 install(DIRECTORY "${PROJECT_BINARY_DIR}/share/zel/icu/" DESTINATION "${CMAKE_INSTALL_DATADIR}/zel/icu" COMPONENT data
     FILES_MATCHING PATTERN "*.res" PATTERN "bundles.list" PATTERN "*.unfinished.*" EXCLUDE)
+# Copies of the data need their licence with them. A Debian package has both in its copyright file.
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/LICENSES/"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/licenses/zel-utility-i18n" COMPONENT licences)
 if(ZEL_BUILD_TOOL)
     install(TARGETS zel-i18n RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT tool)
     install(FILES "${PROJECT_SOURCE_DIR}/tools/zel-i18n.1"
