@@ -341,6 +341,15 @@ private Q_SLOTS:
         QCOMPARE(formatter.format(at("2012-05-15T15:00:00")), QStringLiteral("yesterday 15:00"));
     }
 
+    void settingsAreFollowedByAMember()
+    {
+        RelativeDateFormatter formatter(RelativeDateFormat::TimeCritical);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("No such slot .*missing")));
+        QVERIFY(!formatter.connectToSettings(this, SLOT(missing())));
+        QVERIFY(formatter.children().isEmpty());
+        QVERIFY(formatter.connectToSettings(&formatter, SIGNAL(changed())));
+    }
+
     void invalidTypeFormatsNothing()
     {
         MessageLog log;

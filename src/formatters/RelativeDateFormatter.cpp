@@ -18,6 +18,7 @@
 #include "settings/TimeZoneSetting.h"
 #include <algorithm>
 #include <iterator>
+#include <memory>
 #include <QtCore/QPointer>
 #include <utility>
 
@@ -279,10 +280,14 @@ QDateTime RelativeDateFormatter::validUntil(const QDateTime& dateTime) const
 // NOLINTBEGIN(clang-analyzer-cplusplus.NewDeleteLeaks): the formatter is their parent
 bool RelativeDateFormatter::connectToSettings(QObject* receiver, const char* member)
 {
-    if (!connect(new ClockSetting(this), SIGNAL(changed()), receiver, member) ||
-        !connect(new TimeZoneSetting(this), SIGNAL(changed()), receiver, member)) {
+    auto clock = std::make_unique<ClockSetting>(nullptr);
+    auto timeZone = std::make_unique<TimeZoneSetting>(nullptr);
+    if (!connect(clock.get(), SIGNAL(changed()), receiver, member) ||
+        !connect(timeZone.get(), SIGNAL(changed()), receiver, member)) {
         return false;
     }
+    clock.release()->setParent(this);
+    timeZone.release()->setParent(this);
     new RegionNotifier(receiver, member, this);
     return true;
 }

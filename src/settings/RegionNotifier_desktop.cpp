@@ -14,9 +14,7 @@ RegionNotifier::RegionNotifier(QObject* receiver, const char* member, QObject* p
 {
     QObject* const region = zel::host::region(&reportOfHost).release();
     region->setParent(this);
-    Diagnostic::checkConnection(connect(region, SIGNAL(changed()), receiver, member),
-                                "zel::utility::i18n::RegionNotifier::RegionNotifier(QObject*, const char*, QObject*)",
-                                "zel::host::Setting::changed()");
+    connect(region, SIGNAL(changed()), receiver, member);
 }
 
 } // namespace zel::utility::i18n
