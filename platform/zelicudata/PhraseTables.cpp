@@ -104,18 +104,13 @@ std::optional<ResourceTree> PhraseTables::forLocale(const std::string& locale, s
     ResourceTree tree;
     for (const char* unit : {"minute", "hour", "year"}) {
         for (const char* direction : {"past", "future"}) {
-            ResourceTree& table = tree.children["units"].children[std::string(unit) + '-' + direction];
-            const Path source{"fields", unit, "relativeTime", direction};
-            error = addTexts(table, locale, source, pluralCategories(), {"other"});
-            if (!error.empty()) {
-                return std::nullopt;
-            }
+            tree.children["units"].children[std::string(unit) + '-' + direction] =
+                texts(locale, {"fields", unit, "relativeTime", direction}, pluralCategories(), {"other"}, error);
         }
     }
     const Path days{"-1", "0", "1"};
     ResourceTree& fields = tree.children["calendar"].children["gregorian"].children["fields"];
-    ResourceTree& table = fields.children["day"].children["relative"];
-    error = addTexts(table, locale, {"fields", "day", "relative"}, days, days);
+    fields.children["day"].children["relative"] = texts(locale, {"fields", "day", "relative"}, days, days, error);
     if (!error.empty()) {
         return std::nullopt;
     }
@@ -125,10 +120,11 @@ std::optional<ResourceTree> PhraseTables::forLocale(const std::string& locale, s
     return error.empty() ? std::make_optional(std::move(tree)) : std::nullopt;
 }
 
-std::string PhraseTables::addTexts(ResourceTree& table, const std::string& locale, const Path& source, const Path& keys,
-                                   const Path& required)
+// Does nothing after an error.
+ResourceTree PhraseTables::texts(const std::string& locale, const Path& source, const Path& keys, const Path& required,
+                                 std::string& error)
 {
-    std::string error;
+    ResourceTree table;
     for (const std::string& key : keys) {
         if (auto phrase = text(locale, source + Path{key}, Root::Included, error)) {
             table.children[key].text = *std::move(phrase);
@@ -139,7 +135,7 @@ std::string PhraseTables::addTexts(ResourceTree& table, const std::string& local
             error = locale + ": no text at " + joined(source + Path{key});
         }
     }
-    return error;
+    return table;
 }
 
 std::optional<std::u16string> PhraseTables::text(const std::string& locale, const Path& path, Root root,

@@ -52,8 +52,8 @@ private:
         std::optional<Place> elsewhere;
     };
 
-    std::string addTexts(ResourceTree& table, const std::string& locale, const Path& source, const Path& keys,
-                         const Path& required);
+    ResourceTree texts(const std::string& locale, const Path& source, const Path& keys, const Path& required,
+                       std::string& error);
     static Found findIn(const ResourceBundleReader& bundle, const Place& place, std::string& error);
     static std::optional<Place> target(const std::u16string& alias, const Place& place, std::size_t depth,
                                        std::string& error);
