@@ -15,16 +15,18 @@ namespace zel {
 
 namespace {
 
-// The functions without a result return the reason why they failed; empty on success.
-
-QString decodeText(const QByteArray& line, QString& text)
+QString decodeText(const QByteArray& line, QString& error)
 {
     if (line.contains('\0')) {
-        return QStringLiteral("NUL character");
+        error = QStringLiteral("NUL character");
+        return {};
     }
-    text = QString::fromUtf8(line);
+    QString text = QString::fromUtf8(line);
     // Qt replaces or drops invalid bytes, so that encoding the text again gives other bytes.
-    return text.toUtf8() == line ? QString() : QStringLiteral("not valid UTF-8");
+    if (text.toUtf8() != line) {
+        error = QStringLiteral("not valid UTF-8");
+    }
+    return text;
 }
 
 bool hasControlCharacter(const QString& name)
@@ -32,19 +34,21 @@ bool hasControlCharacter(const QString& name)
     return std::any_of(name.begin(), name.end(), [](QChar c) { return c.category() == QChar::Other_Control; });
 }
 
-QString decodeName(const QByteArray& line, QString& name)
+QString decodeName(const QByteArray& line, QString& error)
 {
-    QString reason = decodeText(line, name);
-    if (!reason.isEmpty()) {
-        return reason;
+    QString name = decodeText(line, error);
+    if (!error.isEmpty()) {
+        return {};
     }
     if (name.size() < 2 || !name.startsWith(QLatin1Char('@'))) {
-        return QStringLiteral("expected '@' and the name of the object");
+        error = QStringLiteral("expected '@' and the name of the object");
+    } else if (hasControlCharacter(name)) {
+        error = QStringLiteral("control character in the name");
     }
-    return hasControlCharacter(name) ? QStringLiteral("control character in the name") : QString();
+    return name;
 }
 
-QString unescape(const QString& escaped, QVariant& value)
+QVariant unescape(const QString& escaped, QString& error)
 {
     QString text;
     text.reserve(escaped.size());
@@ -56,11 +60,11 @@ QString unescape(const QString& escaped, QVariant& value)
         } else if (c != escaped.end() && *c == QLatin1Char('\\')) {
             text += QLatin1Char('\\');
         } else {
-            return QStringLiteral("unknown escape");
+            error = QStringLiteral("unknown escape");
+            return {};
         }
     }
-    value = text;
-    return {};
+    return text;
 }
 
 // Parses the whole text as a number in the C locale.
@@ -71,46 +75,54 @@ bool parse(const QByteArray& text, Number& number)
     return error == std::errc() && end == text.end();
 }
 
-QString decodeNumber(const QString& text, QVariant& value)
+QVariant decodeNumber(const QString& text, QString& error)
 {
     const QByteArray digits = text.toLatin1();
     int small = 0;
     qlonglong large = 0;
     double real = 0;
     if (parse(digits, small)) {
-        value = small;
-    } else if (parse(digits, large)) {
-        value = large;
-    } else if (parse(digits, real) && std::isfinite(real)) {
-        value = real;
-    } else {
-        return QStringLiteral("not a number");
+        return small;
     }
+    if (parse(digits, large)) {
+        return large;
+    }
+    if (parse(digits, real) && std::isfinite(real)) {
+        return real;
+    }
+    error = QStringLiteral("not a number");
     return {};
 }
 
-QString decodeBool(const QString& text, QVariant& value)
+QVariant decodeBool(const QString& text, QString& error)
 {
-    value = text == QLatin1String("true");
-    const bool isBool = value.toBool() || text == QLatin1String("false");
-    return isBool ? QString() : QStringLiteral("neither true nor false");
+    const bool isTrue = text == QLatin1String("true");
+    if (!isTrue && text != QLatin1String("false")) {
+        error = QStringLiteral("neither true nor false");
+    }
+    return isTrue;
 }
 
-QString decodeValue(const QString& encoding, const QString& text, QVariant& value)
+QVariant decodeValue(const QString& encoding, const QString& text, QString& error)
 {
     if (encoding.isEmpty()) {
-        return unescape(text, value);
+        return unescape(text, error);
     }
     if (encoding == QLatin1String("n")) {
-        return decodeNumber(text, value);
+        return decodeNumber(text, error);
     }
-    return encoding == QLatin1String("b") ? decodeBool(text, value) : QStringLiteral("unknown encoding");
+    if (encoding == QLatin1String("b")) {
+        return decodeBool(text, error);
+    }
+    error = QStringLiteral("unknown encoding");
+    return {};
 }
 
-QString decodeAttribute(const QByteArray& line, QVariantMap& attributes)
+// Returns the reason of a failure; empty on success.
+QString addAttribute(QVariantMap& attributes, const QByteArray& line)
 {
-    QString text;
-    QString reason = decodeText(line, text);
+    QString reason;
+    const QString text = decodeText(line, reason);
     if (!reason.isEmpty()) {
         return reason;
     }
@@ -129,7 +141,8 @@ QString decodeAttribute(const QByteArray& line, QVariantMap& attributes)
     if (attributes.contains(name)) {
         return QStringLiteral("attribute appears twice");
     }
-    return decodeValue(text.mid(nameEnd + 1, encodingEnd - nameEnd - 1), text.mid(encodingEnd + 1), attributes[name]);
+    attributes[name] = decodeValue(text.mid(nameEnd + 1, encodingEnd - nameEnd - 1), text.mid(encodingEnd + 1), reason);
+    return reason;
 }
 
 QByteArray encodeReal(double real)
@@ -179,7 +192,12 @@ QVariantMap PpsCodec::decode(const QByteArray& contents, QString& error)
     int number = 0;
     for (const QByteArray& line : lines) {
         ++number;
-        const QString reason = number == 1 ? decodeName(line, name) : decodeAttribute(line, attributes);
+        QString reason;
+        if (number == 1) {
+            name = decodeName(line, reason);
+        } else {
+            reason = addAttribute(attributes, line);
+        }
         if (!reason.isEmpty()) {
             error = QStringLiteral("line %1: %2").arg(number).arg(reason);
             return {};
