@@ -11,14 +11,12 @@
 namespace zel {
 
 /** The text form of a settings object. The error must be empty before; it stays empty on success. */
-class PpsCodec
-{
-public:
-    PpsCodec() = delete;
+namespace PpsCodec {
 
-    static QVariantMap decode(const QByteArray& contents, QString& error);
-    static QByteArray encode(const QVariantMap& record, QString& error);
-};
+QVariantMap decode(const QByteArray& contents, QString& error);
+QByteArray encode(const QVariantMap& record, QString& error);
+
+} // namespace PpsCodec
 
 } // namespace zel
 
