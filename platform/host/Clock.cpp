@@ -12,8 +12,7 @@
 #include <unicode/datefmt.h>
 #include <unicode/errorcode.h>
 #include <unicode/fieldpos.h>
-#include <unicode/localebuilder.h>
-#include <zel/icu/DataDirectory.h>
+#include <zel/icu/QtLocale.h>
 
 namespace zel::host {
 
@@ -30,22 +29,6 @@ std::optional<int> clockOf(const QVariant& answer)
     return {};
 }
 
-// With the territory, which Qt omits from the BCP 47 name if it is the likely one.
-icu::Locale toIcu(const QLocale& locale)
-{
-    if (locale.language() == QLocale::C) {
-        return icu::Locale::getEnglish();
-    }
-    icu::ErrorCode status;
-    icu::LocaleBuilder builder;
-    builder.setLanguageTag(locale.bcp47Name().toStdString());
-    const QString territory = locale.name().section(QLatin1Char('_'), 1);
-    if (!territory.isEmpty()) {
-        builder.setRegion(territory.toStdString());
-    }
-    return builder.setUnicodeLocaleKeyword("ca", "gregory").build(status);
-}
-
 // Whether the format has the field outside quotes.
 bool hasField(const icu::DateFormat& format, icu::DateFormat::EField field)
 {
@@ -57,9 +40,9 @@ bool hasField(const icu::DateFormat& format, icu::DateFormat::EField field)
 
 int clockOfPattern(const QLocale& locale)
 {
-    icudata::checkDataDirectory();
-    const std::unique_ptr<icu::DateFormat> format(
-        icu::DateFormat::createTimeInstance(icu::DateFormat::kShort, toIcu(locale)));
+    icu::ErrorCode status;
+    const std::unique_ptr<icu::DateFormat> format(icu::DateFormat::createTimeInstance(
+        icu::DateFormat::kShort, icudata::QtLocale::toGregorianICU(locale, status)));
     const bool has24 = format && (hasField(*format, icu::DateFormat::kHourOfDay0Field) ||
                                   hasField(*format, icu::DateFormat::kHourOfDay1Field));
     return has24 ? 24 : 12;

@@ -5,33 +5,15 @@
 
 #include "bridge/Diagnostic.h"
 #include "bridge/IcuCall.h"
-#include <QtCore/QByteArray>
 #include <unicode/errorcode.h>
-#include <zel/icu/DataDirectory.h>
+#include <zel/icu/QtLocale.h>
 
 namespace zel::utility::i18n {
 
-// Qt omits a likely territory ("ar" for Egypt), but "ar" means Arabic with Latin digits to ICU 76 and later.
-icu::Locale Locale::named(const QLocale& locale)
-{
-    icudata::checkDataDirectory();
-    if (locale.language() == QLocale::C) {
-        return icu::Locale::getEnglish(); // Qt 6.9 and later add the variant POSIX
-    }
-    QByteArray name = locale.bcp47Name().toUtf8();
-    const QByteArray qtName = locale.name().toUtf8();
-    const QByteArray territory = qtName.mid(qtName.lastIndexOf('_') + 1);
-    if (territory != qtName && !name.endsWith('-' + territory)) {
-        name += '-' + territory;
-    }
-    return icu::Locale::createFromName(name.constData());
-}
-
 icu::Locale Locale::toICU(const QLocale& locale)
 {
-    icu::Locale icuLocale = named(locale);
     icu::ErrorCode status;
-    icuLocale.setKeywordValue("calendar", "gregorian", status);
+    icu::Locale icuLocale = icudata::QtLocale::toGregorianICU(locale, status);
     if (status.isFailure()) {
         IcuCall{"icu::Locale::setKeywordValue( const char *, const char *, UErrorCode & )", IcuCall::Spaced}.report(
             status, "static icu::Locale zel::utility::i18n::Locale::toICU(const QLocale&)",

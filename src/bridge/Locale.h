@@ -15,10 +15,7 @@ class Locale
 public:
     Locale() = delete;
 
-    /** The ICU locale of the BCP 47 name, with the territory where that name omits it. */
-    static icu::Locale named(const QLocale& locale);
-
-    /** The ICU locale with the Gregorian calendar, whatever calendar the locale prefers. */
+    /** The ICU locale with the Gregorian calendar, whatever calendar the locale prefers; see zel/icu/QtLocale.h. */
     static icu::Locale toICU(const QLocale& locale);
 
     /**

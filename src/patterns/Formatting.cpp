@@ -20,6 +20,7 @@
 #include <unicode/locid.h>
 #include <unicode/numfmt.h>
 #include <unicode/smpdtfmt.h>
+#include <zel/icu/QtLocale.h>
 
 namespace zel::utility::i18n {
 
@@ -32,9 +33,8 @@ QLocale getRegionLocale()
 
 icu::Locale getICULocale(const QLocale& locale)
 {
-    icu::Locale icuLocale = Locale::named(locale);
     icu::ErrorCode status;
-    icuLocale.setKeywordValue("calendar", "gregorian", status);
+    icu::Locale icuLocale = icudata::QtLocale::toGregorianICU(locale, status);
     if (status.isFailure()) {
         IcuCall{"icu::Locale::setKeywordValue( const char *, const char *, UErrorCode & )"}.report(
             status, "zel::utility::i18n::getICULocale could not set gregorian calendar on", icuLocale.getName(),

@@ -9,6 +9,7 @@
 #include <QtCore/QStringList>
 #include <unicode/smpdtfmt.h>
 #include <zel/icu/QtField.h>
+#include <zel/icu/QtLocale.h>
 #include <zel/utility/i18n/Formatting.h>
 
 namespace zel::tool {
@@ -96,11 +97,11 @@ bool Format::isFallback(const QLocale& locale, const QString& pattern) const
 
 QString Format::patternOfIcu(const QLocale& locale) const
 {
-    const QByteArray name = locale.bcp47Name().toLatin1() + "-u-ca-gregory";
-    UErrorCode status = U_ZERO_ERROR;
+    icu::ErrorCode status;
+    const icu::Locale icuLocale = zel::icudata::QtLocale::toGregorianICU(locale, status);
     const std::unique_ptr<icu::DateFormat> format(icu::DateFormat::createDateTimeInstance(
         m_kind == Time ? icu::DateFormat::kNone : styleOf(m_length),
-        m_kind == Date ? icu::DateFormat::kNone : styleOf(m_length), icu::Locale::forLanguageTag(name.data(), status)));
+        m_kind == Date ? icu::DateFormat::kNone : styleOf(m_length), icuLocale));
     const auto* const simple = dynamic_cast<const icu::SimpleDateFormat*>(format.get());
     icu::UnicodeString pattern;
     if (simple != nullptr) {
