@@ -13,6 +13,7 @@ PatternText::PatternText(const QString& pattern) : m_text(pattern)
         return;
     }
     m_quoted.reserve(static_cast<std::size_t>(m_text.size()));
+    // A doubled apostrophe closes and opens quotes, or the reverse, and so changes nothing.
     bool quoted = false;
     for (const QChar c : m_text) {
         m_quoted.push_back(quoted);
@@ -35,6 +36,23 @@ QString PatternText::fields() const
         }
     }
     return letters;
+}
+
+int PatternText::indexOf(QChar character, int from, Qt::CaseSensitivity cs) const
+{
+    auto position = static_cast<int>(m_text.indexOf(character, from, cs));
+    while (position != -1 && isQuoted(position)) {
+        position = static_cast<int>(m_text.indexOf(character, position + 1, cs));
+    }
+    return position;
+}
+
+int PatternText::endOfQuoted(int position) const
+{
+    constexpr QLatin1Char apostrophe('\'');
+    const bool opens = position < m_text.size() && m_text.at(position) == apostrophe && !isQuoted(position);
+    const auto close = static_cast<int>(opens ? m_text.indexOf(apostrophe, position + 1) : -1);
+    return close == -1 ? position : close + 1;
 }
 
 int PatternText::lastIndexOf(const QString& text) const

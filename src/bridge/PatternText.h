@@ -34,6 +34,12 @@ public:
     /** The letters of all fields in order, without literal text. */
     QString fields() const;
 
+    /** The first position of a character at or after `from`, outside quotes, or -1. */
+    int indexOf(QChar character, int from, Qt::CaseSensitivity cs) const;
+
+    /** The position after the quoted text that opens at a position; the position itself if none does. */
+    int endOfQuoted(int position) const;
+
     /** The last position of a text that does not start inside quotes, or -1. */
     int lastIndexOf(const QString& text) const;
 

@@ -3,7 +3,7 @@
 
 #include "bridge/String.h"
 
-#include <QtCore/QLatin1Char>
+#include "bridge/PatternText.h"
 
 namespace zel::utility::i18n {
 
@@ -20,22 +20,7 @@ icu::UnicodeString String::toICU(const QString& text)
 
 int String::indexOfInFormat(const QString& format, const QChar& character, int from, Qt::CaseSensitivity cs)
 {
-    // Doubled apostrophes count twice and so do not change whether text is quoted.
-    bool quoted = false;
-    int counted = 0;
-    for (;;) {
-        const auto position = static_cast<int>(format.indexOf(character, from, cs));
-        if (position == -1) {
-            return -1;
-        }
-        for (; counted < position; ++counted) {
-            quoted ^= format.at(counted) == QLatin1Char('\'');
-        }
-        if (!quoted) {
-            return position;
-        }
-        from = position + 1;
-    }
+    return PatternText(format).indexOf(character, from, cs);
 }
 
 } // namespace zel::utility::i18n

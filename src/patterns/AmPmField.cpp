@@ -26,26 +26,23 @@ QChar charAt(const QString& text, int position)
 }
 
 // The position after a quoted unit that follows a field directly or after a space, and after the unit's full stop.
-int behindUnit(const QString& format, int fieldEnd)
+int endOfUnit(const QString& format, int fieldEnd)
 {
     const int start = charAt(format, fieldEnd).isSpace() ? fieldEnd + 1 : fieldEnd;
-    if (charAt(format, start) != QLatin1Char('\'')) {
-        return fieldEnd;
-    }
-    const auto end = static_cast<int>(format.indexOf(QLatin1Char('\''), start + 1)) + 1;
-    if (end <= start + 2) { // a literal apostrophe, not a quoted text
+    const int end = PatternText(format).endOfQuoted(start);
+    if (end <= start + 2) { // no quotes, or a literal apostrophe
         return fieldEnd;
     }
     return charAt(format, end) == QLatin1Char('.') ? end + 1 : end;
 }
 
 // The position after the last time field and its unit, or -1.
-int behindTime(const QString& format)
+int endOfTime(const QString& format)
 {
     for (const QChar field : {QLatin1Char('s'), QLatin1Char('m'), QLatin1Char('h')}) {
         const int position = findInFormat(format, field);
         if (position != -1) {
-            return behindUnit(format, position + 1);
+            return endOfUnit(format, position + 1);
         }
     }
     return -1;
@@ -65,14 +62,14 @@ void addBeforeZone(QString& format, int zone)
     }
 }
 
-void addBehindTime(QString& format)
+void addAfterTime(QString& format)
 {
     const int zone = findInFormat(format, QStringLiteral("t"));
     if (zone != -1) {
         addBeforeZone(format, zone);
         return;
     }
-    const int end = behindTime(format);
+    const int end = endOfTime(format);
     format.insert(end == -1 ? static_cast<int>(format.size()) : end, QStringLiteral(" AP"));
 }
 
@@ -133,7 +130,7 @@ void AmPmField::add(QLocale::Language language, QString& pattern)
     const QString first = fieldBeforeHour(language);
     // Without an hour, a Japanese pattern stays as it is; in all others the field goes to the end.
     if ((first.isEmpty() || !addBeforeHour(pattern, first)) && language != QLocale::Japanese) {
-        addBehindTime(pattern);
+        addAfterTime(pattern);
     }
     const int twoDigits = findInFormat(pattern, QStringLiteral("hh"));
     if (twoDigits != -1) {

@@ -3,7 +3,6 @@
 
 #include "texts/Format.h"
 
-#include <algorithm>
 #include <array>
 #include <memory>
 #include <QtCore/QStringList>
@@ -37,18 +36,7 @@ icu::DateFormat::EStyle styleOf(Format::Length length)
 
 bool hasFieldThatQtLacks(const QString& pattern)
 {
-    bool quoted = false;
-    const QChar* const end = pattern.cend();
-    for (const QChar* c = pattern.cbegin(); c != end;) {
-        const QChar* const next = std::find_if(c, end, [c](QChar other) { return other != *c; });
-        const auto* const field = zel::icudata::QtField::find(c->unicode());
-        if (!quoted && field != nullptr && field->text(next - c) == nullptr) {
-            return true;
-        }
-        quoted = quoted != (*c == QLatin1Char('\'') && (next - c) % 2 == 1);
-        c = next;
-    }
-    return false;
+    return !pattern.isEmpty() && zel::icudata::QtField::translate(pattern).isNull();
 }
 
 } // namespace
