@@ -69,9 +69,7 @@ const QString& RelativeDateBatch::phrase(const Step& step)
 QString RelativeDateBatch::makePhrase(const Step& step)
 {
     const DiagnosticSilence silence;
-    const RelativeDateElement::Type element = m_formatter.table.at(step.slot).element;
-    if (m_formatter.wording == RelativeDateWording::Natural && element == RelativeDateElement::Minutes &&
-        step.count == 0) {
+    if (m_formatter.table.isNow(step, m_formatter.wording)) {
         const QString now = NowWord::of(m_formatter.locale);
         if (silence.isBroken() || !now.isEmpty()) {
             return silence.isBroken() ? QString() : now;
@@ -79,6 +77,7 @@ QString RelativeDateBatch::makePhrase(const Step& step)
     }
     std::unique_ptr<ResourceFormatter>& resource = cacheOf(step).resource;
     if (!resource) {
+        const RelativeDateElement::Type element = m_formatter.table.at(step.slot).element;
         resource = std::make_unique<ResourceFormatter>(m_formatter.locale, element, nullptr);
     }
     const QString text = resource->isValid() ? resource->format(step.count) : QString();

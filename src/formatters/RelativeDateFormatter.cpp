@@ -172,12 +172,11 @@ QString RelativeDateFormatterPrivate::format(const QDateTime& dateTime) const
 std::optional<QString> RelativeDateFormatterPrivate::naturalText(const QDateTime& dateTime) const
 {
     const RelativeDistance distance(RelativeDistance::reading(anchorTime), RelativeDistance::reading(dateTime));
-    const int nearDay = table.slotOfNearDay(distance.days());
-    if (nearDay != -1) {
-        return patterns[static_cast<std::size_t>(nearDay)]->format(dateTime, static_cast<int>(distance.days()));
-    }
     const RelativeDateTable::Step step = table.stepOf(distance, wording);
-    if (table.at(step.slot).element == RelativeDateElement::Minutes && step.count == 0) {
+    if (RelativeDateTable::isNear(distance.days())) {
+        return patterns[static_cast<std::size_t>(step.slot)]->format(dateTime, step.count);
+    }
+    if (table.isNow(step, wording)) {
         const QString now = NowWord::of(locale);
         return now.isEmpty() ? std::nullopt : std::make_optional(now);
     }

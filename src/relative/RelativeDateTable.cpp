@@ -16,8 +16,6 @@ using Side = RelativeDateTable::Side;
 using Shown = RelativeDateTable::Shown;
 using Slot = RelativeDateTable::Slot;
 
-constexpr qint64 lastNearDay = 3;
-
 constexpr Slot timeCritical[] = {
     {RelativeDateElement::Years, 1, Counting::Calendar, Side::After, "yMMMM", Shown::Plain},
     {RelativeDateElement::NamedDays, 4, Counting::Calendar, Side::After, "MMMd", Shown::Plain},
@@ -77,13 +75,19 @@ RelativeDateTable::RelativeDateTable(RelativeDateFormat::Type type)
 RelativeDateTable::Step RelativeDateTable::stepOf(const RelativeDistance& distance,
                                                   RelativeDateWording::Type wording) const
 {
-    const int nearDay = wording == RelativeDateWording::Natural ? slotOfNearDay(distance.days()) : -1;
-    const int slot = nearDay != -1 ? nearDay : slotOf(distance);
+    const bool isNamed = wording == RelativeDateWording::Natural && isNear(distance.days());
+    const int slot = isNamed ? slotOfNearDay(distance.days()) : slotOf(distance);
     if (at(slot).shown == Shown::Plain) {
         return {slot, 0};
     }
     const bool isDay = at(slot).element == RelativeDateElement::NamedDays;
     return {slot, static_cast<int>(isDay ? distance.days() : distance.difference(at(slot).element))};
+}
+
+bool RelativeDateTable::isNow(const Step& step, RelativeDateWording::Type wording) const
+{
+    return wording == RelativeDateWording::Natural && at(step.slot).element == RelativeDateElement::Minutes &&
+           step.count == 0;
 }
 
 int RelativeDateTable::slotOf(const RelativeDistance& distance) const
@@ -94,14 +98,11 @@ int RelativeDateTable::slotOf(const RelativeDistance& distance) const
 
 int RelativeDateTable::slotOfNearDay(qint64 days) const
 {
-    if (days == 0 || qAbs(days) > lastNearDay) {
-        return -1;
-    }
     const auto* const slot = std::find_if(begin(), end(), [&](const Slot& each) {
         return each.element == RelativeDateElement::NamedDays &&
                each.side == (days > 0 ? Side::After : Side::AtOrBefore) && qAbs(days) >= each.minimum;
     });
-    return slot == end() ? -1 : static_cast<int>(slot - begin());
+    return static_cast<int>(slot - begin()); // every table has one
 }
 
 } // namespace zel::utility::i18n

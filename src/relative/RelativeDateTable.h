@@ -5,6 +5,7 @@
 #define ZEL_UTILITY_I18N_RELATIVE_RELATIVEDATETABLE_H
 
 #include "relative/RelativeDateElement.h"
+#include <QtCore/QtGlobal>
 #include <zel/utility/i18n/RelativeDateFormat.h>
 #include <zel/utility/i18n/RelativeDateWording.h>
 
@@ -47,6 +48,9 @@ public:
         int count;
     };
 
+    /** Near days are up to this many calendar days away, and formatted by name or weekday. */
+    static constexpr qint64 lastNearDay = 3;
+
     /** The table of a type; empty for an invalid type. */
     explicit RelativeDateTable(RelativeDateFormat::Type type);
 
@@ -58,15 +62,15 @@ public:
     /** The step for a distance. Do not call on an empty table. */
     Step stepOf(const RelativeDistance& distance, RelativeDateWording::Type wording) const;
 
-    /**
-     * The slot for a day by name or weekday, one to three days away, in any year; -1 for any other distance.
-     *
-     * @param days calendar days from the anchor, negative before it
-     */
-    int slotOfNearDay(qint64 days) const;
+    /** Whether the text of a step is the word for now. */
+    bool isNow(const Step& step, RelativeDateWording::Type wording) const;
+
+    /** Whether a day is near, but not today; by its calendar days from the anchor, negative before it. */
+    static bool isNear(qint64 days) { return days != 0 && qAbs(days) <= lastNearDay; }
 
 private:
     int slotOf(const RelativeDistance& distance) const;
+    int slotOfNearDay(qint64 days) const;
 
     const Slot* m_slots = nullptr;
     int m_size = 0;

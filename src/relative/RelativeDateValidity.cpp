@@ -12,7 +12,7 @@ namespace zel::utility::i18n {
 
 namespace {
 
-constexpr qint64 nearDays = 3; // formatted by name or weekday
+constexpr qint64 lastNearDay = RelativeDateTable::lastNearDay;
 
 // The next change of the zone's offset after an instant, both in ms since the epoch.
 std::optional<qint64> nextTransition(const QDateTime& dateTime, qint64 instant)
@@ -113,16 +113,16 @@ std::optional<qint64> RelativeDateValidity::nextCandidate(const Step& step, qint
             return std::nullopt;
         }
         const qint64 sameYear = RelativeDistance::firstDay(RelativeDistance::year(that));
-        const qint64 named = m_wording == RelativeDateWording::Natural ? that - nearDays : sameYear;
+        const qint64 named = m_wording == RelativeDateWording::Natural ? that - lastNearDay : sameYear;
         return std::max(midnight, std::min(sameYear, named) * RelativeDistance::msPerDay);
     }
     case RelativeDateElement::NamedDays:
         break;
     }
-    if (that - today > nearDays) {
-        return (that - nearDays) * RelativeDistance::msPerDay;
+    if (that - today > lastNearDay) {
+        return (that - lastNearDay) * RelativeDistance::msPerDay;
     }
-    if (today - that > nearDays) {
+    if (today - that > lastNearDay) {
         return RelativeDistance::firstDay(RelativeDistance::year(today) + 1) * RelativeDistance::msPerDay;
     }
     return midnight;
