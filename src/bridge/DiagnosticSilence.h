@@ -9,13 +9,13 @@
 namespace zel::utility::i18n {
 
 /**
- * Drops and counts the messages of its thread while it exists: for an attempt that is repeated with messages if it
- * fails.
+ * Drops the messages of its thread while it exists, and remembers whether there were any: for an attempt that is
+ * repeated with messages if it fails.
  *
  * @code
  * const DiagnosticSilence silence;
  * prepare();
- * if (silence.isBroken()) {
+ * if (silence.hasDropped()) {
  *     formatWithoutPreparation();
  * }
  * @endcode
@@ -28,7 +28,7 @@ public:
     Q_DISABLE_COPY_MOVE(DiagnosticSilence)
 
     /** Returns whether a message was dropped. */
-    bool isBroken() const { return m_broken; }
+    bool hasDropped() const { return m_hasDropped; }
 
     /** Drops a message; returns false on a thread without an instance. */
     static bool drop()
@@ -36,14 +36,14 @@ public:
         if (s_current == nullptr) {
             return false;
         }
-        s_current->m_broken = true;
+        s_current->m_hasDropped = true;
         return true;
     }
 
 private:
     inline static thread_local DiagnosticSilence* s_current = nullptr;
     DiagnosticSilence* m_outer;
-    bool m_broken = false;
+    bool m_hasDropped = false;
 };
 
 } // namespace zel::utility::i18n

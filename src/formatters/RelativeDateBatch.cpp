@@ -27,7 +27,7 @@ bool isUsable(const RelativeDateFormatterPrivate& formatter)
     RelativeDate::offset(formatter.anchorTime, formatter.anchorTime, RelativeDateElement::Years);
     RelativeDate::difference(formatter.anchorTime, formatter.anchorTime, RelativeDateElement::Minutes, true);
     DatePattern::formatFromPattern(QStringLiteral("y"), formatter.anchorTime, formatter.locale);
-    return !silence.isBroken();
+    return !silence.hasDropped();
 }
 
 } // namespace
@@ -71,8 +71,8 @@ QString RelativeDateBatch::makePhrase(const Step& step)
     const DiagnosticSilence silence;
     if (m_formatter.table.isNow(step, m_formatter.wording)) {
         const QString now = NowWord::of(m_formatter.locale);
-        if (silence.isBroken() || !now.isEmpty()) {
-            return silence.isBroken() ? QString() : now;
+        if (silence.hasDropped() || !now.isEmpty()) {
+            return silence.hasDropped() ? QString() : now;
         }
     }
     std::unique_ptr<ResourceFormatter>& resource = cacheOf(step).resource;
@@ -81,7 +81,7 @@ QString RelativeDateBatch::makePhrase(const Step& step)
         resource = std::make_unique<ResourceFormatter>(m_formatter.locale, element, nullptr);
     }
     const QString text = resource->isValid() ? resource->format(step.count) : QString();
-    return silence.isBroken() ? QString() : text;
+    return silence.hasDropped() ? QString() : text;
 }
 
 std::optional<QString> RelativeDateBatch::dated(const Step& step, qint64 reading)
@@ -111,7 +111,7 @@ RelativeDateBatch::Format RelativeDateBatch::makeFormat(const Step& step)
     icu::ErrorCode status;
     auto format =
         std::make_unique<icu::SimpleDateFormat>(String::toICU(pattern), Locale::toICU(m_formatter.locale), status);
-    const bool usable = status.isSuccess() && !silence.isBroken();
+    const bool usable = status.isSuccess() && !silence.hasDropped();
     status.reset();
     if (!usable) {
         return {};
