@@ -22,10 +22,11 @@ namespace zel::utility::i18n {
  */
 class DiagnosticSilence
 {
+    Q_DISABLE_COPY_MOVE(DiagnosticSilence)
+
 public:
     DiagnosticSilence() : m_outer(s_current) { s_current = this; }
     ~DiagnosticSilence() { s_current = m_outer; }
-    Q_DISABLE_COPY_MOVE(DiagnosticSilence)
 
     /** Returns whether a message was dropped. */
     bool hasDropped() const { return m_hasDropped; }

@@ -27,10 +27,11 @@ class ResourceFormatter;
  */
 class RelativeDateBatch
 {
+    Q_DISABLE_COPY_MOVE(RelativeDateBatch)
+
 public:
     explicit RelativeDateBatch(const RelativeDateFormatterPrivate& formatter);
     ~RelativeDateBatch();
-    Q_DISABLE_COPY_MOVE(RelativeDateBatch)
 
     /** The text of a moment; none if the moment must be formatted alone. */
     std::optional<QString> format(const QDateTime& dateTime);

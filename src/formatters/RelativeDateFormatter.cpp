@@ -29,10 +29,11 @@ namespace {
 // Counts the running calls of an object, so that it outlives them.
 class Use
 {
+    Q_DISABLE_COPY_MOVE(Use)
+
 public:
     explicit Use(int& uses) : m_uses(uses) { ++m_uses; }
     ~Use() { --m_uses; }
-    Q_DISABLE_COPY_MOVE(Use)
 
 private:
     int& m_uses;
