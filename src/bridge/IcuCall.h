@@ -11,13 +11,13 @@
 namespace zel::utility::i18n {
 
 /**
- * The only way to report a failed ICU call: a message with its error, or that it returned no object, and a message with
- * the consequence.
+ * Reports a failed ICU call: a message with its error, or that it returned no object, and a message with the
+ * consequence. Only calls whose messages have another form are reported without it.
  *
  * @code
+ * constexpr IcuCall call = {"icu::Calendar::setTime( UDate, UErrorCode & )"};
  * if (status.isFailure()) {
- *     IcuCall{"icu::Calendar::setTime( UDate, UErrorCode & )"}.report(status, signature, "failed to set up a
- * calendar");
+ *     call.report(status, signature, "failed to set up a calendar");
  * }
  * @endcode
  */
