@@ -45,14 +45,14 @@ constexpr Element elements[] = {
 constexpr const char* invalidType = "called with invalid element type:";
 
 // The element of a type; null, with a message, if there is none.
-const Element* findElement(RelativeDateElement::Type type, const char* signature, const char* complaint = invalidType)
+const Element* findElement(RelativeDateElement::Type type, const char* signature, const char* error = invalidType)
 {
     for (const Element& element : elements) {
         if (element.type == type) {
             return &element;
         }
     }
-    Diagnostic::write(QtCriticalMsg, signature, complaint, static_cast<int>(type));
+    Diagnostic::write(QtCriticalMsg, signature, error, static_cast<int>(type));
     return nullptr;
 }
 

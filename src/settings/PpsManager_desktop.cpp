@@ -43,7 +43,7 @@ PpsManager::PpsManager(const char* path, const char* map, const char* key, HostS
         "zel::utility::i18n::PpsManager::PpsManager(const char*, const char*, const char*, QObject*)";
     if (!m_source->setting) {
         Diagnostic::write(QtCriticalMsg, signature, "failed to open PPS at", m_path, " : ",
-                          QStringLiteral("no setting of this host stands for it"));
+                          QStringLiteral("this host has no such setting"));
         return;
     }
     // Direct: the manager may belong to no thread.
