@@ -4,6 +4,8 @@
 // Every function of the library once, on the console.
 //
 // usage: example_console
+#include <QtCore/QDateTime>
+#include <QtCore/QObject>
 #include <QtCore/QTextStream>
 #include <zel/utility/i18n/CustomDateFormatter.h>
 #include <zel/utility/i18n/Formatting.h>
@@ -14,6 +16,22 @@ using namespace zel::utility::i18n;
 namespace {
 
 const QDateTime moment(QDate(2012, 9, 3), QTime(22, 30));
+
+// Prints the text of the present moment.
+class Printer : public QObject
+{
+    Q_OBJECT
+
+public:
+    Printer(const RelativeDateFormatter& formatter, QTextStream& out) : m_formatter(formatter), m_out(out) {}
+
+public Q_SLOTS:
+    void print() { m_out << "  as of now: " << m_formatter.format(QDateTime::currentDateTime()) << '\n'; }
+
+private:
+    const RelativeDateFormatter& m_formatter;
+    QTextStream& m_out;
+};
 
 // A pattern is in Qt syntax, for QLocale.
 void showPatterns(QTextStream& out)
@@ -70,9 +88,10 @@ void showRelativeDates(QTextStream& out)
     out << "  in days, as type " << formatter.type() << ": " << formatter.format(moment.addSecs(-300)) << '\n';
 
     // Format texts again when the formatter reports a change.
-    QObject::connect(&formatter, &RelativeDateFormatter::changed,
-                     [&] { out << "  as of now: " << formatter.format(QDateTime::currentDateTime()) << '\n'; });
-    formatter.applyCurrentTimeAsAnchor();
+    const Printer printer(formatter, out);
+    if (QObject::connect(&formatter, SIGNAL(changed()), &printer, SLOT(print()))) {
+        formatter.applyCurrentTimeAsAnchor();
+    }
 }
 
 } // namespace
@@ -85,3 +104,5 @@ int main()
     showCustomDates(out);
     showRelativeDates(out);
 }
+
+#include "console.moc"

@@ -146,11 +146,12 @@ int main(int argc, char* argv[])
     list.setItemDelegate(&delegate);
     list.show();
     Printer printer(list, delegate);
+    bool isReady = delegate.isReady();
     if (QApplication::arguments().contains(QStringLiteral("--print"))) {
         printer.print();
-        QObject::connect(&delegate, SIGNAL(refreshed()), &printer, SLOT(print()));
+        isReady = QObject::connect(&delegate, SIGNAL(refreshed()), &printer, SLOT(print())) && isReady;
     }
-    return delegate.isReady() ? QApplication::exec() : 1;
+    return isReady ? QApplication::exec() : 1;
 }
 
 #include "messages.moc"

@@ -102,11 +102,10 @@ void CustomDateFormatterPrivate::installClockFormatIfNeeded(bool install) const
         return;
     }
     auto created = std::make_unique<ClockSetting>(nullptr);
-    if (!connect(created.get(), SIGNAL(changed()), this, SLOT(onClockFormatChange()))) {
-        Diagnostic::write(QtCriticalMsg,
-                          "void zel::utility::i18n::CustomDateFormatterPrivate::installClockFormatIfNeeded(bool) const",
-                          "failed to connect to zel::utility::i18n::ClockSetting::changed() signal");
-    }
+    Diagnostic::checkConnection(
+        connect(created.get(), SIGNAL(changed()), this, SLOT(onClockFormatChange())),
+        "void zel::utility::i18n::CustomDateFormatterPrivate::installClockFormatIfNeeded(bool) const",
+        "zel::utility::i18n::ClockSetting::changed()");
     // A message handler may have set another skeleton meanwhile.
     if (!clockSetting && hasHours()) {
         clockSetting = std::move(created);
