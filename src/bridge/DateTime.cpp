@@ -12,10 +12,8 @@ UDate DateTime::toICU(const QDateTime& dateTime)
 
 UDate DateTime::wallClock(const QDateTime& dateTime)
 {
-    constexpr qint64 epoch = 2440588; // 1 January 1970 as a Julian day
-    constexpr UDate day = 86'400'000;
-    return day * static_cast<UDate>(QDate::fromJulianDay(epoch).daysTo(dateTime.date())) +
-           dateTime.time().msecsSinceStartOfDay();
+    const qint64 days = QDate::fromJulianDay(julianDayOf1970).daysTo(dateTime.date());
+    return UDate{msPerDay} * static_cast<UDate>(days) + dateTime.time().msecsSinceStartOfDay();
 }
 
 } // namespace zel::utility::i18n

@@ -15,6 +15,9 @@ class DateTime
 public:
     DateTime() = delete;
 
+    static constexpr qint64 msPerDay = 86'400'000;
+    static constexpr qint64 julianDayOf1970 = 2'440'588; ///< the Julian day number of 1 January 1970
+
     /** The instant of a moment. */
     static UDate toICU(const QDateTime& dateTime);
 

@@ -8,11 +8,9 @@
 #include <memory>
 #include <optional>
 #include <QtCore/QDateTime>
-#include <QtCore/QList>
 #include <QtCore/QLocale>
 #include <QtCore/QObject>
 #include <QtCore/QString>
-#include <QtCore/QStringList>
 #include <vector>
 #include <zel/utility/i18n/ClockFormat.h>
 #include <zel/utility/i18n/RelativeDateFormat.h>

@@ -10,7 +10,6 @@ namespace zel::utility::i18n {
 
 namespace {
 
-constexpr qint64 julianDayOf1970 = 2'440'588;
 constexpr qint64 firstGregorianDay = 2'299'161; // 15 October 1582
 constexpr int firstGregorianYear = 1583;        // the first to begin in the Gregorian calendar
 
@@ -48,14 +47,14 @@ qint64 RelativeDistance::day(qint64 reading)
 
 int RelativeDistance::year(qint64 day)
 {
-    const QDate date = QDate::fromJulianDay(day + julianDayOf1970);
+    const QDate date = QDate::fromJulianDay(day + DateTime::julianDayOf1970);
     return date.toJulianDay() < firstGregorianDay ? date.year(julian()) : date.year();
 }
 
 qint64 RelativeDistance::firstDay(int year)
 {
     const QDate date = year < firstGregorianYear ? QDate(year, 1, 1, julian()) : QDate(year, 1, 1);
-    return date.toJulianDay() - julianDayOf1970;
+    return date.toJulianDay() - DateTime::julianDayOf1970;
 }
 
 qint64 RelativeDistance::difference(RelativeDateElement::Type element) const

@@ -4,6 +4,7 @@
 #ifndef ZEL_UTILITY_I18N_RELATIVE_RELATIVEDISTANCE_H
 #define ZEL_UTILITY_I18N_RELATIVE_RELATIVEDISTANCE_H
 
+#include "bridge/DateTime.h"
 #include "relative/RelativeDateElement.h"
 #include <QtCore/QDateTime>
 
@@ -23,7 +24,7 @@ class RelativeDistance
 public:
     static constexpr qint64 msPerMinute = 60'000;
     static constexpr qint64 msPerHour = 60 * msPerMinute;
-    static constexpr qint64 msPerDay = 24 * msPerHour;
+    static constexpr qint64 msPerDay = DateTime::msPerDay;
 
     /** Both in milliseconds from 1970-01-01 00:00 on the wall clock. */
     RelativeDistance(qint64 anchor, qint64 moment);
