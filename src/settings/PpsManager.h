@@ -77,10 +77,6 @@ private:
     /** The source of the attribute; each platform file defines it. */
     class Source;
 
-    /** Reads the object, as refresh() does, and reports a broken one in any case. */
-    bool update(bool announced);
-    void report(const QString& error, const QByteArray& payload, bool again);
-
     /** Returns whether the value changed. */
     bool setValue(const QVariant& value);
 

@@ -20,7 +20,11 @@ public:
     /** Null if the host has no such setting. */
     const std::unique_ptr<zel::host::Setting> setting;
 
-    std::mutex mutex; // held while a value goes from the setting to the manager
+    /** Gives the setting's value to the manager. */
+    void update(PpsManager& manager);
+
+private:
+    std::mutex m_mutex; // held while a value goes from the setting to the manager
 };
 
 } // namespace zel::utility::i18n

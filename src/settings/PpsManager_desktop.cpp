@@ -32,6 +32,18 @@ std::unique_ptr<zel::host::Setting> settingFor(PpsManager::HostSetting setting)
 
 PpsManager::Source::Source(HostSetting host) : setting(settingFor(host)) {}
 
+void PpsManager::Source::update(PpsManager& manager)
+{
+    const DeferredMessages messages;
+    // Both under one lock, so that a value that one thread read is not stored after a later one of another thread.
+    std::unique_lock lock(m_mutex);
+    const bool isOther = manager.setValue(setting->value());
+    lock.unlock();
+    if (isOther) {
+        Q_EMIT manager.changed();
+    }
+}
+
 PpsManager::PpsManager(const char* path, const char* map, const char* key, HostSetting host, QObject* parent)
     : QObject(parent),
       m_source(std::make_unique<Source>(host)),
@@ -57,7 +69,10 @@ PpsManager::~PpsManager() = default;
 
 bool PpsManager::refresh()
 {
-    return !m_source->setting || update(false);
+    if (m_source->setting) {
+        m_source->update(*this);
+    }
+    return true;
 }
 
 void PpsManager::onPpsUpdate()
@@ -67,20 +82,7 @@ void PpsManager::onPpsUpdate()
                           "called without a PpsObject");
         return;
     }
-    update(true);
-}
-
-bool PpsManager::update(bool /*announced*/)
-{
-    const DeferredMessages messages;
-    // Both under one lock, so that a value that one thread read is not stored after a later one of another thread.
-    std::unique_lock lock(m_source->mutex);
-    const bool isOther = setValue(m_source->setting->value());
-    lock.unlock();
-    if (isOther) {
-        Q_EMIT changed();
-    }
-    return true;
+    m_source->update(*this);
 }
 
 } // namespace zel::utility::i18n

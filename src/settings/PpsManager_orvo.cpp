@@ -27,9 +27,56 @@ class PpsManager::Source : public zel::PpsObject
 public:
     using PpsObject::PpsObject;
 
+    // Reads the object into the manager's value. A broken object is reported each time it is announced, and otherwise
+    // once. Returns false if the object is being written and cannot be read.
+    bool update(PpsManager& manager, bool announced);
+
     std::shared_mutex mutex; // guards everything except notification
-    QByteArray failure;      // what was last reported
+
+private:
+    void report(const char* path, const QString& error, const QByteArray& payload, bool again);
+
+    QByteArray m_failure; // what was last reported
 };
+
+bool PpsManager::Source::update(PpsManager& manager, bool announced)
+{
+    const DeferredMessages messages;
+    std::unique_lock lock(mutex);
+    bool ok = false;
+    const QByteArray payload = read(&ok);
+    const QString error = ok ? QString() : errorString();
+    const QVariantMap record = decode(payload, &ok);
+    if (!ok) {
+        const bool unsettled = !announced && !isCurrent();
+        if (!unsettled || !error.isEmpty()) {
+            report(manager.m_path, error, payload, announced);
+        }
+        return !unsettled;
+    }
+    m_failure.clear();
+    const QVariantMap attributes = record.value(QString::fromLatin1(manager.m_map)).toMap();
+    const bool isOther = manager.setValue(attributes.value(QString::fromLatin1(manager.m_key)));
+    lock.unlock();
+    if (isOther) {
+        Q_EMIT manager.changed();
+    }
+    return true;
+}
+
+void PpsManager::Source::report(const char* path, const QString& error, const QByteArray& payload, bool again)
+{
+    const QByteArray failure = error.toUtf8() + payload;
+    const bool isNews = failure != std::exchange(m_failure, failure);
+    if (!isNews && !again) {
+        return;
+    }
+    if (error.isEmpty()) {
+        Diagnostic::write(QtWarningMsg, updateSignature, "failed to decode PPS payload from", path);
+    } else {
+        Diagnostic::write(QtWarningMsg, updateSignature, "failed to read PPS at", path, " : ", error);
+    }
+}
 
 PpsManager::PpsManager(const char* path, const char* map, const char* key, HostSetting /*host*/, QObject* parent)
     : QObject(parent),
@@ -66,7 +113,7 @@ bool PpsManager::refresh()
             return true;
         }
     }
-    return update(false);
+    return m_source->update(*this, false);
 }
 
 void PpsManager::onPpsUpdate()
@@ -75,45 +122,7 @@ void PpsManager::onPpsUpdate()
         Diagnostic::write(QtCriticalMsg, updateSignature, "called without a PpsObject");
         return;
     }
-    update(true);
-}
-
-bool PpsManager::update(bool announced)
-{
-    const DeferredMessages messages;
-    std::unique_lock lock(m_source->mutex);
-    bool ok = false;
-    const QByteArray payload = m_source->read(&ok);
-    const QString error = ok ? QString() : m_source->errorString();
-    const QVariantMap record = zel::PpsObject::decode(payload, &ok);
-    if (!ok) {
-        const bool unsettled = !announced && !m_source->isCurrent();
-        if (!unsettled || !error.isEmpty()) {
-            report(error, payload, announced);
-        }
-        return !unsettled;
-    }
-    m_source->failure.clear();
-    const bool isOther = setValue(record.value(QString::fromLatin1(m_map)).toMap().value(QString::fromLatin1(m_key)));
-    lock.unlock();
-    if (isOther) {
-        Q_EMIT changed();
-    }
-    return true;
-}
-
-void PpsManager::report(const QString& error, const QByteArray& payload, bool again)
-{
-    const QByteArray failure = error.toUtf8() + payload;
-    const bool isNews = failure != std::exchange(m_source->failure, failure);
-    if (!isNews && !again) {
-        return;
-    }
-    if (error.isEmpty()) {
-        Diagnostic::write(QtWarningMsg, updateSignature, "failed to decode PPS payload from", m_path);
-    } else {
-        Diagnostic::write(QtWarningMsg, updateSignature, "failed to read PPS at", m_path, " : ", error);
-    }
+    m_source->update(*this, true);
 }
 
 } // namespace zel::utility::i18n
