@@ -95,11 +95,8 @@ CommandHelp DeviceCommand::help() const
                            "follow immediately. The settings are:\n\n"
                            "  hour-format   12 or 24: the clock\n"
                            "  time-zone     a time zone that ICU knows, such as Europe/Berlin\n"
-                           "  region        the locale for dates, times and numbers, such as de_DE\n\n"
-                           "They are stored below the directory ZEL_PPS_ROOT (default: /). All values are checked\n"
-                           "before the first is written. Other attributes of a settings object are kept. An\n"
-                           "object that cannot be decoded is overwritten only with --replace. Without a settings\n"
-                           "directory, --create is required."),
+                           "  region        the locale for dates, times and numbers, such as de_DE\n\n") +
+                Device::howToChange(),
             QStringLiteral("device\n"
                            "device get region\n"
                            "device set hour-format=24 time-zone=Europe/Berlin\n"

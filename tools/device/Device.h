@@ -21,6 +21,9 @@ namespace Device {
 /** The value of a setting; none if it is not set. Throws a Failure if it cannot be read. */
 std::optional<QString> get(const QString& key);
 
+/** A paragraph for the help on set() and unset(). */
+QString howToChange();
+
 /** Actions that set() must be allowed to take. */
 struct Permissions
 {

@@ -15,16 +15,20 @@ namespace {
 // The settings of this process, if it overrides them.
 std::optional<QMap<QString, QString>> ownSettings;
 
-QString advice(const QString& key)
+// How to change a setting, with an example value or the given one.
+QString advice(const QString& key, const QString& value = {})
 {
-    static const QMap<QString, QString> ways = {
-        {Assignments::hourFormat(), QStringLiteral("change it in the settings of the desktop, or with "
-                                                   "'gsettings set org.gnome.desktop.interface clock-format 24h'")},
-        {Assignments::timeZone(),
-         QStringLiteral("change it with 'timedatectl set-timezone Europe/Berlin', or for one program with TZ")},
-        {Assignments::region(),
-         QStringLiteral("change it with 'localectl set-locale LC_TIME=de_DE.UTF-8', or for one program with LC_TIME")}};
-    return ways.value(key);
+    if (key == Assignments::hourFormat()) {
+        return QStringLiteral("change it in the settings of the desktop, or with "
+                              "'gsettings set org.gnome.desktop.interface clock-format %1h'")
+            .arg(value.isEmpty() ? QStringLiteral("24") : value);
+    }
+    if (key == Assignments::timeZone()) {
+        return QStringLiteral("change it with 'timedatectl set-timezone %1', or for one program with TZ")
+            .arg(value.isEmpty() ? QStringLiteral("Europe/Berlin") : value);
+    }
+    return QStringLiteral("change it with 'localectl set-locale LC_TIME=%1.UTF-8', or for one program with LC_TIME")
+        .arg(value.isEmpty() ? QStringLiteral("de_DE") : value);
 }
 
 // The host setting, read independently of the library.
@@ -37,10 +41,10 @@ std::unique_ptr<zel::host::Setting> hostSetting(const QString& key, int portalTi
                                           : zel::host::region(&zel::host::ignore);
 }
 
-void requireOwn(const QString& key)
+void requireOwn(const QString& key, const QString& value = {})
 {
     if (!ownSettings) {
-        throw Failure(key + QStringLiteral(" belongs to the desktop: ") + advice(key));
+        throw Failure(key + QStringLiteral(" belongs to the desktop: ") + advice(key, value));
     }
 }
 
@@ -81,10 +85,16 @@ std::optional<QString> Device::get(const QString& key)
     return value.isEmpty() ? std::nullopt : std::make_optional(value);
 }
 
+QString Device::howToChange()
+{
+    return QStringLiteral("They are settings of the desktop: 'set' and 'unset' change nothing here, and report how to\n"
+                          "change each.");
+}
+
 void Device::set(const QMap<QString, QString>& values, Permissions /*permissions*/)
 {
     for (auto value = values.begin(); value != values.end(); ++value) {
-        requireOwn(value.key());
+        requireOwn(value.key(), value.value());
         ownSettings->insert(value.key(), value.value());
     }
     takeOwnSettings();

@@ -164,6 +164,14 @@ std::optional<QString> Device::get(const QString& key)
     return value.isValid() ? std::make_optional(value.toString()) : std::nullopt;
 }
 
+QString Device::howToChange()
+{
+    return QStringLiteral("They are stored below the directory ZEL_PPS_ROOT (default: /). All values are checked\n"
+                          "before the first is written. Other attributes of a settings object are kept. An\n"
+                          "object that cannot be decoded is overwritten only with --replace. Without a settings\n"
+                          "directory, --create is required.");
+}
+
 void Device::set(const QMap<QString, QString>& values, Permissions permissions)
 {
     if (!permissions.create) {
