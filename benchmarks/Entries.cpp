@@ -47,7 +47,7 @@ private:
 };
 
 const QLocale locale(QStringLiteral("en_US"));
-const QDateTime anchor(QDate(2012, 5, 16), QTime(10, 30));
+const QDateTime anchor(QDate(2012, 9, 3), QTime(10, 30));
 const QString dateSkeleton = QStringLiteral("yMMMd");
 const QString timeSkeleton = QStringLiteral("yMMMdhm");
 const QString zoneSkeleton = QStringLiteral("yMMMdhmz");

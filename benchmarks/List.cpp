@@ -17,7 +17,7 @@ using namespace zel::utility::i18n;
 constexpr int few = 1000; // ways with a constant cost per moment are not measured with more
 
 const QLocale locale(QStringLiteral("en_US"));
-const QDateTime anchor(QDate(2012, 5, 16), QTime(10, 30));
+const QDateTime anchor(QDate(2012, 9, 3), QTime(10, 30));
 const QString skeleton = QStringLiteral("yMMMdHm");
 
 // One text after the other.

@@ -17,7 +17,7 @@ namespace {
 
 using namespace zel::utility::i18n;
 
-const QDateTime moment(QDate(2012, 5, 16), QTime(10, 30));
+const QDateTime moment(QDate(2012, 9, 3), QTime(10, 30));
 const QLocale locale(QStringLiteral("en_US"));
 
 void run(benchmark::State& state, const std::function<QString()>& side)

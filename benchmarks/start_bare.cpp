@@ -33,7 +33,7 @@ UDate moment()
 {
 #ifdef ZEL_WITH_QT
     return static_cast<UDate>(
-        QDateTime::fromString(QStringLiteral("2012-05-16T10:30Z"), Qt::ISODate).toMSecsSinceEpoch());
+        QDateTime::fromString(QStringLiteral("2012-09-03T10:30Z"), Qt::ISODate).toMSecsSinceEpoch());
 #else
     return 1337164200000.0;
 #endif

@@ -11,7 +11,7 @@ int main()
 {
     const Stopwatch stopwatch;
     const zel::utility::i18n::CustomDateFormatter formatter(QStringLiteral("yMMMd"));
-    const QString text = formatter.format(QDateTime::fromString(QStringLiteral("2012-05-16T10:30Z"), Qt::ISODate));
+    const QString text = formatter.format(QDateTime::fromString(QStringLiteral("2012-09-03T10:30Z"), Qt::ISODate));
     stopwatch.stop();
     std::puts(text.toUtf8().constData());
     return 0;

@@ -88,7 +88,7 @@ public:
     {
         ZEL_REQUIRE(
             QObject::connect(&m_formatter, &RelativeDateFormatter::changed, &m_formatter, [this] { ++m_changes; }));
-        m_formatter.setAnchorTime(QDateTime(QDate(2012, 5, 16), QTime(10, 30), Qt::UTC));
+        m_formatter.setAnchorTime(QDateTime(QDate(2012, 9, 3), QTime(10, 30), Qt::UTC));
         m_changes = 0;
     }
 

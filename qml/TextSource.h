@@ -23,10 +23,11 @@ struct DatedText
 /** Makes the texts of all elements that share its settings. */
 class TextSource
 {
+    Q_DISABLE_COPY_MOVE(TextSource)
+
 public:
     TextSource() = default;
     virtual ~TextSource() = default;
-    Q_DISABLE_COPY_MOVE(TextSource)
 
     /** The texts of many moments as of an anchor time, in order. */
     virtual QList<DatedText> texts(const QList<QDateTime>& moments, const QDateTime& anchor) = 0;

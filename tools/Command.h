@@ -28,10 +28,11 @@ struct CommandHelp
 /** One of the program's commands. */
 class Command
 {
+    Q_DISABLE_COPY_MOVE(Command)
+
 public:
     Command() = default;
     virtual ~Command() = default;
-    Q_DISABLE_COPY_MOVE(Command)
 
     virtual CommandHelp help() const = 0;
 

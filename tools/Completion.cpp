@@ -117,7 +117,7 @@ Completion::Proposals Completion::arguments(const Command& command, const QStrin
 try {
     return withoutDescriptions({}, command.proposals(Arguments(command.allOptions(), before).positional(), word));
 } catch (const Failure&) {
-    return {}; // no such command
+    return {}; // the words before are invalid
 }
 
 Completion::Proposals Completion::commands() const

@@ -6,8 +6,6 @@
 
 #include "terminal/Failure.h"
 #include <memory>
-#include <QtCore/QCommandLineOption>
-#include <QtCore/QList>
 #include <QtCore/QStringList>
 #include <vector>
 
@@ -19,10 +17,11 @@ class Console;
 /** The program: its commands, and the dispatch of a command line to one of them. */
 class Program
 {
+    Q_DISABLE_COPY_MOVE(Program)
+
 public:
     Program();
     ~Program();
-    Q_DISABLE_COPY_MOVE(Program)
 
     /** @param words the command line without the name of the program */
     ExitStatus run(const QStringList& words, Console& console) const;

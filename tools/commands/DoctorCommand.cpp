@@ -11,7 +11,6 @@
 #include <array>
 #include <dlfcn.h>
 #include <QtCore/QFileInfo>
-#include <QtCore/QJsonArray>
 #include <string>
 #include <unicode/resbund.h>
 #include <unicode/timezone.h>

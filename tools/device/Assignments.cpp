@@ -75,7 +75,7 @@ void Assignments::requireKey(const QString& key)
     }
 }
 
-QString Assignments::fault(const QString& key, const QString& value)
+QString Assignments::error(const QString& key, const QString& value)
 {
     if (key == hourFormat()) {
         const bool good = valuesOf(key).contains(value);
@@ -111,9 +111,9 @@ QMap<QString, QString> Assignments::parse(const QStringList& words)
             throw Failure::usage(key + QStringLiteral(" was given more than once"));
         }
         values[key] = word.mid(sign + 1);
-        const QString wrong = fault(key, values[key]);
-        if (!wrong.isEmpty()) {
-            throw Failure(wrong);
+        const QString reason = error(key, values[key]);
+        if (!reason.isEmpty()) {
+            throw Failure(reason);
         }
     }
     return values;

@@ -22,7 +22,7 @@ QStringList keys();
 void requireKey(const QString& key);
 
 /** The reason why a value is invalid; empty if it is valid. */
-QString fault(const QString& key, const QString& value);
+QString error(const QString& key, const QString& value);
 
 /** The words KEY=VALUE for the key of a word that has one; otherwise KEY= for all keys. */
 QStringList proposals(const QString& word);

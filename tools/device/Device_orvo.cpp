@@ -51,7 +51,7 @@ SettingsObject objectOf(const QString& key, bool replace = false)
 {
     SettingsObject object(placeOf(key).object);
     if (object.state() == SettingsObject::Unreadable || (object.state() == SettingsObject::Torn && !replace)) {
-        throw Failure(object.fault());
+        throw Failure(object.error());
     }
     return object;
 }
@@ -111,11 +111,11 @@ Finding examineObject(const QString& path)
     case SettingsObject::Missing:
         return {Finding::Note, subject, PpsObject::filePath(path) + QLatin1String(": missing"), {}};
     case SettingsObject::Torn:
-        return {Finding::Wrong, subject, object.fault(), QStringLiteral("'device set --replace' overwrites it")};
+        return {Finding::Wrong, subject, object.error(), QStringLiteral("'device set --replace' overwrites it")};
     case SettingsObject::Unreadable:
         break;
     }
-    return {Finding::Wrong, subject, object.fault(), QStringLiteral("make it a readable file")};
+    return {Finding::Wrong, subject, object.error(), QStringLiteral("make it a readable file")};
 }
 
 // The default of a setting that is not set, and the reason.
@@ -150,9 +150,9 @@ Finding examineSetting(const QString& key)
         return {Finding::Note, key, fallback(key), example(key)};
     }
     const QString source = QStringLiteral("%1, from %2").arg(value.toString(), PpsObject::filePath(place.object));
-    const QString fault = Assignments::fault(key, value.toString());
-    return fault.isEmpty() ? Finding{Finding::Good, key, source, {}}
-                           : Finding{Finding::Wrong, key, source + QLatin1String(": ") + fault, example(key)};
+    const QString error = Assignments::error(key, value.toString());
+    return error.isEmpty() ? Finding{Finding::Good, key, source, {}}
+                           : Finding{Finding::Wrong, key, source + QLatin1String(": ") + error, example(key)};
 }
 
 } // namespace
@@ -181,7 +181,7 @@ void Device::set(const QMap<QString, QString>& values, Permissions permissions)
     for (const QString& key : values.keys()) {
         const SettingsObject object(placeOf(key).object);
         if (object.state() == SettingsObject::Torn && !permissions.replace) {
-            throw Failure(object.fault() + QStringLiteral("; --replace overwrites it"));
+            throw Failure(object.error() + QStringLiteral("; --replace overwrites it"));
         }
         objectOf(key, permissions.replace);
     }

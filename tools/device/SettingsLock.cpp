@@ -22,7 +22,7 @@ namespace {
 
 constexpr mode_t readableByAll = 022;
 constexpr int timeoutMs = 10000;
-constexpr unsigned long pause = 5;
+constexpr unsigned long pollIntervalMs = 5;
 
 // Does not wait. Returns 0 or an errno.
 int lock(int directory)
@@ -41,7 +41,7 @@ SettingsLock::SettingsLock(const QString& path) : m_umask(::umask(readableByAll)
     QElapsedTimer timer;
     timer.start();
     while (error == EWOULDBLOCK && !timer.hasExpired(timeoutMs)) {
-        QThread::msleep(pause);
+        QThread::msleep(pollIntervalMs);
         error = lock(m_directory);
     }
     // If there is no directory, the write reports it.

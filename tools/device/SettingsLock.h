@@ -18,10 +18,11 @@ namespace zel::tool {
  */
 class SettingsLock
 {
+    Q_DISABLE_COPY_MOVE(SettingsLock)
+
 public:
     explicit SettingsLock(const QString& path);
     ~SettingsLock();
-    Q_DISABLE_COPY_MOVE(SettingsLock)
 
 private:
     mode_t m_umask;

@@ -4,7 +4,6 @@
 #include "device/SettingsObject.h"
 
 #include "terminal/Failure.h"
-#include <QtCore/QFileInfo>
 #include <zel/PpsObject.h>
 
 namespace zel::tool {
@@ -30,7 +29,7 @@ void SettingsObject::read()
     const QString file = PpsObject::filePath(m_path);
     const QByteArray contents = object.read(&ok);
     if (!ok) {
-        fail(QFileInfo::exists(file) ? Torn : Missing, object.errorString());
+        fail(object.exists() ? Torn : Missing, object.errorString());
         return;
     }
     QString error;
@@ -43,10 +42,10 @@ void SettingsObject::read()
     m_attributes = record.value(name()).toMap();
 }
 
-void SettingsObject::fail(State state, const QString& fault)
+void SettingsObject::fail(State state, const QString& error)
 {
     m_state = state;
-    m_fault = fault;
+    m_error = error;
 }
 
 void SettingsObject::write(const QVariantMap& attributes) const

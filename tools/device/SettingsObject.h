@@ -25,7 +25,7 @@ public:
 
     State state() const { return m_state; }
     /** The file and the reason why it cannot be used. */
-    QString fault() const { return m_fault; }
+    QString error() const { return m_error; }
     QVariantMap attributes() const { return m_attributes; }
 
     /** Writes the object with these attributes and no others. */
@@ -34,11 +34,11 @@ public:
 private:
     QString name() const;
     void read();
-    void fail(State state, const QString& fault);
+    void fail(State state, const QString& error);
 
     QString m_path;
     State m_state = Readable;
-    QString m_fault;
+    QString m_error;
     QVariantMap m_attributes;
 };
 

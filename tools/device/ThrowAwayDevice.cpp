@@ -6,7 +6,6 @@
 #include "device/Assignments.h"
 #include "device/Device.h"
 #include "terminal/Failure.h"
-#include <QtCore/QFile>
 
 namespace zel::tool {
 

@@ -9,7 +9,10 @@
 
 namespace zel::tool {
 
-/** A simulated device: while this object exists, the settings of the process are those of a temporary directory. */
+/**
+ * A simulated device: the settings of the process are those of a temporary directory, which lives as long as this object.
+ * The process does not get its former settings back.
+ */
 class ThrowAwayDevice
 {
 public:

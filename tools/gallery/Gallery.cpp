@@ -25,12 +25,12 @@ namespace {
 // A change of the device reaches the library through the event loop.
 void useClock(const QString& clock)
 {
-    constexpr int timeout = 5000;
+    constexpr int timeoutMs = 5000;
     Device::set({{Assignments::hourFormat(), clock}}, {});
     QElapsedTimer timer;
     timer.start();
     while (libraryClock() != clock.toInt()) {
-        if (timer.elapsed() > timeout) {
+        if (timer.elapsed() > timeoutMs) {
             throw Failure(QStringLiteral("the library does not follow the clock of the device"));
         }
         QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 50);

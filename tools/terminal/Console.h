@@ -18,6 +18,8 @@ namespace zel::tool {
  */
 class Console
 {
+    Q_DISABLE_COPY_MOVE(Console)
+
 public:
     /** Thrown when a signal requests termination. */
     struct Interrupted
@@ -33,7 +35,6 @@ public:
 
     Console();
     ~Console();
-    Q_DISABLE_COPY_MOVE(Console)
 
     void line(const QString& text);
     /** Prints one JSON document on a line. */

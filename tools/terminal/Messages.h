@@ -12,10 +12,11 @@ namespace zel::tool {
 /** Collects the messages of the library, instead of standard error, while it exists. One at a time, on one thread. */
 class Messages
 {
+    Q_DISABLE_COPY_MOVE(Messages)
+
 public:
     Messages() : m_previous(qInstallMessageHandler(&Messages::handle)) { s_taken.clear(); }
     ~Messages() { qInstallMessageHandler(m_previous); }
-    Q_DISABLE_COPY_MOVE(Messages)
 
     /** The messages since the last call. */
     QStringList take();

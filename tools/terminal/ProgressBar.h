@@ -11,10 +11,11 @@ namespace zel::tool {
 /** A progress bar on standard error, if that is a terminal; erased at the end. */
 class ProgressBar
 {
+    Q_DISABLE_COPY_MOVE(ProgressBar)
+
 public:
     explicit ProgressBar(qint64 total);
     ~ProgressBar() { erase(); }
-    Q_DISABLE_COPY_MOVE(ProgressBar)
 
     /** Starts the next step. */
     void step(const QString& name) { show(m_done++, name); }

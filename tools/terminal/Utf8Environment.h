@@ -17,10 +17,11 @@ namespace zel::tool {
  */
 class Utf8Environment
 {
+    Q_DISABLE_COPY_MOVE(Utf8Environment)
+
 public:
     Utf8Environment();
     ~Utf8Environment();
-    Q_DISABLE_COPY_MOVE(Utf8Environment)
 
 private:
     bool m_changed = false;
