@@ -59,8 +59,7 @@ public:
     QDateTime sourceMoment();
     virtual QDateTime fixedAnchor() const { return {}; }
     qint64 dueTime() const { return m_isActive && !fixedAnchor().isValid() ? m_validUntil : DatedText::never; }
-    /** Counts the changes of the text and of what it is made from. A text made before the last change is out of date.
-     */
+    /** The number of changes of the text and of its properties. A text made before the last one is out of date. */
     quint32 revision() const { return m_revision; }
     void receive(const DatedText& text);
     void forgetSource();

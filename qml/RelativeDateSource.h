@@ -30,11 +30,11 @@ public:
 
     /**
      * The wall-clock reading of a moment, as a time in UTC. The formatter only compares such readings, and in UTC they
-     * are cheap. The time zone comes in again where a reading is turned into a time.
+     * are cheap. Where a reading is converted to a time, the time zone counts again.
      */
     static QDateTime reading(const QDateTime& dateTime);
 
-    /** The moments are readings, the anchor is a time. A change of the local clock's offset is not counted in. */
+    /** The moments are readings, the anchor is a time. Changes of the zone's offset are ignored. */
     QList<DatedText> texts(const QList<QDateTime>& moments, const QDateTime& anchor) override;
 
     /** The answer of RelativeDateFormatter::validUntil(). */

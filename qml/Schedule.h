@@ -18,7 +18,7 @@ class DateText;
 class Schedule
 {
 public:
-    /** Adds an element, or changes when it is due: DatedText::never while it is not to be renewed. */
+    /** Adds an element, or changes its due time: DatedText::never if its text stays as it is. */
     void set(DateText* element, qint64 dueTime);
     void remove(DateText* element);
 
@@ -26,7 +26,7 @@ public:
 
     /** When the first element is due, or DatedText::never. */
     qint64 first();
-    /** The elements that are due at a time, at most a number of them. They are not due again until set() says so. */
+    /** Takes the elements that are due at a time, up to a number of them. After that, set() makes them due again. */
     QList<DateText*> take(qint64 time, qsizetype count);
 
 private:

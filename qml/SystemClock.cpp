@@ -4,18 +4,13 @@
 #include "SystemClock.h"
 
 #include <algorithm>
-#include <limits>
-#include <QtCore/QLoggingCategory>
-#include <QtCore/QSocketNotifier>
-#ifdef Q_OS_LINUX
 #include <ctime>
+#include <limits>
+#include <QtCore/QSocketNotifier>
 #include <sys/timerfd.h>
 #include <unistd.h>
-#endif
 
 namespace zel::utility::i18n::qml {
-
-#ifdef Q_OS_LINUX
 
 namespace {
 
@@ -65,20 +60,5 @@ void SystemClock::onReadable()
     }
     Q_EMIT changed();
 }
-
-#else
-
-SystemClock::SystemClock(QObject* parent) : QObject(parent), m_timer(-1) {}
-
-SystemClock::~SystemClock() = default;
-
-bool SystemClock::watch() const
-{
-    return false;
-}
-
-void SystemClock::onReadable() {}
-
-#endif
 
 } // namespace zel::utility::i18n::qml

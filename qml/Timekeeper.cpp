@@ -135,7 +135,7 @@ void Timekeeper::onTimeout()
     if (isTransition) {
         makeAllDue();
     }
-    renew(m_schedule.take(now, blockSize)); // the timer is at the others at once
+    renew(m_schedule.take(now, blockSize)); // for others that are due, the timer expires at once
 }
 
 void Timekeeper::onSettingsChanged()

@@ -33,7 +33,7 @@ public:
     void add(DateText* element) { suspend(element); }
     void remove(DateText* element);
 
-    /** Leaves an element as it is until it is to be renewed later, or settings change. */
+    /** Keeps the text of an element until renewLater(), or until settings change. */
     void suspend(DateText* element) { m_schedule.set(element, DatedText::never); }
 
     /** Renews an element with all others that wait, before the next frame. */
