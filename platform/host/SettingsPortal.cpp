@@ -81,7 +81,7 @@ QString explanation(const QDBusError& error)
     if (error.name() == QLatin1String("org.freedesktop.portal.Error.NotFound")) {
         return QStringLiteral("the settings portal does not have the setting");
     }
-    return QStringLiteral("the settings portal does not tell: ") + error.message();
+    return QStringLiteral("the settings portal answered with an error: ") + error.message();
 }
 
 // Errors that end without a signal.
