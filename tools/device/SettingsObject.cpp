@@ -4,6 +4,7 @@
 #include "device/SettingsObject.h"
 
 #include "terminal/Failure.h"
+#include <QtCore/QFileInfo>
 #include <zel/PpsObject.h>
 
 namespace zel::tool {
@@ -29,7 +30,7 @@ void SettingsObject::read()
     const QString file = PpsObject::filePath(m_path);
     const QByteArray contents = object.read(&ok);
     if (!ok) {
-        fail(object.exists() ? Torn : Missing, object.errorString());
+        fail(QFileInfo::exists(file) ? Torn : Missing, object.errorString());
         return;
     }
     QString error;

@@ -10,8 +10,8 @@
 namespace zel::tool {
 
 /**
- * A simulated device: the settings of the process are those of a temporary directory, which lives as long as this object.
- * The process does not get its former settings back.
+ * A simulated device: the settings of the process are those of a temporary directory, which lives as long as this
+ * object. The process does not get its former settings back.
  */
 class ThrowAwayDevice
 {
