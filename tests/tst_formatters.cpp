@@ -13,6 +13,7 @@
 #include <memory>
 #include <QtCore/QMetaMethod>
 #include <QtCore/QMetaProperty>
+#include <QtCore/QRegularExpression>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 #include <zel/utility/i18n/CustomDateFormatter.h>

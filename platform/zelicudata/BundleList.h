@@ -19,8 +19,8 @@ namespace zel::icudata {
  * The list of the bundles in a data directory, with their sizes and checksums.
  *
  * ICU trusts its data: it shows another language if a bundle is damaged at its start, reads past the end of a truncated
- * one, and finds nothing in bundles that were made with another pool of keys and texts. problemOf() detects these before
- * ICU reads them.
+ * one, and finds nothing in bundles that were made with another pool of keys and texts. problemOf() detects these
+ * before ICU reads them.
  */
 class BundleList
 {
